@@ -1,0 +1,95 @@
+#include "control/ORXQueryPrnProp.h"
+
+#include <algorithm>
+#include <memory>
+#include <type_traits>
+#include <utility>
+
+#include "control/SharedValues.h"
+#include "tables/Conversions.h"
+#include "tables/TableCalls.h"
+
+namespace ORXKMPrintProp {
+namespace {
+
+constexpr std::int16_t kTotalsRowButton = 4;
+
+/// As variants compare: numbers of any type by their value, and a text equals no number.
+bool IsTotalsRowButton(const Variant& buttonId) {
+  return std::visit(
+      [](const auto& value) {
+        if constexpr (std::is_arithmetic_v<std::decay_t<decltype(value)>>) {
+          return static_cast<double>(value) == kTotalsRowButton;
+        } else {
+          return false;
+        }
+      },
+      buttonId);
+}
+
+std::int16_t LayoutSlot(const Variant& buttonId) {
+  return std::holds_alternative<std::monostate>(buttonId) ? std::int16_t{0} : ToInteger(buttonId);
+}
+
+}  // namespace
+
+bool ORXQueryPrnProp::ORXSetPrnTables(TableRef GenPropTable, TableRef DimTable, TableRef MemTable, TableRef AtrTable) {
+  for (const TableRef& table : {GenPropTable, DimTable, MemTable, AtrTable}) Needed(table);
+
+  gPrnProp.reset();
+  // Held, since a table may load other settings from inside an operation.
+  const auto root = std::make_shared<PrnPropCls>();
+  gPrnProp = root;
+  const bool loaded = root->FromTable(GenPropTable, DimTable, MemTable, AtrTable);
+
+  mGenPropTable = std::move(GenPropTable);
+  mDimTable = std::move(DimTable);
+  mMemTable = std::move(MemTable);
+  mAtrTable = std::move(AtrTable);
+  const TableRef general = mGenPropTable;
+  RowsOf(*general)->RemoveAll();
+  return loaded;
+}
+
+TableRef ORXQueryPrnProp::ReadBack(const TableRef ORXQueryPrnProp::*table) {
+  const std::shared_ptr<PrnPropCls> root = gPrnProp;
+  if (!root || !mGenPropTable) return nullptr;
+  // The fields may change under the call: a table may load other settings from inside an operation.
+  const bool written =
+      root->ToTable(TableRef(mGenPropTable), TableRef(mDimTable), TableRef(mMemTable), TableRef(mAtrTable));
+  return written ? this->*table : nullptr;
+}
+
+TableRef ORXQueryPrnProp::ORXGenPropTable() { return ReadBack(&ORXQueryPrnProp::mGenPropTable); }
+TableRef ORXQueryPrnProp::ORXDimTable() { return ReadBack(&ORXQueryPrnProp::mDimTable); }
+TableRef ORXQueryPrnProp::ORXMemTable() { return ReadBack(&ORXQueryPrnProp::mMemTable); }
+TableRef ORXQueryPrnProp::ORXAtrTable() { return ReadBack(&ORXQueryPrnProp::mAtrTable); }
+
+bool ORXQueryPrnProp::ORXControlTexts(TableRef TextTable) {
+  gTextTable = Needed(std::move(TextTable));
+  const TableRef table = gTextTable;
+  const Variant index = Needed(table->Columns(u"TARGETID"))->Index();
+  Needed(table->Columns())->KeyColumn(index);
+  return false;
+}
+
+Variant ORXQueryPrnProp::ORXSetPrintLayout(Text FBLayout, const Variant& ButtonID, const Text& CharIObjName) {
+  if (!gPrnProp) throw RunTimeError(ErrorKind::Index, u"No settings are loaded, so there is no place for a layout.");
+  if (!IsTotalsRowButton(ButtonID)) {
+    gPrnProp->FBLayout(LayoutSlot(ButtonID), std::move(FBLayout));
+    return {};
+  }
+  const auto& characteristics = gPrnProp->Characteristics();
+  const auto found = std::find_if(characteristics.begin(), characteristics.end(),
+                                  [&](const auto& characteristic) { return characteristic->Name() == CharIObjName; });
+  if (found != characteristics.end()) (*found)->FBLayout(std::move(FBLayout));
+  return {};
+}
+
+void ORXQueryPrnProp::ORXSetReadOnly(bool ReadOnly) { mReadOnly = ReadOnly; }
+
+void ORXQueryPrnProp::Connect(ORXQueryPrnPropEvents& listener) { listeners_.push_back(&listener); }
+
+void ORXQueryPrnProp::Disconnect(ORXQueryPrnPropEvents& listener) { std::erase(listeners_, &listener); }
+
+}  // namespace ORXKMPrintProp

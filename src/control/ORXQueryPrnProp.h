@@ -1,0 +1,80 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "tables/Table.h"
+
+namespace ORXKMPrintProp {
+
+/// What the control tells its hosts. A handler runs inside the user's action and may call any public operation of
+/// the control, connect and disconnect listeners; it must not end the control's life.
+class ORXQueryPrnPropEvents {
+ public:
+  virtual ~ORXQueryPrnPropEvents() = default;
+  /// A layout button was pressed; the answer goes to `ORXSetPrintLayout` with the same two arguments.
+  /// @param ButtonID 0 top page, 1 head part, 2 foot part, 3 end page, 4 totals row of one characteristic.
+  /// @param CharIObjName that characteristic's technical name for button 4, else empty.
+  virtual void ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) = 0;
+  /// The print order of the characteristics changed.
+  virtual void ORXOrderChanged() = 0;
+};
+
+/// The control: takes the print settings of one query as four tables and hands the same tables back, rewritten.
+///
+/// Everything happens on the caller's thread. An operation that fails throws RunTimeError: an error of a table
+/// object, a cell that does not convert. The model lives in `gPrnProp`, shared by all controls of the program.
+class ORXQueryPrnProp {
+ public:
+  ORXQueryPrnProp() = default;
+  ORXQueryPrnProp(const ORXQueryPrnProp&) = delete;
+  ORXQueryPrnProp& operator=(const ORXQueryPrnProp&) = delete;
+
+  /// Loads new settings in the place of all former ones, and empties the general table.
+  /// @return False when the general table has not exactly one row. The tables are the control's all the same.
+  /// @throws RunTimeError (Object) when a table is none; nothing is changed then. Any other error leaves the
+  /// control with its former tables and the model as far as it was read.
+  bool ORXSetPrnTables(TableRef GenPropTable, TableRef DimTable, TableRef MemTable, TableRef AtrTable);
+
+  /// Rewrites all four tables and gives the one that is asked for: the object that the host handed in, or none
+  /// before the first load.
+  /// @throws RunTimeError from a table; what was written until then stays.
+  TableRef ORXGenPropTable();
+  TableRef ORXDimTable();
+  TableRef ORXMemTable();
+  TableRef ORXAtrTable();
+
+  /// Takes the host's texts, by the key in `TARGETID` the text in `CAPTION`. A key without a row keeps its default.
+  /// @return always False; it does not mean a failure.
+  /// @throws RunTimeError (Object) for no table, which changes nothing; any error of the table, above all when it
+  /// has no column `TARGETID`.
+  bool ORXControlTexts(TableRef TextTable);
+
+  /// Stores a layout, an opaque text, in the model. It reaches the tables when they are read next.
+  /// @param ButtonID as in `ORXPrintLayoutGet`; numbers of any type count by their value, an empty one as 0.
+  /// @param CharIObjName for button 4 the characteristic, by its exact technical name; the first one that bears it
+  /// gets the layout, and none is no error. Not looked at for the other buttons.
+  /// @return always empty.
+  /// @throws RunTimeError (Index) for any other button, and before the first load; (Type, Overflow) for a
+  /// `ButtonID` that is no 16-bit number.
+  Variant ORXSetPrintLayout(Text FBLayout, const Variant& ButtonID, const Text& CharIObjName);
+
+  /// True: the dialog takes no change. The layout buttons stay usable. Starts as False.
+  void ORXSetReadOnly(bool ReadOnly);
+
+  /// A listener hears every event from now on, in the order of connecting; it must disconnect before it ends.
+  void Connect(ORXQueryPrnPropEvents& listener);
+  void Disconnect(ORXQueryPrnPropEvents& listener);
+
+ private:
+  TableRef ReadBack(const TableRef ORXQueryPrnProp::*table);
+
+  TableRef mGenPropTable;
+  TableRef mDimTable;
+  TableRef mMemTable;
+  TableRef mAtrTable;
+  bool mReadOnly = false;
+  std::vector<ORXQueryPrnPropEvents*> listeners_;
+};
+
+}  // namespace ORXKMPrintProp

@@ -1,0 +1,117 @@
+#pragma once
+
+#include <span>
+#include <utility>
+
+#include "model/Property.h"
+#include "tables/CellCodecs.h"
+#include "tables/Conversions.h"
+#include "tables/RunTimeError.h"
+#include "tables/Table.h"
+
+namespace ORXKMPrintProp {
+
+enum class Direction { Both, ReadOnly, WriteOnly };
+
+/// One column of a table, for rows that a `Class` reads and writes. A null function means that the column is not
+/// read, or not written.
+template <class Class>
+struct ColumnOf {
+  TextView name;
+  void (*read)(Class&, Variant cell);
+  Variant (*write)(const Class&);
+};
+
+template <class Class>
+using ColumnsOf = std::span<const ColumnOf<Class>>;
+
+// What stands between a cell and a property: `Read` converts a cell, `Write` a value.
+
+struct TextCell {
+  static Text Read(Variant cell) { return ToText(std::move(cell)); }
+  static Variant Write(const Text& value) { return value; }
+};
+
+struct IntegerCell {
+  static std::int16_t Read(const Variant& cell) { return ToInteger(cell); }
+  static Variant Write(std::int16_t value) { return value; }
+};
+
+/// Tolerates anything behind the number, and is written as a text.
+struct LeadingNumberCell {
+  static std::int16_t Read(Variant cell) { return LeadingNumber(ToText(std::move(cell))); }
+  static Variant Write(std::int16_t value) { return ToText(std::int32_t{value}); }
+};
+
+template <auto Decode, auto Encode>
+struct CodeCell {
+  static auto Read(Variant cell) {
+    if (const Text* const text = std::get_if<Text>(&cell)) return Decode(*text);
+    return Decode(ToText(std::move(cell)));
+  }
+  template <class Value>
+  static Variant Write(Value value) {
+    return Encode(value);
+  }
+};
+
+using FlagCell = CodeCell<ModPrnGen::FlagFromCell, ModPrnGen::FlagToCell>;
+using PresentationCell = CodeCell<ModPrnGen::PresentationFromCell, ModPrnGen::PresentationToCell>;
+using AlignCell = CodeCell<ModPrnGen::AlignFromCell, ModPrnGen::AlignToCell>;
+using DirectionCell = CodeCell<ModPrnGen::DirectionFromCell, ModPrnGen::DirectionToCell>;
+using SumPositCell = CodeCell<ModPrnGen::SumPositFromCell, ModPrnGen::SumPositToCell>;
+using SignPrsntCell = CodeCell<ModPrnGen::SignPrsntFromCell, ModPrnGen::SignPrsntToCell>;
+using CurUnitPositionCell = CodeCell<ModPrnGen::CurUnitPositionFromCell, ModPrnGen::CurUnitPositionToCell>;
+using NoSumsCell = CodeCell<ModPrnGen::NoSumsFromCell, ModPrnGen::NoSumsToCell>;
+
+/// On the axis is the opposite of hidden.
+struct HiddenAsAxisCell {
+  static bool Read(Variant cell) { return !ModPrnGen::AxisFromCell(ToText(std::move(cell))); }
+  static Variant Write(bool hidden) { return ModPrnGen::AxisToCell(!hidden); }
+};
+
+/// The column of that name holds the property, in a cell of that kind.
+template <class Class, auto Member, class Cell>
+constexpr ColumnOf<Class> Column(TextView name, Direction direction = Direction::Both) {
+  ColumnOf<Class> column{name, nullptr, nullptr};
+  if (direction != Direction::WriteOnly) {
+    column.read = [](Class& object, Variant cell) { (object.*Member)(Cell::Read(std::move(cell))); };
+  }
+  if (direction != Direction::ReadOnly) {
+    column.write = [](const Class& object) { return Cell::Write((object.*Member)()); };
+  }
+  return column;
+}
+
+/// A column that is written only, always with this text.
+template <class Class, char16_t Character>
+constexpr ColumnOf<Class> ConstantColumn(TextView name) {
+  return {name, nullptr, [](const Class&) -> Variant { return Text(1, Character); }};
+}
+
+/// Sets the properties from the row, column by column in the order of the table. Nothing is undone when a column
+/// fails: an error of the row leaves as it is, that of a conversion names the place.
+/// @param tableName how a message calls the table.
+template <class Class>
+void ReadRow(ColumnsOf<Class> columns, TextView tableName, const Row& row, Class& object) {
+  for (const ColumnOf<Class>& column : columns) {
+    if (!column.read) continue;
+    Variant cell = row.Value(column.name);
+    try {
+      column.read(object, std::move(cell));
+    } catch (const RunTimeError& error) {
+      throw RunTimeError(error.Kind(), Text(tableName) + u", row " + ToText(row.RowNumber()) + u", column " +
+                                           Text(column.name) + u": " + error.Message());
+    }
+  }
+}
+
+/// Sets the cells of the row from the properties, column by column in the order of the table.
+template <class Class>
+void WriteRow(ColumnsOf<Class> columns, const Class& object, Row& row) {
+  for (const ColumnOf<Class>& column : columns) {
+    if (column.write) row.Value(column.name, column.write(object));
+  }
+}
+
+}  // namespace ORXKMPrintProp

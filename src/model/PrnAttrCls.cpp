@@ -1,0 +1,99 @@
+#include "model/PrnAttrCls.h"
+
+#include "tables/TableCalls.h"
+
+namespace ORXKMPrintProp {
+namespace {
+
+constexpr TextView kTableName = u"it_atr";
+constexpr TextView kOwner = u"IOBJNM";
+
+using C = PrnAttrCls;
+constexpr ColumnOf<C> kColumns[] = {
+    // Read ahead of ATTRITXT, written behind it.
+    Column<C, &C::Name, TextCell>(u"ATTRINM", Direction::ReadOnly),
+    Column<C, &C::Text, TextCell>(u"ATTRITXT"),
+    Column<C, &C::Name, TextCell>(u"ATTRINM", Direction::WriteOnly),
+    Column<C, &C::Position, IntegerCell>(u"POSIT"),
+    Column<C, &C::Hidden, FlagCell>(u"HIDDEN"),
+    Column<C, &C::Presentation, PresentationCell>(u"IOBJPRSNT"),
+    Column<C, &C::ColFix1, FlagCell>(u"PR_COL1_FIX"),
+    Column<C, &C::ColFix2, FlagCell>(u"PR_COL2_FIX"),
+    Column<C, &C::ColAutoWidth, FlagCell>(u"PR_AUTO_WIDTH"),
+    Column<C, &C::ColWidth1, IntegerCell>(u"PR_COL1_WIDTH"),
+    Column<C, &C::ColWidth2, IntegerCell>(u"PR_COL2_WIDTH"),
+    Column<C, &C::ColAlign1, AlignCell>(u"PR_COL1_ALIGN"),
+    Column<C, &C::ColAlign2, AlignCell>(u"PR_COL2_ALIGN"),
+    Column<C, &C::ColTitle, TextCell>(u"PR_COL1_HEADER"),
+    Column<C, &C::ColTitle, TextCell>(u"PR_COL2_HEADER", Direction::WriteOnly),
+};
+
+Text OwnerOf(const Row& row) { return ToText(row.Value(kOwner)); }
+
+/// Enters the first row of every run.
+void FillIndex(AttrRowIndex& index, Table& it_atr) {
+  const std::int16_t last = ToInteger16(it_atr.RowCount());
+  Text current;
+  for (std::int32_t number = 1; number <= last; ++number) {
+    Text name = OwnerOf(*RowAt(it_atr, number));
+    if (number > 1 && name == current) continue;
+    if (index.Find(name)) {
+      throw RunTimeError(ErrorKind::Key, u"The rows of \"" + name + u"\" do not stand together: a second run begins in row " +
+                                             ToText(number) + u" of " + Text(kTableName) + u".");
+    }
+    index.Add(static_cast<std::int16_t>(number), name);
+    current = std::move(name);
+  }
+}
+
+}  // namespace
+
+std::shared_ptr<AttrRowIndex> gAttrRowIndex;
+
+ColumnsOf<PrnAttrCls> PrnAttrCls::Columns() { return kColumns; }
+
+bool PrnAttrCls::FromTable(const RowRef& AttrRow) {
+  ReadRow(Columns(), kTableName, *AttrRow, *this);
+  return true;
+}
+
+bool PrnAttrCls::ToTable(const RowRef& AttrRow, TextView CharIObjName) const {
+  AttrRow->Value(kOwner, ORXKMPrintProp::Text(CharIObjName));
+  WriteRow(Columns(), *this, *AttrRow);
+  return true;
+}
+
+bool PrnAttrCollCls::FromTable(const RowRef& ChaRow, const TableRef& it_atr) {
+  // Held, since a table may load another model from inside an operation.
+  const std::shared_ptr<AttrRowIndex> index = gAttrRowIndex;
+  if (!index) return false;
+  if (index->Count() == 0 && it_atr->RowCount() > 0) FillIndex(*index, *it_atr);
+
+  std::int32_t current = 0;
+  try {
+    const std::int16_t* const start = index->Find(OwnerOf(*ChaRow));
+    if (!start) return false;
+    current = *start;
+  } catch (const RunTimeError&) {
+    // A look-up that fails counts as a characteristic without attributes.
+    return false;
+  }
+
+  const Text name = OwnerOf(*ChaRow);
+  do {
+    auto attribute = std::make_shared<PrnAttrCls>();
+    if (!attribute->FromTable(RowAt(*it_atr, current))) return false;
+    AddItemAsObj(std::move(attribute));
+    ++current;
+  } while (current <= it_atr->RowCount() && OwnerOf(*RowAt(*it_atr, current)) == name);
+  return true;
+}
+
+bool PrnAttrCollCls::ToTable(const TableRef& it_atr, TextView CharIObjName) const {
+  for (const auto& attribute : *this) {
+    if (!attribute->ToTable(AddRow(*it_atr), CharIObjName)) return false;
+  }
+  return true;
+}
+
+}  // namespace ORXKMPrintProp

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstdint>
+
+#include "model/PrnAttrCls.h"
+
+namespace ORXKMPrintProp {
+
+/// One characteristic of the query. That only one characteristic holds each of the break flags, and only a
+/// printed one, is a rule of the dialog, not of this class.
+class PrnCharCls : public PrnColumnsCls {
+ public:
+  FlagProperty HryActive;
+  /// Hierarchy display level.
+  NumberProperty HryLevel;
+  /// At its group change a new cover page starts.
+  FlagProperty QueryBreak;
+  /// At its group change a new page starts.
+  FlagProperty PageBreak;
+  /// At its group change a new block starts.
+  FlagProperty BreakArea;
+  /// Layout of the totals row, an opaque text of the host.
+  TextProperty FBLayout;
+  /// Name of the hierarchy, empty for none.
+  TextProperty HieNm;
+  TextProperty Version;
+  TextProperty DateTo;
+  Property<PP_NoSums> NoSums;
+
+  PrnAttrCollCls& Attributes() { return attributes_; }
+  const PrnAttrCollCls& Attributes() const { return attributes_; }
+
+  /// The columns of a characteristic row of the dimension table.
+  static ColumnsOf<PrnCharCls> Columns();
+
+  /// Reads the row, then the characteristic's attribute rows; to have none is no failure.
+  bool FromTable(const RowRef& ChaRow, const TableRef& it_atr);
+  bool ToTable(const RowRef& DimRow, const TableRef& it_atr) const;
+
+ private:
+  PrnAttrCollCls attributes_;
+};
+
+/// All characteristics of the query, in the order of their rows in the dimension table, structure rows left out.
+class PrnCharCollCls : public CollCls<PrnCharCls> {
+ public:
+  /// @param StrIndex1, StrIndex2 become the numbers of the first and the second structure row, -1 for none. A
+  /// further structure row is passed over and told in `gErrorText`; the result is True all the same.
+  bool FromTable(const TableRef& it_dim, const TableRef& it_atr, std::int16_t& StrIndex1, std::int16_t& StrIndex2);
+  /// Appends one row per characteristic, and each one's attribute rows as one run.
+  bool ToTable(const TableRef& it_dim, const TableRef& it_atr) const;
+};
+
+/// Shared: the words of the last load failure. No operation hands it out.
+extern Text gErrorText;
+
+}  // namespace ORXKMPrintProp

@@ -1,0 +1,84 @@
+#include "model/PrnPropCls.h"
+
+#include <utility>
+
+#include "tables/TableCalls.h"
+
+namespace ORXKMPrintProp {
+namespace {
+
+template <std::int16_t Index>
+constexpr ColumnOf<PrnPropCls> LayoutColumn(TextView name) {
+  return {name, nullptr, [](const PrnPropCls& root) -> Variant { return root.FBLayout(Index); }};
+}
+
+using C = PrnPropCls;
+constexpr ColumnOf<C> kColumns[] = {
+    Column<C, &C::Title, TextCell>(u"TITLE"),
+    Column<C, &C::Direction, DirectionCell>(u"PRINT_DIRECTION"),
+    Column<C, &C::MaxPages, LeadingNumberCell>(u"MAX_PAGES"),
+    Column<C, &C::ShowNoZeros, FlagCell>(u"HIDE_ZERO"),
+    Column<C, &C::UseColors, FlagCell>(u"USE_COLORS"),
+    LayoutColumn<0>(u"FRONTPAGE_LAYOUT"),
+    LayoutColumn<1>(u"HEADER_LAYOUT"),
+    LayoutColumn<2>(u"FOOTER_LAYOUT"),
+    LayoutColumn<3>(u"LASTPAGE_LAYOUT"),
+    Column<C, &C::MarginTop, IntegerCell>(u"MARGIN_TOP"),
+    Column<C, &C::MarginBottom, IntegerCell>(u"MARGIN_BOTTOM"),
+    Column<C, &C::MarginLeft, IntegerCell>(u"MARGIN_LEFT"),
+    Column<C, &C::MarginRight, IntegerCell>(u"MARGIN_RIGHT"),
+    Column<C, &C::SumPosit, SumPositCell>(u"SUMPOSIT"),
+    Column<C, &C::NoMultTxt, FlagCell>(u"NOMULTTXT"),
+    Column<C, &C::SignPrsnt, SignPrsntCell>(u"SIGNPRSNT"),
+    Column<C, &C::NoLines, FlagCell>(u"NO_LINES"),
+    Column<C, &C::CurUnitPosition, CurUnitPositionCell>(u"CURUNITPOSITION"),
+};
+
+std::size_t LayoutSlot(std::int16_t index) {
+  if (index < 0 || index > 3) {
+    throw RunTimeError(ErrorKind::Index, u"There is no page layout " + ToText(std::int32_t{index}) + u", only 0 to 3.");
+  }
+  return static_cast<std::size_t>(index);
+}
+
+}  // namespace
+
+std::shared_ptr<PrnPropCls> gPrnProp;
+
+PrnPropCls::~PrnPropCls() { gAttrRowIndex.reset(); }
+
+void PrnPropCls::FBLayout(std::int16_t Index, Text layout) { layouts_[LayoutSlot(Index)] = std::move(layout); }
+
+const Text& PrnPropCls::FBLayout(std::int16_t Index) const { return layouts_[LayoutSlot(Index)]; }
+
+ColumnsOf<PrnPropCls> PrnPropCls::Columns() { return kColumns; }
+
+bool PrnPropCls::FromTable(const TableRef& GenPropTable, const TableRef& DimTable, const TableRef& MemTable,
+                           const TableRef& AtrTable) {
+  gAttrRowIndex = std::make_shared<AttrRowIndex>();
+  if (GenPropTable->RowCount() != 1) {
+    gErrorText = u"Table with general print properties GenPropTable must have exactly one row.";
+    return false;
+  }
+  ReadRow(Columns(), u"GenPropTable", *RowAt(*GenPropTable, 1), *this);
+
+  std::int16_t StrIndex1 = -1;
+  std::int16_t StrIndex2 = -1;
+  if (!characteristics_.FromTable(DimTable, AtrTable, StrIndex1, StrIndex2)) return false;
+  if (StrIndex1 != -1 && !structure1_.FromTable(RowAt(*DimTable, StrIndex1), MemTable)) return false;
+  if (StrIndex2 != -1) return structure2_.FromTable(RowAt(*DimTable, StrIndex2), MemTable);
+  return true;
+}
+
+bool PrnPropCls::ToTable(const TableRef& GenPropTable, const TableRef& DimTable, const TableRef& MemTable,
+                         const TableRef& AtrTable) const {
+  for (const TableRef& table : {GenPropTable, DimTable, MemTable, AtrTable}) RowsOf(*table)->RemoveAll();
+
+  WriteRow(Columns(), *this, *AddRow(*GenPropTable));
+  if (!characteristics_.ToTable(DimTable, AtrTable)) return false;
+  if (!structure1_.Name().empty() && !structure1_.ToTable(AddRow(*DimTable), MemTable)) return false;
+  if (!structure2_.Name().empty()) return structure2_.ToTable(AddRow(*DimTable), MemTable);
+  return true;
+}
+
+}  // namespace ORXKMPrintProp

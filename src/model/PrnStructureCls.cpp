@@ -1,0 +1,96 @@
+#include "model/PrnStructureCls.h"
+
+#include "tables/TableCalls.h"
+
+namespace ORXKMPrintProp {
+namespace {
+
+constexpr TextView kOwner = u"IOBJNM";
+
+using E = PrnStrElemCls;
+constexpr ColumnOf<E> kElementColumns[] = {
+    Column<E, &E::Name, TextCell>(u"CHAVL"),
+    Column<E, &E::Text, TextCell>(u"CHAVLTXT"),
+    Column<E, &E::Position, IntegerCell>(u"POSIT"),
+    Column<E, &E::Hidden, FlagCell>(u"HIDDEN"),
+    Column<E, &E::ColAutoWidth, FlagCell>(u"PR_AUTO_WIDTH"),
+    Column<E, &E::ColWidth, IntegerCell>(u"PR_COL1_WIDTH"),
+    Column<E, &E::ColAlign, AlignCell>(u"PR_COL1_ALIGN"),
+    Column<E, &E::ColTitle, TextCell>(u"PR_COL1_HEADER"),
+    Column<E, &E::ColTitle, TextCell>(u"PR_COL2_HEADER", Direction::WriteOnly),
+};
+
+using S = PrnStructureCls;
+constexpr ColumnOf<S> kStructureColumns[] = {
+    ConstantColumn<S, u'X'>(u"AXIS"),
+    ConstantColumn<S, u'X'>(u"IS_STRUCTURE"),
+    Column<S, &S::Name, TextCell>(u"IOBJNM"),
+    Column<S, &S::Text, TextCell>(u"IOBJTXT"),
+    Column<S, &S::Position, IntegerCell>(u"POSIT"),
+};
+
+}  // namespace
+
+ColumnsOf<PrnStrElemCls> PrnStrElemCls::Columns() { return kElementColumns; }
+
+bool PrnStrElemCls::FromTable(const RowRef& StrElemRow) {
+  ReadRow(Columns(), u"it_mem", *StrElemRow, *this);
+  return true;
+}
+
+bool PrnStrElemCls::ToTable(const RowRef& StrElemRow, TextView StrIObjName) const {
+  StrElemRow->Value(kOwner, ORXKMPrintProp::Text(StrIObjName));
+  WriteRow(Columns(), *this, *StrElemRow);
+  return true;
+}
+
+bool PrnStrElemCollCls::FromTable(const RowRef& StrRow, const TableRef& it_mem) {
+  const Text structure = ToText(StrRow->Value(kOwner));
+  const auto rows = EachRow(*it_mem);
+  while (const RowRef row = rows->Next()) {
+    if (ToText(row->Value(kOwner)) != structure) continue;
+    auto element = std::make_shared<PrnStrElemCls>();
+    if (!element->FromTable(row)) return false;
+    AddItemAsObj(std::move(element));
+  }
+  return true;
+}
+
+bool PrnStrElemCollCls::ToTable(const TableRef& it_mem, TextView StrIObjName) const {
+  for (const auto& element : *this) {
+    if (!element->ToTable(AddRow(*it_mem), StrIObjName)) return false;
+  }
+  return true;
+}
+
+PrnStrElemCollCls::ItemRef PrnStrElemCollCls::Add(const Text& Name, const Text& UID, bool Hidden,
+                                                  std::int16_t Position, const Text& ColTitle, PP_Alignment ColAlign,
+                                                  bool ColAutoWidth, std::int16_t ColWidth, const Text& sKey) {
+  auto element = std::make_shared<PrnStrElemCls>();
+  element->Name(Name);
+  element->UID(UID);
+  element->Hidden(Hidden);
+  element->Position(Position);
+  element->ColTitle(ColTitle);
+  element->ColAlign(ColAlign);
+  element->ColAutoWidth(ColAutoWidth);
+  element->ColWidth(ColWidth);
+  items_.Add(element, sKey.empty() ? std::nullopt : std::optional(sKey));
+  return element;
+}
+
+ColumnsOf<PrnStructureCls> PrnStructureCls::Columns() { return kStructureColumns; }
+
+bool PrnStructureCls::FromTable(const RowRef& StrRow, const TableRef& it_mem) {
+  ReadRow(Columns(), u"it_dim", *StrRow, *this);
+  elements_.FromTable(StrRow, it_mem);
+  return true;
+}
+
+bool PrnStructureCls::ToTable(const RowRef& StrRow, const TableRef& it_mem) const {
+  WriteRow(Columns(), *this, *StrRow);
+  elements_.ToTable(it_mem, Name());
+  return true;
+}
+
+}  // namespace ORXKMPrintProp

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstdint>
+#include <utility>
+
+#include "tables/Text.h"
+
+namespace ORXKMPrintProp {
+
+/// A read and write property of a model class: `c.Title()` reads, `c.Title(u"x")` writes. It checks nothing and
+/// has no side effect. It starts as the zero value of its type.
+template <class T>
+class Property {
+ public:
+  const T& operator()() const { return value_; }
+  void operator()(T value) { value_ = std::move(value); }
+
+ private:
+  T value_{};
+};
+
+using TextProperty = Property<Text>;
+using FlagProperty = Property<bool>;
+using NumberProperty = Property<std::int16_t>;
+
+}  // namespace ORXKMPrintProp

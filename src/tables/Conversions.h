@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+
+#include "tables/Variant.h"
+
+// The plain conversions between cells, texts and 16-bit integers. Each fails with RunTimeError: Type for a value
+// that is none of what is asked for, Overflow for a number outside -32,768 to 32,767. Fractions round to the
+// nearest whole number, ties to the even one.
+
+namespace ORXKMPrintProp {
+
+/// The value as a text: a text unchanged, blanks included; a number in decimal digits, a double in as few as give
+/// it back; a Boolean "True" or "False"; an empty value the empty text. @throws RunTimeError (Type) for an object.
+Text ToText(Variant value);
+
+/// A whole number in decimal digits, with a minus sign if negative.
+Text ToText(std::int32_t number);
+
+/// A number of any type, a Boolean (True is -1, False 0), or a text of which the whole is a number: blanks around
+/// it, a sign, a period as decimal point and an exponent are read, nothing else.
+/// @throws RunTimeError (Type) for an empty value, an empty text, a text that is no number, an object.
+std::int16_t ToInteger(const Variant& value);
+
+/// The longest number at the head of the text, 0 if there is no digit. Blanks are skipped wherever they stand.
+std::int16_t LeadingNumber(TextView text);
+
+/// The number as a row number, item number or list index. @throws RunTimeError (Overflow)
+std::int16_t ToInteger16(std::int32_t number);
+
+}  // namespace ORXKMPrintProp

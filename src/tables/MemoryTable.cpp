@@ -1,0 +1,143 @@
+#include "tables/MemoryTable.h"
+
+#include <cstddef>
+#include <optional>
+#include <unordered_map>
+#include <utility>
+
+#include "tables/Conversions.h"
+#include "tables/RunTimeError.h"
+
+namespace ORXKMPrintProp {
+
+class MemoryColumns {
+ public:
+  MemoryColumns(const MemoryColumns&) = delete;
+  MemoryColumns& operator=(const MemoryColumns&) = delete;
+  explicit MemoryColumns(const std::vector<Text>& names) : names_(names), next_(names.size()) {
+    for (std::size_t i = 0; i < names_.size(); ++i) {
+      if (!places_.try_emplace(names_[i], i).second) {
+        throw RunTimeError(ErrorKind::Table, u"Two columns of the table have the name " + names_[i] + u".");
+      }
+    }
+  }
+
+  const std::vector<Text>& Names() const { return names_; }
+
+  std::optional<std::size_t> Find(TextView name) const {
+    if (names_.empty()) return {};
+    const std::size_t guess = next_[last_];
+    if (names_[guess] == name) return last_ = guess;
+    const auto found = places_.find(name);
+    if (found == places_.end()) return {};
+    next_[last_] = found->second;
+    return last_ = found->second;
+  }
+
+  std::size_t At(TextView name) const {
+    if (const auto place = Find(name)) return *place;
+    throw RunTimeError(ErrorKind::Table, u"The table has no column " + Text(name) + u".");
+  }
+
+ private:
+  std::vector<Text> names_;
+  std::unordered_map<TextView, std::size_t> places_;  ///< views into `names_`
+  mutable std::vector<std::size_t> next_;             ///< by column: the one that was visited after it last time
+  mutable std::size_t last_ = 0;
+};
+
+class MemoryRow final : public Row {
+ public:
+  MemoryRow(std::shared_ptr<const MemoryColumns> columns, std::int32_t number)
+      : columns_(std::move(columns)), cells_(columns_->Names().size()), number_(number) {}
+
+  Variant Value(TextView column) const override { return cells_[columns_->At(column)]; }
+  void Value(TextView column, Variant value) override { cells_[columns_->At(column)] = std::move(value); }
+  std::int32_t RowNumber() const override { return number_; }
+
+  const Variant& Cell(std::size_t column) const { return cells_[column]; }
+
+ private:
+  std::shared_ptr<const MemoryColumns> columns_;
+  std::vector<Variant> cells_;
+  std::int32_t number_;
+};
+
+namespace {
+
+class MemoryColumn final : public Column {
+ public:
+  explicit MemoryColumn(std::int32_t index) : index_(index) {}
+  Variant Index() const override { return index_; }
+
+ private:
+  std::int32_t index_;
+};
+
+}  // namespace
+
+class MemoryTable::Enumerator final : public RowEnumerator {
+ public:
+  explicit Enumerator(std::shared_ptr<const MemoryTable> table) : table_(std::move(table)) {}
+  RowRef Next() override { return next_ < table_->rows_.size() ? table_->rows_[next_++] : nullptr; }
+
+ private:
+  std::shared_ptr<const MemoryTable> table_;
+  std::size_t next_ = 0;
+};
+
+std::shared_ptr<MemoryTable> MemoryTable::Create(const std::vector<Text>& columns) {
+  return std::make_shared<MemoryTable>(Private{}, columns);
+}
+
+MemoryTable::MemoryTable(Private, const std::vector<Text>& columns)
+    : columns_(std::make_shared<MemoryColumns>(columns)) {}
+
+MemoryTable::~MemoryTable() = default;
+
+const std::vector<Text>& MemoryTable::ColumnNames() const { return columns_->Names(); }
+
+std::int32_t MemoryTable::RowCount() { return static_cast<std::int32_t>(rows_.size()); }
+
+RowListRef MemoryTable::Rows() { return {shared_from_this(), static_cast<RowList*>(this)}; }
+
+RowRef MemoryTable::Rows(std::int32_t number) {
+  if (number < 1 || number > RowCount()) {
+    throw RunTimeError(ErrorKind::Table, u"The table has no row " + ToText(number) + u".");
+  }
+  return rows_[static_cast<std::size_t>(number) - 1];
+}
+
+ColumnListRef MemoryTable::Columns() { return {shared_from_this(), static_cast<ColumnList*>(this)}; }
+
+ColumnRef MemoryTable::Columns(TextView name) {
+  return std::make_shared<MemoryColumn>(static_cast<std::int32_t>(columns_->At(name)) + 1);
+}
+
+RowRef MemoryTable::Add() {
+  return rows_.emplace_back(std::make_shared<MemoryRow>(columns_, RowCount() + 1));
+}
+
+void MemoryTable::RemoveAll() { rows_.clear(); }
+
+RowRef MemoryTable::Item(const Text& key) {
+  if (keyColumn_ == 0) throw RunTimeError(ErrorKind::Table, u"The table has no key column.");
+  const auto column = static_cast<std::size_t>(keyColumn_) - 1;
+  for (const auto& row : rows_) {
+    const Text* const cell = std::get_if<Text>(&row->Cell(column));
+    if (cell && *cell == key) return row;
+  }
+  return nullptr;
+}
+
+std::unique_ptr<RowEnumerator> MemoryTable::Enumerate() { return std::make_unique<Enumerator>(shared_from_this()); }
+
+void MemoryTable::KeyColumn(const Variant& index) {
+  const std::int32_t column = ToInteger(index);
+  if (column < 1 || column > static_cast<std::int32_t>(ColumnNames().size())) {
+    throw RunTimeError(ErrorKind::Table, u"The table has no column number " + ToText(column) + u".");
+  }
+  keyColumn_ = column;
+}
+
+}  // namespace ORXKMPrintProp

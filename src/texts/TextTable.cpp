@@ -1,0 +1,7 @@
+#include "texts/TextTable.h"
+
+namespace ORXKMPrintProp {
+
+TableRef gTextTable;
+
+}  // namespace ORXKMPrintProp
