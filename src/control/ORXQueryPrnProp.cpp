@@ -10,7 +10,16 @@
 #include "tables/TableCalls.h"
 
 namespace ORXKMPrintProp {
+
+bool gTabSetup = false;
+
 namespace {
+
+/// That of a program without a view.
+RBDoubleByteCS::FontPlatform& PlainPlatform() {
+  static RBDoubleByteCS::FontPlatform platform;
+  return platform;
+}
 
 constexpr std::int16_t kTotalsRowButton = 4;
 
@@ -33,9 +42,40 @@ std::int16_t LayoutSlot(const Variant& buttonId) {
 
 }  // namespace
 
+ORXQueryPrnProp::ORXQueryPrnProp(RBDoubleByteCS::FontPlatform& platform)
+    : pages_(dialog_, {[this](std::int16_t ButtonID, const Text& CharIObjName) {
+                         Raise([&](auto& listener) { listener.ORXPrintLayoutGet(ButtonID, CharIObjName); });
+                       },
+                       [this] { Raise([](auto& listener) { listener.ORXOrderChanged(); }); }}) {
+  dialog_.TabStrip().Click = [this](std::int16_t PreviousTab) {
+    if (!gTabSetup) pages_.ChangeTab(PreviousTab);
+  };
+  gTabSetup = true;
+  dialog_.TabStrip().Tab(0);
+  gTabSetup = false;
+  dialog_.ApplyDialogFont(platform);
+}
+
+ORXQueryPrnProp::ORXQueryPrnProp() : ORXQueryPrnProp(PlainPlatform()) {}
+
+template <class Event>
+void ORXQueryPrnProp::Raise(Event event) {
+  // A handler may connect and disconnect: who is gone by its turn hears nothing.
+  const auto listeners = listeners_;
+  for (ORXQueryPrnPropEvents* const listener : listeners) {
+    if (std::find(listeners_.begin(), listeners_.end(), listener) != listeners_.end()) event(*listener);
+  }
+}
+
+void ORXQueryPrnProp::ApplyTexts() {
+  dialog_.ApplyTexts();
+  mTextsDone = true;
+}
+
 bool ORXQueryPrnProp::ORXSetPrnTables(TableRef GenPropTable, TableRef DimTable, TableRef MemTable, TableRef AtrTable) {
   for (const TableRef& table : {GenPropTable, DimTable, MemTable, AtrTable}) Needed(table);
 
+  if (!mTextsDone) ApplyTexts();
   gPrnProp.reset();
   // Held, since a table may load other settings from inside an operation.
   const auto root = std::make_shared<PrnPropCls>();
@@ -46,14 +86,17 @@ bool ORXQueryPrnProp::ORXSetPrnTables(TableRef GenPropTable, TableRef DimTable, 
   mDimTable = std::move(DimTable);
   mMemTable = std::move(MemTable);
   mAtrTable = std::move(AtrTable);
+  pages_.SetLoaded();
   const TableRef general = mGenPropTable;
   RowsOf(*general)->RemoveAll();
+  if (loaded) pages_.FillAllPages();
   return loaded;
 }
 
 TableRef ORXQueryPrnProp::ReadBack(const TableRef ORXQueryPrnProp::*table) {
+  if (!gPrnProp || !mGenPropTable) return nullptr;
+  pages_.StoreCurrentPage();
   const std::shared_ptr<PrnPropCls> root = gPrnProp;
-  if (!root || !mGenPropTable) return nullptr;
   // The fields may change under the call: a table may load other settings from inside an operation.
   const bool written =
       root->ToTable(TableRef(mGenPropTable), TableRef(mDimTable), TableRef(mMemTable), TableRef(mAtrTable));
@@ -70,6 +113,7 @@ bool ORXQueryPrnProp::ORXControlTexts(TableRef TextTable) {
   const TableRef table = gTextTable;
   const Variant index = Needed(table->Columns(u"TARGETID"))->Index();
   Needed(table->Columns())->KeyColumn(index);
+  ApplyTexts();
   return false;
 }
 
@@ -86,7 +130,7 @@ Variant ORXQueryPrnProp::ORXSetPrintLayout(Text FBLayout, const Variant& ButtonI
   return {};
 }
 
-void ORXQueryPrnProp::ORXSetReadOnly(bool ReadOnly) { mReadOnly = ReadOnly; }
+void ORXQueryPrnProp::ORXSetReadOnly(bool ReadOnly) { pages_.SetReadOnly(ReadOnly); }
 
 void ORXQueryPrnProp::Connect(ORXQueryPrnPropEvents& listener) { listeners_.push_back(&listener); }
 

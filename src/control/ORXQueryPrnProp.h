@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "pages/Dialog.h"
+#include "pages/Pages.h"
 #include "tables/Table.h"
 
 namespace ORXKMPrintProp {
@@ -20,24 +22,29 @@ class ORXQueryPrnPropEvents {
   virtual void ORXOrderChanged() = 0;
 };
 
-/// The control: takes the print settings of one query as four tables and hands the same tables back, rewritten.
+/// The control: takes the print settings of one query as four tables, lets the user edit them on a dialog of four
+/// pages, and hands the same tables back, rewritten.
 ///
 /// Everything happens on the caller's thread. An operation that fails throws RunTimeError: an error of a table
 /// object, a cell that does not convert. The model lives in `gPrnProp`, shared by all controls of the program.
 class ORXQueryPrnProp {
  public:
-  ORXQueryPrnProp() = default;
+  /// The dialog opens on the General page, with the captions stored with the form.
+  /// @param platform asked for the dialog's typeface, once in the program and only in here.
+  explicit ORXQueryPrnProp(RBDoubleByteCS::FontPlatform& platform);
+  ORXQueryPrnProp();
   ORXQueryPrnProp(const ORXQueryPrnProp&) = delete;
   ORXQueryPrnProp& operator=(const ORXQueryPrnProp&) = delete;
 
-  /// Loads new settings in the place of all former ones, and empties the general table.
+  /// Loads new settings in the place of all former ones, empties the general table and fills the pages. The first
+  /// load applies the default texts unless texts have been handed in.
   /// @return False when the general table has not exactly one row. The tables are the control's all the same.
   /// @throws RunTimeError (Object) when a table is none; nothing is changed then. Any other error leaves the
   /// control with its former tables and the model as far as it was read.
   bool ORXSetPrnTables(TableRef GenPropTable, TableRef DimTable, TableRef MemTable, TableRef AtrTable);
 
-  /// Rewrites all four tables and gives the one that is asked for: the object that the host handed in, or none
-  /// before the first load.
+  /// Commits the page on top, then rewrites all four tables and gives the one that is asked for: the object that the
+  /// host handed in, or none before the first load.
   /// @throws RunTimeError from a table; what was written until then stays.
   TableRef ORXGenPropTable();
   TableRef ORXDimTable();
@@ -45,6 +52,7 @@ class ORXQueryPrnProp {
   TableRef ORXAtrTable();
 
   /// Takes the host's texts, by the key in `TARGETID` the text in `CAPTION`. A key without a row keeps its default.
+  /// Captions and tooltips change at once; texts that pages fetch, when they are next filled.
   /// @return always False; it does not mean a failure.
   /// @throws RunTimeError (Object) for no table, which changes nothing; any error of the table, above all when it
   /// has no column `TARGETID`.
@@ -59,21 +67,31 @@ class ORXQueryPrnProp {
   /// `ButtonID` that is no 16-bit number.
   Variant ORXSetPrintLayout(Text FBLayout, const Variant& ButtonID, const Text& CharIObjName);
 
-  /// True: the dialog takes no change. The layout buttons stay usable. Starts as False.
+  /// True: the dialog takes no change. The user can still look at everything, and the layout buttons stay usable.
+  /// Starts as False.
   void ORXSetReadOnly(bool ReadOnly);
 
   /// A listener hears every event from now on, in the order of connecting; it must disconnect before it ends.
   void Connect(ORXQueryPrnPropEvents& listener);
   void Disconnect(ORXQueryPrnPropEvents& listener);
 
+  /// The widgets, for a view that draws them and hands in what the user does.
+  Dialog& GetDialog() { return dialog_; }
+  bool IsReadOnly() const { return pages_.IsReadOnly(); }
+
  private:
+  template <class Event>
+  void Raise(Event event);
+  void ApplyTexts();
   TableRef ReadBack(const TableRef ORXQueryPrnProp::*table);
 
   TableRef mGenPropTable;
   TableRef mDimTable;
   TableRef mMemTable;
   TableRef mAtrTable;
-  bool mReadOnly = false;
+  bool mTextsDone = false;
+  Dialog dialog_;
+  Pages pages_;
   std::vector<ORXQueryPrnPropEvents*> listeners_;
 };
 

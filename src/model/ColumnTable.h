@@ -18,7 +18,7 @@ enum class Direction { Both, ReadOnly, WriteOnly };
 template <class Class>
 struct ColumnOf {
   TextView name;
-  void (*read)(Class&, Variant cell);
+  void (*read)(Class&, Variant&& cell);
   Variant (*write)(const Class&);
 };
 
@@ -28,7 +28,7 @@ using ColumnsOf = std::span<const ColumnOf<Class>>;
 // What stands between a cell and a property: `Read` converts a cell, `Write` a value.
 
 struct TextCell {
-  static Text Read(Variant cell) { return ToText(std::move(cell)); }
+  static Text Read(Variant&& cell) { return ToText(std::move(cell)); }
   static Variant Write(const Text& value) { return value; }
 };
 
@@ -39,13 +39,13 @@ struct IntegerCell {
 
 /// Tolerates anything behind the number, and is written as a text.
 struct LeadingNumberCell {
-  static std::int16_t Read(Variant cell) { return LeadingNumber(ToText(std::move(cell))); }
+  static std::int16_t Read(Variant&& cell) { return LeadingNumber(ToText(std::move(cell))); }
   static Variant Write(std::int16_t value) { return ToText(std::int32_t{value}); }
 };
 
 template <auto Decode, auto Encode>
 struct CodeCell {
-  static auto Read(Variant cell) {
+  static auto Read(Variant&& cell) {
     if (const Text* const text = std::get_if<Text>(&cell)) return Decode(*text);
     return Decode(ToText(std::move(cell)));
   }
@@ -66,7 +66,7 @@ using NoSumsCell = CodeCell<ModPrnGen::NoSumsFromCell, ModPrnGen::NoSumsToCell>;
 
 /// On the axis is the opposite of hidden.
 struct HiddenAsAxisCell {
-  static bool Read(Variant cell) { return !ModPrnGen::AxisFromCell(ToText(std::move(cell))); }
+  static bool Read(Variant&& cell) { return !ModPrnGen::AxisFromCell(ToText(std::move(cell))); }
   static Variant Write(bool hidden) { return ModPrnGen::AxisToCell(!hidden); }
 };
 
@@ -75,7 +75,7 @@ template <class Class, auto Member, class Cell>
 constexpr ColumnOf<Class> Column(TextView name, Direction direction = Direction::Both) {
   ColumnOf<Class> column{name, nullptr, nullptr};
   if (direction != Direction::WriteOnly) {
-    column.read = [](Class& object, Variant cell) { (object.*Member)(Cell::Read(std::move(cell))); };
+    column.read = [](Class& object, Variant&& cell) { (object.*Member)(Cell::Read(std::move(cell))); };
   }
   if (direction != Direction::ReadOnly) {
     column.write = [](const Class& object) { return Cell::Write((object.*Member)()); };

@@ -38,8 +38,6 @@ constexpr TextView kTableName = u"it_dim";
 
 }  // namespace
 
-Text gErrorText;
-
 ColumnsOf<PrnCharCls> PrnCharCls::Columns() { return kColumns; }
 
 bool PrnCharCls::FromTable(const RowRef& ChaRow, const TableRef& it_atr) {

@@ -43,8 +43,6 @@ std::size_t LayoutSlot(std::int16_t index) {
 
 }  // namespace
 
-std::shared_ptr<PrnPropCls> gPrnProp;
-
 PrnPropCls::~PrnPropCls() { gAttrRowIndex.reset(); }
 
 void PrnPropCls::FBLayout(std::int16_t Index, Text layout) { layouts_[LayoutSlot(Index)] = std::move(layout); }

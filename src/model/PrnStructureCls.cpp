@@ -63,9 +63,9 @@ bool PrnStrElemCollCls::ToTable(const TableRef& it_mem, TextView StrIObjName) co
   return true;
 }
 
-PrnStrElemCollCls::ItemRef PrnStrElemCollCls::Add(const Text& Name, const Text& UID, bool Hidden,
-                                                  std::int16_t Position, const Text& ColTitle, PP_Alignment ColAlign,
-                                                  bool ColAutoWidth, std::int16_t ColWidth, const Text& sKey) {
+PrnStrElemCollCls::ItemRef PrnStrElemCollCls::Add(const Text& Name, const Text& UID, bool Hidden, std::int16_t Position,
+                                                  const Text& ColTitle, PP_Alignment ColAlign, bool ColAutoWidth,
+                                                  std::int16_t ColWidth, const Text& sKey) {
   auto element = std::make_shared<PrnStrElemCls>();
   element->Name(Name);
   element->UID(UID);

@@ -215,16 +215,21 @@ constexpr Folding kFoldings[] = {
 
 char16_t FoldCase(char16_t c) {
   if (c < 0x80) return c >= u'A' && c <= u'Z' ? static_cast<char16_t>(c + 32) : c;
-  const Folding* const folding =
-      std::lower_bound(std::begin(kFoldings), std::end(kFoldings), c, [](const Folding& f, char16_t x) { return f.last < x; });
+  const Folding* const folding = std::lower_bound(std::begin(kFoldings), std::end(kFoldings), c,
+                                                  [](const Folding& f, char16_t x) { return f.last < x; });
   const bool folds = folding != std::end(kFoldings) && c >= folding->first && (c - folding->first) % folding->step == 0;
   return folds ? static_cast<char16_t>(c + folding->shift) : c;
 }
 
-Text FoldCase(TextView text) {
-  Text folded(text);
-  for (char16_t& c : folded) c = FoldCase(c);
-  return folded;
+std::size_t FoldedHash::operator()(TextView text) const {
+  std::uint64_t hash = 14695981039346656037u;  // FNV-1a
+  for (const char16_t c : text) hash = (hash ^ FoldCase(c)) * 1099511628211u;
+  return static_cast<std::size_t>(hash);
+}
+
+bool FoldedEqual::operator()(TextView a, TextView b) const {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char16_t x, char16_t y) { return FoldCase(x) == FoldCase(y); });
 }
 
 }  // namespace ORXKMPrintProp

@@ -12,8 +12,8 @@ struct CodeTable {
     TextView cell;
   };
   Code codes[N];
-  Value otherCell;     ///< what any other text decodes to
-  TextView otherValue; ///< what any other value encodes to
+  Value otherCell;      ///< what any other text decodes to
+  TextView otherValue;  ///< what any other value encodes to
 
   constexpr Value FromCell(TextView cell) const {
     for (const Code& code : codes) {

@@ -21,7 +21,7 @@ class Collection {
   /// @throws RunTimeError (Key) when the key is there already; nothing is changed then.
   void Add(T item, std::optional<Text> key = {}) {
     if (key) {
-      const bool isNew = numbers_.try_emplace(FoldCase(*key), items_.size()).second;
+      const bool isNew = numbers_.try_emplace(*key, items_.size()).second;
       if (!isNew) throw RunTimeError(ErrorKind::Key, u"The key \"" + *key + u"\" is there already.");
     }
     items_.push_back(std::move(item));
@@ -35,7 +35,7 @@ class Collection {
   const T& Item(TextView key) const { return items_[PlaceOf(key)]; }
   /// The item of that key, or null.
   const T* Find(TextView key) const {
-    const auto found = numbers_.find(FoldCase(key));
+    const auto found = numbers_.find(key);
     return found == numbers_.end() ? nullptr : &items_[found->second];
   }
 
@@ -55,7 +55,7 @@ class Collection {
   }
 
   std::size_t PlaceOf(TextView key) const {
-    const auto found = numbers_.find(FoldCase(key));
+    const auto found = numbers_.find(key);
     if (found == numbers_.end()) {
       throw RunTimeError(ErrorKind::Key, u"There is no item with the key \"" + Text(key) + u"\".");
     }
@@ -69,7 +69,7 @@ class Collection {
   }
 
   std::vector<T> items_;
-  std::unordered_map<Text, std::size_t> numbers_;  ///< folded key to place in `items_`
+  std::unordered_map<Text, std::size_t, FoldedHash, FoldedEqual> numbers_;  ///< key to place in `items_`
 };
 
 }  // namespace ORXKMPrintProp

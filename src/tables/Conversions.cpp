@@ -73,25 +73,38 @@ HeadNumber ReadHead(const std::string& text) {
   return {negative ? -value : value, end};
 }
 
-std::int16_t Rounded(double number) {
+/// None for what does not fit into 16 bits, which includes what is no number at all.
+std::optional<std::int16_t> TryRounded(double number) {
   double whole = std::floor(number);
   const double fraction = number - whole;
   if (fraction > 0.5 || (fraction == 0.5 && std::fmod(whole, 2) != 0)) whole += 1;
-  // Also false for what is no number at all.
   if (!(whole >= std::numeric_limits<std::int16_t>::min() && whole <= std::numeric_limits<std::int16_t>::max())) {
-    throw RunTimeError(ErrorKind::Overflow, u"The number " + ToText(Variant(number)) + u" does not fit into 16 bits.");
+    return {};
   }
   return static_cast<std::int16_t>(whole);
 }
 
-std::int16_t WholeNumber(TextView text) {
+std::int16_t Rounded(double number) {
+  if (const auto whole = TryRounded(number)) return *whole;
+  throw RunTimeError(ErrorKind::Overflow, u"The number " + ToText(Variant(number)) + u" does not fit into 16 bits.");
+}
+
+std::optional<double> WholeNumber(TextView text) {
   const auto first = std::min(text.find_first_not_of(u' '), text.size());
   const TextView trimmed = text.substr(first, text.find_last_not_of(u' ') + 1 - first);
   const HeadNumber head = ReadHead(ToAscii(trimmed));
-  if (head.length == 0 || head.length != trimmed.size()) {
-    throw RunTimeError(ErrorKind::Type, u"The text \"" + Text(text) + u"\" is no number.");
+  if (head.length == 0 || head.length != trimmed.size()) return {};
+  return head.value;
+}
+
+double LeadingValue(TextView text) {
+  std::string head;
+  for (const char16_t c : text) {
+    if (c == u' ') continue;
+    if (c >= 0x80) break;
+    head += static_cast<char>(c);
   }
-  return Rounded(head.value);
+  return ReadHead(head).value;
 }
 
 template <class... Cases>
@@ -108,21 +121,22 @@ Text ToText(std::int32_t number) {
   return Widened(digits, std::to_chars(digits, std::end(digits), number).ptr);
 }
 
-Text ToText(Variant value) {
-  return std::visit(
-      Overloaded{
-          [](std::monostate) { return Text(); },
-          [](bool flag) { return Text(flag ? u"True" : u"False"); },
-          [](std::int16_t number) { return ToText(std::int32_t{number}); },
-          [](std::int32_t number) { return ToText(number); },
-          [](double number) {
-            char digits[512];  // the largest double has 309 digits, the smallest 326 behind the point
-            return Widened(digits, std::to_chars(digits, std::end(digits), number, std::chars_format::fixed).ptr);
-          },
-          [](Text& text) { return std::move(text); },
-          [](const ObjectRef&) -> Text { throw RunTimeError(ErrorKind::Type, u"An object is no text."); },
-      },
-      value);
+Text ToText(Variant&& value) {
+  if (Text* const text = std::get_if<Text>(&value)) return std::move(*text);
+  return std::visit(Overloaded{
+                        [](std::monostate) { return Text(); },
+                        [](bool flag) { return Text(flag ? u"True" : u"False"); },
+                        [](std::int16_t number) { return ToText(std::int32_t{number}); },
+                        [](std::int32_t number) { return ToText(number); },
+                        [](double number) {
+                          char digits[512];  // the largest double has 309 digits, the smallest 326 behind the point
+                          return Widened(digits,
+                                         std::to_chars(digits, std::end(digits), number, std::chars_format::fixed).ptr);
+                        },
+                        [](Text& text) { return std::move(text); },
+                        [](const ObjectRef&) -> Text { throw RunTimeError(ErrorKind::Type, u"An object is no text."); },
+                    },
+                    value);
 }
 
 std::int16_t ToInteger(const Variant& value) {
@@ -133,21 +147,23 @@ std::int16_t ToInteger(const Variant& value) {
           [](std::int16_t number) { return number; },
           [](std::int32_t number) { return ToInteger16(number); },
           [](double number) { return Rounded(number); },
-          [](const Text& text) { return WholeNumber(text); },
+          [](const Text& text) {
+            if (const auto number = WholeNumber(text)) return Rounded(*number);
+            throw RunTimeError(ErrorKind::Type, u"The text \"" + text + u"\" is no number.");
+          },
           [](const ObjectRef&) -> std::int16_t { throw RunTimeError(ErrorKind::Type, u"An object is no number."); },
       },
       value);
 }
 
-std::int16_t LeadingNumber(TextView text) {
-  std::string head;
-  for (const char16_t c : text) {
-    if (c == u' ') continue;
-    if (c >= 0x80) break;
-    head += static_cast<char>(c);
-  }
-  return Rounded(ReadHead(head).value);
+std::int16_t LeadingNumber(TextView text) { return Rounded(LeadingValue(text)); }
+
+std::optional<std::int16_t> TryInteger(TextView text) {
+  const auto number = WholeNumber(text);
+  return number ? TryRounded(*number) : std::nullopt;
 }
+
+std::optional<std::int16_t> TryLeadingNumber(TextView text) { return TryRounded(LeadingValue(text)); }
 
 std::int16_t ToInteger16(std::int32_t number) {
   if (number < std::numeric_limits<std::int16_t>::min() || number > std::numeric_limits<std::int16_t>::max()) {

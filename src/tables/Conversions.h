@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "tables/Variant.h"
 
@@ -12,7 +13,7 @@ namespace ORXKMPrintProp {
 
 /// The value as a text: a text unchanged, blanks included; a number in decimal digits, a double in as few as give
 /// it back; a Boolean "True" or "False"; an empty value the empty text. @throws RunTimeError (Type) for an object.
-Text ToText(Variant value);
+Text ToText(Variant&& value);
 
 /// A whole number in decimal digits, with a minus sign if negative.
 Text ToText(std::int32_t number);
@@ -24,6 +25,10 @@ std::int16_t ToInteger(const Variant& value);
 
 /// The longest number at the head of the text, 0 if there is no digit. Blanks are skipped wherever they stand.
 std::int16_t LeadingNumber(TextView text);
+
+/// The same where there is nobody to fail to: none for what `ToInteger` and `LeadingNumber` refuse.
+std::optional<std::int16_t> TryInteger(TextView text);
+std::optional<std::int16_t> TryLeadingNumber(TextView text);
 
 /// The number as a row number, item number or list index. @throws RunTimeError (Overflow)
 std::int16_t ToInteger16(std::int32_t number);

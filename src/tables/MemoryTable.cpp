@@ -1,7 +1,9 @@
 #include "tables/MemoryTable.h"
 
 #include <cstddef>
+#include <cstring>
 #include <optional>
+#include <span>
 #include <unordered_map>
 #include <utility>
 
@@ -27,7 +29,7 @@ class MemoryColumns {
   std::optional<std::size_t> Find(TextView name) const {
     if (names_.empty()) return {};
     const std::size_t guess = next_[last_];
-    if (names_[guess] == name) return last_ = guess;
+    if (IsSame(names_[guess], name)) return last_ = guess;
     const auto found = places_.find(name);
     if (found == places_.end()) return {};
     next_[last_] = found->second;
@@ -40,6 +42,11 @@ class MemoryColumns {
   }
 
  private:
+  /// The library's own comparison goes character by character.
+  static bool IsSame(TextView a, TextView b) {
+    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(char16_t)) == 0;
+  }
+
   std::vector<Text> names_;
   std::unordered_map<TextView, std::size_t> places_;  ///< views into `names_`
   mutable std::vector<std::size_t> next_;             ///< by column: the one that was visited after it last time
@@ -48,19 +55,44 @@ class MemoryColumns {
 
 class MemoryRow final : public Row {
  public:
-  MemoryRow(std::shared_ptr<const MemoryColumns> columns, std::int32_t number)
-      : columns_(std::move(columns)), cells_(columns_->Names().size()), number_(number) {}
+  MemoryRow(const MemoryColumns& columns, std::span<Variant> cells, std::int32_t number)
+      : columns_(columns), cells_(cells), number_(number) {}
 
-  Variant Value(TextView column) const override { return cells_[columns_->At(column)]; }
-  void Value(TextView column, Variant value) override { cells_[columns_->At(column)] = std::move(value); }
+  Variant Value(TextView column) const override { return cells_[columns_.At(column)]; }
+  void Value(TextView column, Variant value) override { cells_[columns_.At(column)] = std::move(value); }
   std::int32_t RowNumber() const override { return number_; }
 
   const Variant& Cell(std::size_t column) const { return cells_[column]; }
 
  private:
+  const MemoryColumns& columns_;
+  std::span<Variant> cells_;
+  std::int32_t number_;
+};
+
+/// Some rows with their cells in one piece of memory; a reference to a row holds its block.
+class MemoryBlock {
+ public:
+  static constexpr std::size_t kRows = 16;
+
+  explicit MemoryBlock(std::shared_ptr<const MemoryColumns> columns)
+      : columns_(std::move(columns)), cells_(kRows * columns_->Names().size()) {
+    rows_.reserve(kRows);
+  }
+
+  bool IsFull() const { return rows_.size() == kRows; }
+
+  void Add(std::int32_t number) {
+    const std::size_t width = columns_->Names().size();
+    rows_.emplace_back(*columns_, std::span(cells_).subspan(rows_.size() * width, width), number);
+  }
+
+  std::vector<MemoryRow>& Rows() { return rows_; }
+
+ private:
   std::shared_ptr<const MemoryColumns> columns_;
   std::vector<Variant> cells_;
-  std::int32_t number_;
+  std::vector<MemoryRow> rows_;
 };
 
 namespace {
@@ -79,7 +111,7 @@ class MemoryColumn final : public Column {
 class MemoryTable::Enumerator final : public RowEnumerator {
  public:
   explicit Enumerator(std::shared_ptr<const MemoryTable> table) : table_(std::move(table)) {}
-  RowRef Next() override { return next_ < table_->rows_.size() ? table_->rows_[next_++] : nullptr; }
+  RowRef Next() override { return next_ < table_->rowCount_ ? table_->RowAt(next_++) : nullptr; }
 
  private:
   std::shared_ptr<const MemoryTable> table_;
@@ -97,7 +129,7 @@ MemoryTable::~MemoryTable() = default;
 
 const std::vector<Text>& MemoryTable::ColumnNames() const { return columns_->Names(); }
 
-std::int32_t MemoryTable::RowCount() { return static_cast<std::int32_t>(rows_.size()); }
+std::int32_t MemoryTable::RowCount() { return static_cast<std::int32_t>(rowCount_); }
 
 RowListRef MemoryTable::Rows() { return {shared_from_this(), static_cast<RowList*>(this)}; }
 
@@ -105,7 +137,7 @@ RowRef MemoryTable::Rows(std::int32_t number) {
   if (number < 1 || number > RowCount()) {
     throw RunTimeError(ErrorKind::Table, u"The table has no row " + ToText(number) + u".");
   }
-  return rows_[static_cast<std::size_t>(number) - 1];
+  return RowAt(static_cast<std::size_t>(number) - 1);
 }
 
 ColumnListRef MemoryTable::Columns() { return {shared_from_this(), static_cast<ColumnList*>(this)}; }
@@ -115,17 +147,29 @@ ColumnRef MemoryTable::Columns(TextView name) {
 }
 
 RowRef MemoryTable::Add() {
-  return rows_.emplace_back(std::make_shared<MemoryRow>(columns_, RowCount() + 1));
+  if (blocks_.empty() || blocks_.back()->IsFull()) blocks_.push_back(std::make_shared<MemoryBlock>(columns_));
+  blocks_.back()->Add(RowCount() + 1);
+  return RowAt(rowCount_++);
 }
 
-void MemoryTable::RemoveAll() { rows_.clear(); }
+void MemoryTable::RemoveAll() {
+  blocks_.clear();
+  rowCount_ = 0;
+}
+
+RowRef MemoryTable::RowAt(std::size_t place) const {
+  const auto& block = blocks_[place / MemoryBlock::kRows];
+  return {block, &block->Rows()[place % MemoryBlock::kRows]};
+}
 
 RowRef MemoryTable::Item(const Text& key) {
   if (keyColumn_ == 0) throw RunTimeError(ErrorKind::Table, u"The table has no key column.");
   const auto column = static_cast<std::size_t>(keyColumn_) - 1;
-  for (const auto& row : rows_) {
-    const Text* const cell = std::get_if<Text>(&row->Cell(column));
-    if (cell && *cell == key) return row;
+  for (const auto& block : blocks_) {
+    for (MemoryRow& row : block->Rows()) {
+      const Text* const cell = std::get_if<Text>(&row.Cell(column));
+      if (cell && *cell == key) return {block, &row};
+    }
   }
   return nullptr;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -7,8 +9,8 @@
 
 namespace ORXKMPrintProp {
 
+class MemoryBlock;
 class MemoryColumns;
-class MemoryRow;
 
 /// The plain table in memory. A cell is found by comparing its column's name once when columns are visited in the
 /// same order row after row, else by one hash. Errors of its operations have the kind Table.
@@ -45,8 +47,11 @@ class MemoryTable final : public Table,
   std::unique_ptr<RowEnumerator> Enumerate() override;
   void KeyColumn(const Variant& index) override;
 
+  RowRef RowAt(std::size_t place) const;
+
   std::shared_ptr<MemoryColumns> columns_;
-  std::vector<std::shared_ptr<MemoryRow>> rows_;
+  std::vector<std::shared_ptr<MemoryBlock>> blocks_;  ///< all full but the last
+  std::size_t rowCount_ = 0;
   std::int32_t keyColumn_ = 0;  ///< counted from 1, 0 for none
 };
 

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "pages/ColumnFrame.h"
+#include "pages/ListPage.h"
+
+namespace ORXKMPrintProp {
+
+/// The third page: for each print characteristic the attributes that are printed, and the settings of the one that
+/// is selected. It is the Characteristics page one level down; what differs:
+///
+/// - A selector on top says whose attributes the lists hold. With no print characteristic nothing is refilled.
+/// - There are no breaks, no limit, no event; a drag waits for the next `StoreOrder`.
+/// - The order is stored only once a characteristic has been shown, the settings only for a positive number.
+class AttrPage : public ListPage {
+ public:
+  explicit AttrPage(PageState& state);
+
+  /// Back to what the page is at control start.
+  void ResetAttrPage();
+  void ShowAttrPage();
+  void StoreAttrPage();
+  void EnableAttrPage();
+
+  void StoreOrder() override;
+
+  void AttrCharChanged();
+  ColumnFrame& Columns() { return columns_; }
+
+  ComboBox& cmbAttrChar;
+
+ private:
+  Collection<PrnItemRef> Items() const override;
+  void StoreProps() override;
+  void ShowProps() override;
+
+  /// The attribute whose settings are shown, none for a number that is not positive.
+  std::shared_ptr<PrnAttrCls> Shown() const;
+
+  ColumnFrame columns_;
+};
+
+}  // namespace ORXKMPrintProp

@@ -1,0 +1,298 @@
+#include "pages/Widgets.h"
+
+#include <limits>
+#include <utility>
+
+#include "pages/Dialog.h"
+#include "tables/Conversions.h"
+#include "tables/RunTimeError.h"
+
+namespace ORXKMPrintProp {
+namespace {
+
+[[noreturn]] void ThrowIndex(const WidgetName& name, std::int16_t index) {
+  throw RunTimeError(ErrorKind::Index, Text(name.name) + u" has no entry " + ToText(std::int32_t{index}) + u".");
+}
+
+}  // namespace
+
+Widget::Widget(Dialog& dialog, const LayoutRow& row)
+    : dialog_(dialog),
+      row_(row),
+      font_{Text(kStoredFontName), kStoredFontSize, kStoredFontWeight},
+      caption_(row.caption) {}
+
+void Widget::NotifyChanged() { dialog_.GetView().Changed(*this); }
+
+Refusal Widget::Refuses() const {
+  if (row_.kind != WidgetKind::SSTab && row_.page != dialog_.TabStrip().Tab()) return Refusal::NotOnTop;
+  if (!visible_) return Refusal::Hidden;
+  return enabled_ ? Refusal::None : Refusal::Disabled;
+}
+
+Refusal CommandButton::UserPress() {
+  const Refusal refusal = Refuses();
+  if (refusal == Refusal::None) Raise(Click);
+  return refusal;
+}
+
+void CheckBox::Value(std::int16_t value) {
+  if (value == value_) return;
+  Set(value_, value);
+  Raise(Click);
+}
+
+Refusal CheckBox::UserToggle() {
+  const Refusal refusal = Refuses();
+  if (refusal == Refusal::None) Value(value_ == 0 ? 1 : 0);
+  return refusal;
+}
+
+char16_t TextBox::FilterKey(char16_t key) const {
+  auto code = static_cast<std::int16_t>(key);
+  Raise(KeyPress, code);
+  return static_cast<char16_t>(code);
+}
+
+Refusal TextBox::UserKey(char16_t key) {
+  if (const Refusal refusal = Refuses(); refusal != Refusal::None) return refusal;
+  key = FilterKey(key);
+  Text text = text_;
+  if (key == kBackspace) {
+    const auto isLow = [&] { return !text.empty() && text.back() >= 0xDC00 && text.back() < 0xE000; };
+    const bool isPair = isLow() && text.size() > 1;
+    if (!text.empty()) text.pop_back();
+    if (isPair && text.back() >= 0xD800 && text.back() < 0xDC00) text.pop_back();
+  } else if (key >= u' ') {
+    text += key;
+  }
+  SetText(std::move(text));
+  return Refusal::None;
+}
+
+Refusal TextBox::UserEdit(Text text) {
+  const Refusal refusal = Refuses();
+  if (refusal == Refusal::None) SetText(std::move(text));
+  return refusal;
+}
+
+struct EntryWidget::Entry {
+  Text text;
+  std::int32_t data = 0;
+  bool selected = false;
+  /// The one that sorts last of the entries up to this one. Known for the first `ranked_` entries.
+  const Entry* greatest = nullptr;
+};
+
+EntryWidget::EntryWidget(Dialog& dialog, const LayoutRow& row) : Widget(dialog, row) {}
+EntryWidget::~EntryWidget() = default;
+
+void EntryWidget::AddItem(Text text, std::optional<std::int16_t> index) {
+  if (entries_.size() >= std::numeric_limits<std::int16_t>::max()) {
+    throw RunTimeError(ErrorKind::Overflow, Text(Row().name.name) + u" can hold no more entries.");
+  }
+  if (index && (*index < 0 || *index > ListCount())) ThrowIndex(Row().name, *index);
+  const bool toSortedPlace = !index && Row().sorted;
+  const std::size_t place = index           ? static_cast<std::size_t>(*index)
+                            : toSortedPlace ? SortedPlace(text)
+                                            : entries_.size();
+  auto entry = std::make_unique<Entry>();
+  entry->text = std::move(text);
+  // At its sorted place an entry is the greatest up to there, and no greatest one behind it changes.
+  entry->greatest = entry.get();
+  ranked_ = toSortedPlace ? ranked_ + 1 : std::min(ranked_, place);
+  entries_.Insert(place, std::move(entry));
+  newIndex_ = static_cast<std::int16_t>(place);
+  if (IndexFollowsEntry() && listIndex_ >= newIndex_) ++listIndex_;
+  dialog_.GetView().EntryAdded(*this, newIndex_);
+}
+
+void EntryWidget::RemoveItem(std::int16_t index) {
+  OnRemove(At(index));
+  entries_.Erase(static_cast<std::size_t>(index));
+  ranked_ = std::min(ranked_, static_cast<std::size_t>(index));
+  if (IndexFollowsEntry()) {
+    if (listIndex_ == index) {
+      listIndex_ = -1;
+    } else if (listIndex_ > index) {
+      --listIndex_;
+    }
+  }
+  dialog_.GetView().EntryRemoved(*this, index);
+}
+
+void EntryWidget::Clear() {
+  entries_.Clear();
+  ranked_ = 0;
+  listIndex_ = -1;
+  OnClear();
+  dialog_.GetView().EntriesCleared(*this);
+}
+
+const Text& EntryWidget::List(std::int16_t index) const { return At(index).text; }
+
+void EntryWidget::List(std::int16_t index, Text text) {
+  Entry& entry = At(index);
+  ranked_ = std::min(ranked_, static_cast<std::size_t>(index));
+  Set(entry.text, std::move(text));
+}
+
+std::int32_t EntryWidget::ItemData(std::int16_t index) const { return At(index).data; }
+void EntryWidget::ItemData(std::int16_t index, std::int32_t data) { At(index).data = data; }
+
+void EntryWidget::ListIndex(std::int16_t index) {
+  if (index != -1 && !Has(index)) ThrowIndex(Row().name, index);
+  if (index == ListIndex()) return;
+  OnListIndex(index);
+  Raise(Click);
+}
+
+EntryWidget::Entry& EntryWidget::At(std::int16_t index) const {
+  if (!Has(index)) ThrowIndex(Row().name, index);
+  return *entries_[static_cast<std::size_t>(index)];
+}
+
+/// Ahead of the first entry that sorts behind the text, in whatever order the entries stand: that entry is always
+/// the greatest one up to itself, and these ascend.
+std::size_t EntryWidget::SortedPlace(TextView text) {
+  const View& view = dialog_.GetView();
+  for (; ranked_ < entries_.size(); ++ranked_) {
+    Entry& entry = *entries_[ranked_];
+    const Entry* const before = ranked_ == 0 ? nullptr : entries_[ranked_ - 1]->greatest;
+    entry.greatest = before && view.CompareTexts(before->text, entry.text) >= 0 ? before : &entry;
+  }
+  std::size_t first = 0;
+  std::size_t last = entries_.size();
+  while (first < last) {
+    const std::size_t middle = first + (last - first) / 2;
+    if (view.CompareTexts(entries_[middle]->greatest->text, text) > 0) {
+      last = middle;
+    } else {
+      first = middle + 1;
+    }
+  }
+  return first;
+}
+
+Refusal ComboBox::UserPick(std::int16_t index) {
+  if (const Refusal refusal = Refuses(); refusal != Refusal::None) return refusal;
+  if (!Has(index)) return Refusal::NoSuchEntry;
+  ListIndex(index);
+  return Refusal::None;
+}
+
+bool ListBox::Selected(std::int16_t index) const { return At(index).selected; }
+
+void ListBox::Selected(std::int16_t index, bool selected) {
+  if (At(index).selected == selected) return;
+  if (IsMulti()) {
+    Mark(index, selected);
+  } else {
+    SelectOnly(selected ? index : std::int16_t{-1});
+  }
+  Raise(Click);
+}
+
+std::int16_t ListBox::ListIndex() const {
+  const std::int16_t index = EntryWidget::ListIndex();
+  return Has(index) ? index : std::int16_t{-1};
+}
+
+Refusal ListBox::UserMouseDown(std::int16_t entry, std::int16_t button) {
+  if (const Refusal refusal = RefusesEntry(entry); refusal != Refusal::None) return refusal;
+  held_ = button == kLeftButton;
+  Place(entry);
+  Raise(MouseDown, button);
+  if (button == kLeftButton && Has(entry)) Selected(entry, !IsMulti() || !Selected(entry));
+  return Refusal::None;
+}
+
+Refusal ListBox::UserMouseMove(std::int16_t entry) {
+  if (const Refusal refusal = RefusesEntry(entry); refusal != Refusal::None) return refusal;
+  if (!held_) return Refusal::None;
+  Place(entry);
+  Raise(MouseMove, kLeftButton);
+  return Refusal::None;
+}
+
+void ListBox::UserMouseUp(std::int16_t button) {
+  if (button == kLeftButton) {
+    held_ = false;
+    Place(ListIndex());
+  }
+  Raise(MouseUp, button);
+}
+
+Refusal ListBox::UserMoveCaret(std::int16_t entry) {
+  if (const Refusal refusal = RefusesEntry(entry); refusal != Refusal::None) return refusal;
+  if (IsMulti()) {
+    Place(entry);
+  } else {
+    ListIndex(entry);
+  }
+  return Refusal::None;
+}
+
+Refusal ListBox::UserToggle() {
+  const std::int16_t entry = ListIndex();
+  const Refusal refusal = RefusesEntry(entry);
+  if (refusal == Refusal::None && IsMulti()) Selected(entry, !Selected(entry));
+  return refusal;
+}
+
+void ListBox::OnListIndex(std::int16_t index) {
+  if (IsMulti()) {
+    Place(index);
+  } else {
+    SelectOnly(index);
+  }
+}
+
+void ListBox::OnRemove(const Entry& entry) { selCount_ = static_cast<std::int16_t>(selCount_ - entry.selected); }
+
+void ListBox::Mark(std::int16_t index, bool selected) {
+  Entry& entry = At(index);
+  if (entry.selected == selected) return;
+  selCount_ = static_cast<std::int16_t>(selCount_ + (selected ? 1 : -1));
+  Set(entry.selected, selected);
+}
+
+void ListBox::SelectOnly(std::int16_t index) {
+  for (std::int16_t i = 0; i < ListCount(); ++i) Mark(i, i == index);
+  Place(index);
+}
+
+Refusal ListBox::RefusesEntry(std::int16_t entry) const {
+  const Refusal refusal = Refuses();
+  return refusal == Refusal::None && !Has(entry) ? Refusal::NoSuchEntry : refusal;
+}
+
+SSTab::SSTab(Dialog& dialog, const LayoutRow& row) : Widget(dialog, row) {
+  for (std::size_t tab = 0; tab < captions_.size(); ++tab) captions_[tab] = kStoredTabCaptions[tab];
+}
+
+void SSTab::Tab(std::int16_t tab) {
+  if (tab < 0 || tab >= kTabs) ThrowIndex(Row().name, tab);
+  if (tab == tab_) return;
+  const std::int16_t previous = tab_;
+  Set(tab_, tab);
+  Raise(Click, previous);
+}
+
+const Text& SSTab::TabCaption(std::int16_t tab) const {
+  if (tab < 0 || tab >= kTabs) ThrowIndex(Row().name, tab);
+  return captions_[static_cast<std::size_t>(tab)];
+}
+
+void SSTab::TabCaption(std::int16_t tab, Text caption) {
+  if (tab < 0 || tab >= kTabs) ThrowIndex(Row().name, tab);
+  Set(captions_[static_cast<std::size_t>(tab)], std::move(caption));
+}
+
+Refusal SSTab::UserPick(std::int16_t tab) {
+  if (tab < 0 || tab >= kTabs) return Refusal::NoSuchEntry;
+  Tab(tab);
+  return Refusal::None;
+}
+
+}  // namespace ORXKMPrintProp

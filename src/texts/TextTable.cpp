@@ -1,7 +1,0 @@
-#include "texts/TextTable.h"
-
-namespace ORXKMPrintProp {
-
-TableRef gTextTable;
-
-}  // namespace ORXKMPrintProp
