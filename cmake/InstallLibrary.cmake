@@ -1,0 +1,25 @@
+# What a program needs that is built against the library: headers, the archive, and how CMake and pkg-config find them.
+include(CMakePackageConfigHelpers)
+
+set(package_headers ${CMAKE_INSTALL_INCLUDEDIR}/ORXKMPrintProp)
+set(package_cmake ${CMAKE_INSTALL_LIBDIR}/cmake/ORXKMPrintProp)
+set(package_pkgconfig ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+
+install(DIRECTORY tables texts model pages control DESTINATION ${package_headers} FILES_MATCHING PATTERN "*.h")
+install(
+  TARGETS Control
+  EXPORT ORXKMPrintPropTargets
+  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
+  INCLUDES DESTINATION ${package_headers})
+install(EXPORT ORXKMPrintPropTargets NAMESPACE ORXKMPrintProp:: DESTINATION ${package_cmake})
+
+configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/ORXKMPrintPropConfig.cmake.in ORXKMPrintPropConfig.cmake
+                              INSTALL_DESTINATION ${package_cmake})
+write_basic_package_version_file(ORXKMPrintPropConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ORXKMPrintPropConfig.cmake
+              ${CMAKE_CURRENT_BINARY_DIR}/ORXKMPrintPropConfigVersion.cmake DESTINATION ${package_cmake})
+
+# The prefix is told from where the file lies, so that an installed tree can be moved.
+file(RELATIVE_PATH pc_to_prefix ${CMAKE_INSTALL_PREFIX}/${package_pkgconfig} ${CMAKE_INSTALL_PREFIX})
+configure_file(${PROJECT_SOURCE_DIR}/cmake/orxkmprintprop.pc.in orxkmprintprop.pc @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/orxkmprintprop.pc DESTINATION ${package_pkgconfig})

@@ -1,0 +1,22 @@
+#include "host/DocumentError.h"
+
+#include <utility>
+
+#include "host/Terminal.h"
+
+namespace ORXKMPrintProp::host {
+namespace {
+
+std::string Line(const DocumentError::Place& place, const std::string& reason) {
+  std::string where = place.table;
+  if (place.row > 0) where += ", row " + std::to_string(place.row);
+  if (!place.column.empty()) where += ", column " + place.column;
+  return OneLine(place.file + ": " + (where.empty() ? "" : where + ": ") + reason);
+}
+
+}  // namespace
+
+DocumentError::DocumentError(Place place, std::string reason)
+    : std::runtime_error(Line(place, reason)), place_(std::move(place)), reason_(std::move(reason)) {}
+
+}  // namespace ORXKMPrintProp::host

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+namespace ORXKMPrintProp::host {
+
+struct DriveOptions {
+  std::string settings;              ///< path of the settings document
+  std::optional<std::string> texts;  ///< path of the document whose text table is used instead
+  bool readOnly = false;
+  std::string script = "-";  ///< path of the script
+};
+
+/// Loads settings into a control and does to it, without a window, what each line of the script says. Everything
+/// that happens is one JSON object a line on `out`.
+/// @return an ExitStatus: kUsage when a line is not understood, which `err` tells before anything is carried out.
+/// @throws DocumentError when a file can't be read, before anything is carried out.
+int Drive(const DriveOptions& options, std::ostream& out, std::ostream& err);
+
+}  // namespace ORXKMPrintProp::host

@@ -1,0 +1,13 @@
+#pragma once
+
+namespace ORXKMPrintProp::host {
+
+/// What the program ends with; where several apply, the greatest.
+enum ExitStatus : int {
+  kSuccess = 0,
+  kLoss = 1,     ///< a document loses something in a load, or does not load
+  kUsage = 2,    ///< the command line is not understood
+  kBadFile = 3,  ///< a file can't be read or written, or is no valid document
+};
+
+}  // namespace ORXKMPrintProp::host

@@ -1,0 +1,34 @@
+#include "host/Load.h"
+
+#include "control/ORXQueryPrnProp.h"
+#include "control/SharedValues.h"
+#include "host/Terminal.h"
+#include "host/Utf8.h"
+#include "tables/RunTimeError.h"
+
+namespace ORXKMPrintProp::host {
+namespace {
+
+[[noreturn]] void Fail(const SettingsDocument& document, TextView words) {
+  throw LoadError(OneLine(document.file + ": the load fails: " + ToUtf8(words)));
+}
+
+}  // namespace
+
+void LoadAndReadBack(const SettingsDocument& document) {
+  ORXQueryPrnProp control;
+  gErrorText.clear();
+  try {
+    if (!control.ORXSetPrnTables(document.general, document.dimension, document.member, document.attribute)) {
+      Fail(document, gErrorText);
+    }
+    for (const auto read : {&ORXQueryPrnProp::ORXGenPropTable, &ORXQueryPrnProp::ORXDimTable,
+                            &ORXQueryPrnProp::ORXMemTable, &ORXQueryPrnProp::ORXAtrTable}) {
+      if (!(control.*read)()) Fail(document, u"a table could not be read back");
+    }
+  } catch (const RunTimeError& error) {
+    Fail(document, error.Message());
+  }
+}
+
+}  // namespace ORXKMPrintProp::host

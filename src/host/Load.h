@@ -1,0 +1,20 @@
+#pragma once
+
+#include <stdexcept>
+
+#include "host/SettingsDocument.h"
+
+namespace ORXKMPrintProp::host {
+
+/// A control did not take the settings. `what()` is one line: the file and what the control says.
+class LoadError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Loads the document's tables into a control and reads each of them back, as a host does that shows no dialog.
+/// The tables then hold what the control has written, and its model stays loaded.
+/// @throws LoadError; what the tables hold then is of no use.
+void LoadAndReadBack(const SettingsDocument& document);
+
+}  // namespace ORXKMPrintProp::host
