@@ -1,0 +1,23 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "tables/Table.h"
+
+namespace ORXKMPrintProp::test {
+
+/// What is seen of the operations on some tables, and which of them is to fail.
+struct Watch {
+  std::vector<std::string> calls;  ///< "it_dim.Rows", "it_dim.Rows(2)", "it_dim[2].Value(POSIT)", ...
+  std::size_t failAt = 0;          ///< counted from 1, 0 for none
+
+  /// Notes the call. @throws RunTimeError (Table) with the call as its message when it is the one to fail.
+  void Note(const std::string& call);
+};
+
+/// The same table with every operation of it and of its parts noted under that name.
+TableRef Watched(std::string name, TableRef table, std::shared_ptr<Watch> watch);
+
+}  // namespace ORXKMPrintProp::test

@@ -1,0 +1,250 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <limits>
+#include <vector>
+
+#include "support/table_text.h"
+#include "tables/CellCodecs.h"
+#include "tables/Collection.h"
+#include "tables/Conversions.h"
+#include "tables/MemoryTable.h"
+#include "tables/RunTimeError.h"
+#include "tables/TableCalls.h"
+
+namespace ORXKMPrintProp::test {
+namespace {
+
+using namespace ModPrnGen;
+
+/// What the action gives, or the kind of its failure.
+std::string Outcome(const std::function<std::string()>& action) {
+  static const char* const kinds[] = {"type", "overflow", "index", "key", "object", "table"};
+  try {
+    return action();
+  } catch (const RunTimeError& error) {
+    return kinds[static_cast<int>(error.Kind())];
+  }
+}
+
+template <class Decode, class Encode>
+void ExpectCodes(Decode decode, Encode encode, const std::vector<std::pair<TextView, int>>& cells,
+                 const std::vector<std::pair<int, TextView>>& values) {
+  using Value = decltype(decode(TextView()));
+  for (const auto& [cell, value] : cells) EXPECT_EQ(int{decode(cell)}, value) << ToAscii(cell);
+  for (const auto& [value, cell] : values) {
+    EXPECT_EQ(encode(static_cast<Value>(value)), cell) << value;
+    if (value < 9) {
+      EXPECT_EQ(int{decode(cell)}, value) << "comes back";
+    }
+  }
+}
+
+TEST(Codecs, ReadAndWriteEveryCodeAndFallBackOnTheirDefaults) {
+  ExpectCodes(FlagFromCell, FlagToCell, {{u"X", 1}, {u" ", 0}, {u"", 0}, {u"x", 0}, {u"X ", 0}},
+              {{1, u"X"}, {0, u" "}});
+  ExpectCodes(AxisFromCell, AxisToCell, {{u"X", 1}, {u"Y", 1}, {u" ", 0}, {u"y", 0}, {u"", 0}}, {{1, u"Y"}, {0, u" "}});
+  ExpectCodes(PresentationFromCell, PresentationToCell, {{u"", 1}, {u" ", 1}, {u"4", 1}, {u"00", 1}},
+              {{0, u"0"}, {1, u"1"}, {2, u"2"}, {3, u"3"}, {9, u""}});
+  ExpectCodes(AlignFromCell, AlignToCell, {{u"", 0}, {u"c", 0}, {u"X", 0}},
+              {{0, u"L"}, {1, u"R"}, {2, u"C"}, {9, u"L"}});
+  ExpectCodes(DirectionFromCell, DirectionToCell, {{u"", 1}, {u"x", 1}, {u"h", 1}}, {{0, u"H"}, {1, u"V"}, {9, u"V"}});
+  ExpectCodes(SumPositFromCell, SumPositToCell, {{u"0", 0}, {u"", 0}, {u"11", 0}}, {{0, u"2"}, {1, u"1"}, {9, u"2"}});
+  ExpectCodes(SignPrsntFromCell, SignPrsntToCell, {{u"", 0}, {u"0", 0}, {u"4", 0}},
+              {{0, u"1"}, {1, u"2"}, {2, u"3"}, {9, u"3"}});
+  ExpectCodes(CurUnitPositionFromCell, CurUnitPositionToCell, {{u"X", 3}, {u"", 3}, {u"l", 3}},
+              {{0, u"L"}, {1, u"R"}, {2, u"T"}, {3, u"N"}, {9, u"N"}});
+  ExpectCodes(NoSumsFromCell, NoSumsToCell, {{u"", 0}, {u"Y", 0}, {u"u", 0}},
+              {{0, u" "}, {1, u"C"}, {2, u"U"}, {9, u"U"}});
+}
+
+TEST(Conversions, IntegerReadsWholeNumbersOnly) {
+  const std::vector<std::pair<Variant, std::string>> rows{
+      {Variant(), "type"},
+      {true, "-1"},
+      {false, "0"},
+      {std::int16_t{-5}, "-5"},
+      {std::int32_t{32767}, "32767"},
+      {std::int32_t{32768}, "overflow"},
+      {std::int32_t{-32769}, "overflow"},
+      {0.5, "0"},
+      {1.5, "2"},
+      {-2.5, "-2"},
+      {-0.51, "-1"},
+      {32767.4, "32767"},
+      {32767.5, "overflow"},
+      {-32768.5, "-32768"},
+      {std::numeric_limits<double>::quiet_NaN(), "overflow"},
+      {std::numeric_limits<double>::infinity(), "overflow"},
+      {ObjectRef(), "type"},
+      {u"", "type"},
+      {u"  ", "type"},
+      {u" 12  ", "12"},
+      {u"+7", "7"},
+      {u"-7.5", "-8"},
+      {u".5", "0"},
+      {u"6.", "6"},
+      {u".", "type"},
+      {u"-", "type"},
+      {u"1e3", "1000"},
+      {u"15E-1", "2"},
+      {u"1e", "type"},
+      {u"1 2", "type"},
+      {u"- 1", "type"},
+      {u"1,5", "type"},
+      {u"\t1", "type"},
+      {u"0x10", "type"},
+      {u"inf", "type"},
+      {u"12a", "type"},
+      {u"\u0661", "type"},  // an Arabic digit
+      {u"40000", "overflow"},
+      {u"1e999", "overflow"},
+      {u"1e99999999999999999999", "overflow"},
+      {u"1e-999", "0"},
+      {u"-1e-99999999999999999999", "0"},
+      {u"0e999", "0"},
+  };
+  for (const auto& [value, expected] : rows) {
+    EXPECT_EQ(Outcome([&, &value = value] { return std::to_string(ToInteger(value)); }), expected) << ToString(value);
+  }
+}
+
+TEST(Conversions, LeadingNumberReadsWhatStandsAtTheHead) {
+  const std::vector<std::pair<TextView, std::string>> rows{
+      {u"", "0"},
+      {u"abc", "0"},
+      {u"20 pages", "20"},
+      {u" 1 2 x", "12"},
+      {u"-1", "-1"},
+      {u"- 1", "-1"},
+      {u"+3", "3"},
+      {u"2.5", "2"},
+      {u"3.5.7", "4"},
+      {u".5", "0"},
+      {u"-", "0"},
+      {u"1e2", "100"},
+      {u"1e2e3", "100"},
+      {u"1e", "1"},
+      {u"1e+", "1"},
+      {u"1 e 2", "100"},
+      {u"12,5", "12"},
+      {u"x12", "0"},
+      {u"7\u00e4", "7"},
+      {u"\u00e47", "0"},
+      {u"32767", "32767"},
+      {u"32768", "overflow"},
+      {u"99999999999999999999", "overflow"},
+      {u"1e-999", "0"},
+  };
+  for (const auto& [text, expected] : rows) {
+    EXPECT_EQ(Outcome([&, text = text] { return std::to_string(LeadingNumber(text)); }), expected) << ToAscii(text);
+  }
+}
+
+TEST(Conversions, TextOfACellThatIsNone) {
+  const std::vector<std::pair<Variant, std::string>> rows{
+      {Variant(), ""},
+      {true, "True"},
+      {false, "False"},
+      {std::int16_t{-3}, "-3"},
+      {std::int32_t{100000}, "100000"},
+      {0.1, "0.1"},
+      {-1e20, "-100000000000000000000"},
+      {1.5e-7, "0.00000015"},
+      {100000.0, "100000"},
+      {u" x ", " x "},
+      {ObjectRef(), "type"},
+  };
+  for (const auto& [value, expected] : rows) {
+    EXPECT_EQ(Outcome([&, &value = value] { return ToAscii(ToText(Variant(value))); }), expected);
+  }
+}
+
+TEST(CollectionOfItems, KeepsNumbersAndKeysTogether) {
+  Collection<std::string> items;
+  items.Add("a", u"K\u00c4");
+  items.Add("b");
+  items.Add("c", u"last");
+  const auto state = [&] {
+    std::string text;
+    for (const std::string& item : items) text += item;
+    return text + " " + Outcome([&] { return items.Item(TextView(u"k\u00e4")); }) + " " +
+           Outcome([&] { return items.Item(TextView(u"LAST")); }) + " " + Outcome([&] { return items.Item(3); });
+  };
+  EXPECT_EQ(state(), "abc a c c");
+  EXPECT_EQ(Outcome([&] {
+              items.Add("d", u"LaSt");
+              return std::string("added");
+            }),
+            "key");
+  EXPECT_EQ(state(), "abc a c c");
+  EXPECT_EQ(Outcome([&] { return items.Item(0); }) + Outcome([&] { return items.Item(4); }), "indexindex");
+  items.Remove(1);
+  EXPECT_EQ(state(), "bc key c index");
+  items.Remove(TextView(u"last"));
+  EXPECT_EQ(state(), "b key key index");
+  items.Add("e", u"last");
+  EXPECT_EQ(state(), "be key e index");
+}
+
+TEST(TableInMemory, AnswersTheWholeContract) {
+  auto table = MemoryTable::Create({u"KEY", u"VALUE"});
+  for (const char16_t* key : {u"a", u"b", u"c"}) AddRow(*table)->Value(u"KEY", key);
+  RowAt(*table, 2)->Value(u"VALUE", std::int32_t{5});
+  EXPECT_EQ(ToString(*table), "KEY='a'\nKEY='b' VALUE=5\nKEY='c'\n");
+
+  const auto failing = {
+      Outcome([&] { return ToString(RowAt(*table, 1)->Value(u"key")); }),
+      Outcome([&] {
+        AddRow(*table)->Value(u"", u"x");
+        return std::string();
+      }),
+      Outcome([&] { return std::to_string(RowAt(*table, 0)->RowNumber()); }),
+      Outcome([&] { return std::to_string(RowAt(*table, 5)->RowNumber()); }),
+      Outcome([&] { return ToString(table->Columns(u"NONE")->Index()); }),
+      Outcome([&] {
+        RowsOf(*table)->Item(u"a");
+        return std::string();
+      }),
+      Outcome([&] {
+        table->Columns()->KeyColumn(std::int32_t{3});
+        return std::string();
+      }),
+      Outcome([&] {
+        MemoryTable::Create({u"A", u"A"});
+        return std::string();
+      }),
+  };
+  for (const std::string& outcome : failing) EXPECT_EQ(outcome, "table");
+
+  table->Columns()->KeyColumn(table->Columns(u"KEY")->Index());
+  EXPECT_EQ(RowsOf(*table)->Item(u"c")->RowNumber(), 3);
+  EXPECT_EQ(RowsOf(*table)->Item(u"C"), nullptr);
+
+  const RowRef held = RowAt(*table, 2);
+  RowsOf(*table)->RemoveAll();
+  EXPECT_EQ(table->RowCount(), 0);
+  EXPECT_EQ(AddRow(*table)->RowNumber(), 1);
+  table.reset();
+  EXPECT_EQ(ToString(held->Value(u"VALUE")), "5");
+}
+
+TEST(TableInMemory, FindsACellInWhateverOrderColumnsAreVisited) {
+  std::vector<Text> columns;
+  for (char16_t c = u'A'; c <= u'P'; ++c) columns.push_back(Text(1, c));
+  const auto table = MemoryTable::Create(columns);
+  const RowRef rows[] = {AddRow(*table), AddRow(*table)};
+  for (const RowRef& row : rows) {
+    for (const Text& column : columns) row->Value(column, column + ToText(row->RowNumber()));
+  }
+  unsigned next = 1;
+  for (int i = 0; i < 1000; ++i) {
+    next = next * 1103515245u + 12345u;
+    const Text& column = columns[(next >> 16) % columns.size()];
+    const RowRef& row = rows[(next >> 24) % 2];
+    ASSERT_EQ(row->Value(column), Variant(column + ToText(row->RowNumber())));
+  }
+}
+
+}  // namespace
+}  // namespace ORXKMPrintProp::test
