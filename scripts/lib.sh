@@ -1,8 +1,9 @@
 # What the scripts share: the Debian packages and the builds. Sourced from the project's root.
 
 build_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev)
-test_packages=(libgtest-dev)
+test_packages=(libgtest-dev pkg-config)
 bench_packages=(libbenchmark-dev libsqlite3-dev)
+fuzz_packages=(clang libclang-rt-14-dev)
 
 # Installs what is missing, and asks before it does when not run as root. Says nothing when nothing is missing.
 need_packages() {

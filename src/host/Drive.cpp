@@ -61,6 +61,16 @@ std::optional<std::int64_t> WholeNumber(const Argument& argument) {
   return number;
 }
 
+/// The keys that an argument names; without quotes too, \b is Backspace.
+Text KeysOf(const Argument& argument) {
+  Text keys = FromUtf8(argument.text);
+  const TextView backspace = u"\\b";
+  for (std::size_t at = 0; !argument.quoted && (at = keys.find(backspace, at)) != Text::npos; ++at) {
+    keys.replace(at, backspace.size(), 1, TextBox::kBackspace);
+  }
+  return keys;
+}
+
 /// A number that no entry has stands for all that don't fit.
 std::optional<std::int16_t> EntryNumber(const Argument& argument) {
   const auto number = WholeNumber(argument);
@@ -196,7 +206,7 @@ class Driver : private View, private ORXQueryPrnPropEvents {
   std::optional<Step> Keys(const Arguments& arguments) {
     TextBox* const box = Find<TextBox>(arguments[0]);
     if (!box) return {};
-    return User([box, keys = FromUtf8(arguments[1].text)] {
+    return User([box, keys = KeysOf(arguments[1])] {
       Refusal refusal = box->Refuses();
       for (const char16_t key : keys) {
         if (refusal == Refusal::None) refusal = box->UserKey(key);

@@ -32,10 +32,8 @@ void AttrPage::ShowAttrPage() {
   const auto& characteristics = state_.Characteristics();
   {
     ModPrnGen::PositionInserter inserter(cmbAttrChar, ModPrnGen::PositionsIn(characteristics));
-    std::int32_t number = 0;
-    for (const auto& characteristic : characteristics) {
-      ++number;
-      if (!characteristic->Hidden()) inserter.Insert(characteristic->Text(), number);
+    for (const std::int32_t number : ModPrnGen::PrintedByPosition(characteristics)) {
+      inserter.Insert(characteristics.Item(number)->Text(), number);
     }
   }
   if (cmbAttrChar.ListCount() == 0) return;

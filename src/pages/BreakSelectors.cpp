@@ -1,5 +1,6 @@
 #include "pages/BreakSelectors.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -48,6 +49,7 @@ BreakSelectors::BreakSelectors(PageState& state)
 
 void BreakSelectors::FillBreakCombos() {
   const PrnCharCollCls& characteristics = state_.Characteristics();
+  const auto printed = ModPrnGen::PrintedByPosition(characteristics);
   std::array<std::int32_t, 3> saved{};
   for (std::size_t s = 0; s < selectors_.size(); ++s) {
     ComboBox& combo = selectors_[s].combo;
@@ -55,12 +57,11 @@ void BreakSelectors::FillBreakCombos() {
     ModPrnGen::ComboInsertByPosition(combo, ModPrnGen::LookupText(u"ID_PRN_NONE", u"<None>"), kNoBreak, nullptr);
     saved[s] = kNoBreak;
     PositionInserter inserter(combo, PositionsIn(characteristics));
-    std::int32_t number = 0;
-    for (const auto& characteristic : characteristics) {
-      ++number;
-      if (characteristic->Hidden()) continue;
-      inserter.Insert(characteristic->Text(), number);
-      if (((*characteristic).*selectors_[s].flag)()) saved[s] = number;
+    for (const std::int32_t number : printed) {
+      const PrnCharCls& characteristic = *characteristics.Item(number);
+      inserter.Insert(characteristic.Text(), number);
+      // Of several that hold the flag the last one in item order counts.
+      if ((characteristic.*selectors_[s].flag)()) saved[s] = std::max(saved[s], number);
     }
   }
   for (std::size_t s = 0; s < selectors_.size(); ++s) {

@@ -39,10 +39,15 @@ void ListPage::ClearLists() {
 void ListPage::FillLists() {
   ClearLists();
   const auto items = Items();
-  ModPrnGen::PositionInserter available(lstAvail, nullptr);
-  ModPrnGen::PositionInserter print(lstPrint, ModPrnGen::PositionsIn(items));
   std::int32_t number = 0;
-  for (const PrnItemRef& item : items) (item->Hidden() ? available : print).Insert(item->Text(), ++number);
+  for (const PrnItemRef& item : items) {
+    ++number;
+    if (item->Hidden()) ModPrnGen::ListInsertByPosition(lstAvail, item->Text(), number, nullptr);
+  }
+  ModPrnGen::PositionInserter print(lstPrint, ModPrnGen::PositionsIn(items));
+  for (const std::int32_t printed : ModPrnGen::PrintedByPosition(items)) {
+    print.Insert(items.Item(printed)->Text(), printed);
+  }
 }
 
 void ListPage::StoreItemOrder() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <vector>
@@ -51,6 +52,22 @@ class PositionInserter {
   std::vector<std::int32_t> sums_;  ///< partial sums of the lengths of the stretches, by their first position
   std::vector<bool> begins_;        ///< by position: a stretch begins with it
 };
+
+/// The numbers of the printed items, by position and then by number. Entries that are inserted in this order end up
+/// where those in the order of the collection would, and each at the end of its list.
+template <class Items>
+std::vector<std::int32_t> PrintedByPosition(const Items& items) {
+  std::vector<std::int32_t> numbers;
+  std::int32_t number = 0;
+  for (const auto& item : items) {
+    ++number;
+    if (!item->Hidden()) numbers.push_back(number);
+  }
+  std::stable_sort(numbers.begin(), numbers.end(), [&](std::int32_t a, std::int32_t b) {
+    return items.Item(a)->Position() < items.Item(b)->Position();
+  });
+  return numbers;
+}
 
 /// One entry by its position; see `PositionInserter` for many.
 std::int16_t ListInsertByPosition(ListBox& List, const Text& ItemText, std::int32_t ItemNumber,
