@@ -34,6 +34,7 @@ std::span<const LayoutRow> DialogLayout();
 /// The control's client area; the dialog does not follow the size that a host gives it.
 inline constexpr Geometry kClientArea{0, 0, 9675, 5940};
 
+/// In hundredths of a millimetre, unlike all other sizes.
 inline constexpr int kTabHeight = 520;
 inline constexpr int kTabsPerRow = 5;
 inline constexpr std::array<TextView, 4> kStoredTabCaptions{u"Allgemein", u"Merkmale", u"Attribute", u"Strukturen"};

@@ -240,6 +240,23 @@ Refusal ListBox::UserToggle() {
   return refusal;
 }
 
+Refusal ListBox::UserDragStep(std::int16_t direction) {
+  const std::int16_t entry = ListIndex();
+  const auto neighbour = static_cast<std::int16_t>(entry + direction);
+  if (const Refusal refusal = RefusesEntry(entry); refusal != Refusal::None) return refusal;
+  if (!Has(neighbour)) return Refusal::NoSuchEntry;
+  held_ = true;
+  try {
+    Raise(MouseDown, kLeftButton);
+    UserMouseMove(neighbour);
+  } catch (...) {
+    UserMouseUp(kLeftButton);
+    throw;
+  }
+  UserMouseUp(kLeftButton);
+  return Refusal::None;
+}
+
 void ListBox::OnListIndex(std::int16_t index) {
   if (IsMulti()) {
     Place(index);

@@ -233,6 +233,9 @@ class ListBox : public EntryWidget {
   Refusal UserMoveCaret(std::int16_t entry);
   /// By keyboard: toggles the entry at the caret of a list with multiple selection.
   Refusal UserToggle();
+  /// By keyboard: what a drag of the entry at the caret to its neighbour does. Selects nothing by itself.
+  /// @param direction -1 up, 1 down
+  Refusal UserDragStep(std::int16_t direction);
 
  protected:
   bool IndexFollowsEntry() const override { return !held_; }

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+
+#include "views/qt/WidgetView.h"
+
+// The widgets that show a caption.
+
+namespace ORXKMPrintProp::qt {
+
+/// A line around its widgets with the caption in it, the same in every style: where other styles give the caption a
+/// row of its own, the topmost widgets of the layout would lie on the line.
+class FrameView : public ViewOf<QGroupBox, Frame> {
+ public:
+  using ViewOf::ViewOf;
+  void Refresh() override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+class LabelView : public ViewOf<QLabel, Label> {
+ public:
+  LabelView(Label& label, const Report& failed, QWidget* parent);
+  void Refresh() override;
+};
+
+class ButtonView : public ViewOf<QPushButton, CommandButton> {
+ public:
+  ButtonView(CommandButton& button, const Report& failed, QWidget* parent);
+  void Refresh() override;
+};
+
+class CheckBoxView : public ViewOf<QCheckBox, CheckBox> {
+ public:
+  using ViewOf::ViewOf;
+  void Refresh() override;
+
+ protected:
+  void nextCheckState() override;
+};
+
+}  // namespace ORXKMPrintProp::qt

@@ -1,0 +1,63 @@
+#include "views/qt/ComboBoxView.h"
+
+#include <QAbstractItemView>
+#include <QStyleOptionComboBox>
+#include <QWheelEvent>
+
+namespace ORXKMPrintProp::qt {
+
+ComboBoxView::ComboBoxView(ComboBox& combo, const Report& failed, QWidget* parent)
+    : ViewOf(combo, failed, parent), entries_(new EntryModel(combo, this)) {
+  setModel(entries_);
+  setFocusPolicy(Qt::StrongFocus);
+  connect(this, &QComboBox::activated, this,
+          [this](int index) { Perform([&] { widget_.UserPick(static_cast<std::int16_t>(index)); }); });
+}
+
+void ComboBoxView::Refresh() {
+  WidgetView::Refresh();
+  entries_->EntriesChanged();
+  ShowPicked();
+  if (!isEnabled()) hidePopup();
+}
+
+void ComboBoxView::EntryAdded(int index) {
+  entries_->EntryAdded(index);
+  ShowPicked();
+}
+
+void ComboBoxView::EntryRemoved(int index) {
+  entries_->EntryRemoved(index);
+  ShowPicked();
+}
+
+void ComboBoxView::EntriesCleared() {
+  entries_->EntriesCleared();
+  ShowPicked();
+}
+
+void ComboBoxView::showPopup() {
+  // Entries that are wider than the field are read in the open list.
+  view()->setMinimumWidth(view()->sizeHintForColumn(0) +
+                          style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this));
+  QComboBox::showPopup();
+}
+
+void ComboBoxView::wheelEvent(QWheelEvent* event) {
+  if (hasFocus()) {
+    QComboBox::wheelEvent(event);
+  } else {
+    event->ignore();
+  }
+}
+
+void ComboBoxView::ShowPicked() {
+  setCurrentIndex(widget_.ListIndex());
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+  const bool isCut = fontMetrics().horizontalAdvance(currentText()) > field.width();
+  ShowToolTip(isCut ? currentText() : QString());
+}
+
+}  // namespace ORXKMPrintProp::qt

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QComboBox>
+
+#include "views/qt/EntryModel.h"
+#include "views/qt/WidgetView.h"
+
+namespace ORXKMPrintProp::qt {
+
+class ComboBoxView : public ViewOf<QComboBox, ComboBox> {
+ public:
+  ComboBoxView(ComboBox& combo, const Report& failed, QWidget* parent);
+  void Refresh() override;
+  void EntryAdded(int index) override;
+  void EntryRemoved(int index) override;
+  void EntriesCleared() override;
+  void showPopup() override;
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  /// Qt picks an entry by itself when entries come and go.
+  void ShowPicked();
+
+  EntryModel* entries_;
+};
+
+}  // namespace ORXKMPrintProp::qt

@@ -1,0 +1,221 @@
+#include "views/qt/PrnPropView.h"
+
+#include <QCollator>
+#include <QCursor>
+#include <QImage>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPixmap>
+#include <algorithm>
+#include <cmath>
+
+#include "views/qt/CaptionViews.h"
+#include "views/qt/ComboBoxView.h"
+#include "views/qt/ListBoxView.h"
+#include "views/qt/QtText.h"
+#include "views/qt/TabStripView.h"
+#include "views/qt/TextBoxView.h"
+
+namespace ORXKMPrintProp::qt {
+namespace {
+
+constexpr std::int16_t kDragPointer = 99;
+
+template <class Glass, class W>
+WidgetView* Make(Widget& widget, const Report& failed, QWidget* parent) {
+  return new Glass(dynamic_cast<W&>(widget), failed, parent);
+}
+
+WidgetView* MakeView(Widget& widget, const Report& failed, QWidget* parent) {
+  switch (widget.Row().kind) {
+    case WidgetKind::SSTab:
+      return Make<TabStripView, SSTab>(widget, failed, parent);
+    case WidgetKind::Frame:
+      return Make<FrameView, Frame>(widget, failed, parent);
+    case WidgetKind::Label:
+      return Make<LabelView, Label>(widget, failed, parent);
+    case WidgetKind::TextBox:
+      return Make<TextBoxView, TextBox>(widget, failed, parent);
+    case WidgetKind::ComboBox:
+      return Make<ComboBoxView, ComboBox>(widget, failed, parent);
+    case WidgetKind::CheckBox:
+      return Make<CheckBoxView, CheckBox>(widget, failed, parent);
+    case WidgetKind::ListBox:
+      return Make<ListBoxView, ListBox>(widget, failed, parent);
+    case WidgetKind::CommandButton:
+      return Make<ButtonView, CommandButton>(widget, failed, parent);
+  }
+  return nullptr;
+}
+
+QCursor DragCursor() {
+  const MouseIconBits& icon = MouseIcon();
+  const int size = static_cast<int>(icon.rows.size());
+  QImage image(size, size, QImage::Format_ARGB32);
+  image.fill(Qt::transparent);
+  for (int y = 0; y < size; ++y) {
+    const TextView row = icon.rows[static_cast<std::size_t>(y)];
+    for (int x = 0; x < size; ++x) {
+      const char16_t bit = row[static_cast<std::size_t>(x)];
+      if (bit != u' ') image.setPixelColor(x, y, bit == u'#' ? Qt::black : Qt::white);
+    }
+  }
+  return QCursor(QPixmap::fromImage(image), icon.hotSpotX, icon.hotSpotY);
+}
+
+}  // namespace
+
+class PrnPropView::Events : public ORXQueryPrnPropEvents {
+ public:
+  explicit Events(PrnPropView& view) : view_(view) { view_.control_.Connect(*this); }
+  ~Events() override { view_.control_.Disconnect(*this); }
+  Events(const Events&) = delete;
+  Events& operator=(const Events&) = delete;
+
+  void ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) override {
+    emit view_.ORXPrintLayoutGet(ButtonID, ToQString(CharIObjName));
+  }
+  void ORXOrderChanged() override { emit view_.ORXOrderChanged(); }
+
+ private:
+  PrnPropView& view_;
+};
+
+PrnPropView::PrnPropView(ORXQueryPrnProp& control, QWidget* parent)
+    : QWidget(parent),
+      control_(control),
+      report_([this](const QString& message) { emit failed(message); }),
+      order_(std::make_unique<QCollator>(QLocale::system())) {
+  order_->setCaseSensitivity(Qt::CaseInsensitive);
+  setFixedSize(Place(kClientArea).size());
+  MakeWidgets();
+  SetTabOrder();
+  GiveNames();
+  for (const auto& widget : control_.GetDialog().Controls()) ViewFor(*widget).Refresh();
+  MousePointerChanged(control_.GetDialog().MousePointer());
+  control_.GetDialog().SetView(this);
+  events_ = std::make_unique<Events>(*this);
+}
+
+PrnPropView::~PrnPropView() {
+  if (&control_.GetDialog().GetView() == this) control_.GetDialog().SetView(nullptr);
+}
+
+void PrnPropView::MakeWidgets() {
+  for (const auto& widget : control_.GetDialog().Controls()) {
+    const LayoutRow& row = widget->Row();
+    WidgetView* const view = MakeView(*widget, report_, &ParentOf(row));
+    view->Glass().setGeometry(Place(row.geometry));
+    views_.emplace(widget.get(), view);
+    if (row.kind == WidgetKind::SSTab) tabs_ = dynamic_cast<TabStripView*>(view);
+  }
+}
+
+void PrnPropView::SetTabOrder() {
+  std::vector<const Widget*> widgets;
+  for (const auto& widget : control_.GetDialog().Controls()) widgets.push_back(widget.get());
+  std::sort(widgets.begin(), widgets.end(),
+            [](const Widget* a, const Widget* b) { return a->Row().tabIndex < b->Row().tabIndex; });
+  QWidget* last = nullptr;
+  for (const Widget* const widget : widgets) {
+    QWidget& glass = ViewFor(*widget).Glass();
+    if (glass.focusPolicy() == Qt::NoFocus && !glass.focusProxy()) continue;
+    if (last) setTabOrder(last, &glass);
+    last = &glass;
+  }
+}
+
+void PrnPropView::GiveNames() {
+  for (const auto& widget : control_.GetDialog().Controls()) {
+    if (widget->Row().kind == WidgetKind::SSTab) continue;
+    const SpokenName name(control_.GetDialog(), *widget);
+    QWidget& glass = ViewFor(*widget).Glass();
+    glass.setAccessibleName(name.Spoken());
+    if (const Label* const label = name.FirstLabel(); label && label != widget.get()) {
+      auto& shown = dynamic_cast<QLabel&>(ViewFor(*label).Glass());
+      if (!shown.buddy()) shown.setBuddy(&glass);
+    }
+    names_.emplace_back(widget.get(), name);
+  }
+}
+
+QRect PrnPropView::Place(const Geometry& geometry) const {
+  constexpr double kTwipsPerInch = 1440;
+  const auto x = [&](int twips) { return static_cast<int>(std::lround(twips * logicalDpiX() / kTwipsPerInch)); };
+  const auto y = [&](int twips) { return static_cast<int>(std::lround(twips * logicalDpiY() / kTwipsPerInch)); };
+  const QPoint topLeft(x(geometry.left), y(geometry.top));
+  const QPoint behind(x(geometry.left + geometry.width), y(geometry.top + geometry.height));
+  return QRect(topLeft, QSize(behind.x() - topLeft.x(), behind.y() - topLeft.y()));
+}
+
+QWidget& PrnPropView::ParentOf(const LayoutRow& row) {
+  if (row.parent.empty()) return *this;
+  const Widget& parent = *control_.GetDialog().Find({row.parent});
+  return parent.Row().kind == WidgetKind::SSTab ? tabs_->Page(row.page) : ViewFor(parent).Glass();
+}
+
+void PrnPropView::keyPressEvent(QKeyEvent* event) {
+  struct TabKey {
+    int key;
+    Qt::KeyboardModifiers modifiers;
+    int step;
+  };
+  static constexpr TabKey kTabKeys[] = {
+      {Qt::Key_Tab, Qt::ControlModifier, 1},
+      {Qt::Key_PageDown, Qt::ControlModifier, 1},
+      {Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier, -1},
+      {Qt::Key_PageUp, Qt::ControlModifier, -1},
+  };
+  for (const TabKey& tab : kTabKeys) {
+    if (event->key() != tab.key || event->modifiers() != tab.modifiers) continue;
+    tabs_->PickNext(tab.step);
+    return;
+  }
+  QWidget::keyPressEvent(event);
+}
+
+void PrnPropView::Changed(Widget& widget) {
+  ViewFor(widget).Refresh();
+  for (const auto& [named, name] : names_) {
+    if (name.DependsOn(widget)) ViewFor(*named).Glass().setAccessibleName(name.Spoken());
+  }
+}
+
+void PrnPropView::EntryAdded(EntryWidget& widget, std::int16_t index) { ViewFor(widget).EntryAdded(index); }
+
+void PrnPropView::EntryRemoved(EntryWidget& widget, std::int16_t index) { ViewFor(widget).EntryRemoved(index); }
+
+void PrnPropView::EntriesCleared(EntryWidget& widget) { ViewFor(widget).EntriesCleared(); }
+
+void PrnPropView::MousePointerChanged(std::int16_t pointer) {
+  const bool isDrag = pointer == kDragPointer;
+  if (isDrag) {
+    setCursor(DragCursor());
+  } else {
+    unsetCursor();
+  }
+  // The only widgets with a pointer of their own.
+  for (QLineEdit* const edit : findChildren<QLineEdit*>()) {
+    if (isDrag) {
+      edit->unsetCursor();
+    } else {
+      edit->setCursor(Qt::IBeamCursor);
+    }
+  }
+}
+
+void PrnPropView::MsgBox(const Text& text, const Text& title) {
+  QMessageBox box(QMessageBox::NoIcon, ToQString(title), ToQString(text), QMessageBox::Ok, window());
+  box.setTextFormat(Qt::PlainText);
+  box.setWindowModality(Qt::WindowModal);
+  box.exec();
+}
+
+int PrnPropView::CompareTexts(TextView a, TextView b) const {
+  return order_->compare(QStringView(a.data(), static_cast<qsizetype>(a.size())),
+                         QStringView(b.data(), static_cast<qsizetype>(b.size())));
+}
+
+}  // namespace ORXKMPrintProp::qt

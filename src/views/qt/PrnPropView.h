@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <cstdint>
+#include <memory>
+#include <unordered_map>
+#include <utility>
+#include <vector>
+
+#include "control/ORXQueryPrnProp.h"
+#include "views/qt/SpokenName.h"
+#include "views/qt/WidgetView.h"
+
+class QCollator;
+
+namespace ORXKMPrintProp::qt {
+
+class TabStripView;
+
+/// The dialog as a Qt widget of fixed size, to be put into any window. A control has one view at a time; it shows
+/// what the control holds already, and everything from then on.
+///
+/// The signals come inside the user's action. A slot may call any operation of the control, but is to leave the view
+/// alive: `deleteLater` does.
+class PrnPropView : public QWidget, private View {
+  Q_OBJECT
+
+ public:
+  /// @param control must outlive the view. Made with a `QtFontPlatform` it has the desktop's interface font.
+  explicit PrnPropView(ORXQueryPrnProp& control, QWidget* parent = nullptr);
+  ~PrnPropView() override;
+
+ signals:
+  /// As the event of the control of that name.
+  void ORXPrintLayoutGet(int buttonId, const QString& charIObjName);
+  void ORXOrderChanged();
+  /// What the user did failed in the middle, as where a table refuses an operation. The dialog stays usable.
+  /// @param message one line for a person
+  void failed(const QString& message);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  class Events;
+
+  void Changed(Widget& widget) override;
+  void EntryAdded(EntryWidget& widget, std::int16_t index) override;
+  void EntryRemoved(EntryWidget& widget, std::int16_t index) override;
+  void EntriesCleared(EntryWidget& widget) override;
+  void MousePointerChanged(std::int16_t pointer) override;
+  void MsgBox(const Text& text, const Text& title) override;
+  int CompareTexts(TextView a, TextView b) const override;
+
+  void MakeWidgets();
+  void SetTabOrder();
+  void GiveNames();
+  /// Where the widget lies, in pixels from its parent.
+  QRect Place(const Geometry& geometry) const;
+  QWidget& ParentOf(const LayoutRow& row);
+  WidgetView& ViewFor(const Widget& widget) const { return *views_.at(&widget); }
+
+  ORXQueryPrnProp& control_;
+  Report report_;
+  std::unique_ptr<QCollator> order_;
+  std::unique_ptr<Events> events_;
+  std::unordered_map<const Widget*, WidgetView*> views_;
+  std::vector<std::pair<const Widget*, SpokenName>> names_;
+  TabStripView* tabs_ = nullptr;
+};
+
+}  // namespace ORXKMPrintProp::qt

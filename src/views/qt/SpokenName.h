@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <vector>
+
+#include "pages/Dialog.h"
+
+namespace ORXKMPrintProp::qt {
+
+/// How a screen reader calls a widget: by its own caption; a field by the label beside it, and in a table of
+/// columns by the label above it too; a transfer button, which shows but an arrow, by its tooltip.
+class SpokenName {
+ public:
+  SpokenName(const Dialog& dialog, const Widget& widget);
+
+  bool DependsOn(const Widget& widget) const;
+  QString Spoken() const;
+  /// None for a widget that has its name from itself.
+  const Label* FirstLabel() const;
+
+ private:
+  /// Those whose captions make the name, in its order.
+  std::vector<const Widget*> sources_;
+};
+
+}  // namespace ORXKMPrintProp::qt

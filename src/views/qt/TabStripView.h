@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QTabBar>
+#include <array>
+
+#include "views/qt/WidgetView.h"
+
+namespace ORXKMPrintProp::qt {
+
+/// The tabs, and under them four pages of which one is seen. Each page has the size of the whole strip, tabs
+/// included, since what lies on it is placed from there.
+class TabStripView : public ViewOf<QWidget, SSTab> {
+ public:
+  TabStripView(SSTab& strip, const Report& failed, QWidget* parent);
+  void Refresh() override;
+
+  QWidget& Page(std::int16_t tab) const { return *pages_[static_cast<std::size_t>(tab)]; }
+  /// By keyboard: the page `step` behind the one on top, round and round.
+  void PickNext(int step);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  void Pick(int tab);
+  void FitTabs();
+
+  QTabBar* tabs_;
+  std::array<QWidget*, SSTab::kTabs> pages_;
+};
+
+}  // namespace ORXKMPrintProp::qt

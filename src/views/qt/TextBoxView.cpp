@@ -1,0 +1,68 @@
+#include "views/qt/TextBoxView.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <limits>
+#include <utility>
+
+#include "views/qt/QtText.h"
+
+namespace ORXKMPrintProp::qt {
+
+TextBoxView::TextBoxView(TextBox& box, const Report& failed, QWidget* parent) : ViewOf(box, failed, parent) {
+  setMaxLength(std::numeric_limits<int>::max());
+  connect(this, &QLineEdit::textChanged, this, [this](const QString& shown) {
+    Text text = ToText(shown);
+    if (text == widget_.GetText()) return;
+    Perform([&] { widget_.UserEdit(std::move(text)); });
+  });
+}
+
+void TextBoxView::Refresh() {
+  WidgetView::Refresh();
+  const QString text = ToQString(widget_.GetText());
+  if (text != this->text()) setText(text);
+}
+
+void TextBoxView::keyPressEvent(QKeyEvent* event) {
+  const bool isBackspace = event->key() == Qt::Key_Backspace;
+  if (isBackspace) {
+    const char16_t key = FilterKey(TextBox::kBackspace);
+    if (key != TextBox::kBackspace) {
+      if (key >= u' ') insert(QString(QChar(key)));
+      return;
+    }
+  }
+  const QString text = isBackspace ? event->text() : Filtered(event->text());
+  QKeyEvent filtered(event->type(), event->key(), event->modifiers(), event->nativeScanCode(),
+                     event->nativeVirtualKey(), event->nativeModifiers(), text, event->isAutoRepeat(),
+                     static_cast<quint16>(event->count()));
+  QLineEdit::keyPressEvent(&filtered);
+  // A key that was dropped is done with all the same.
+  event->setAccepted(filtered.isAccepted() || text != event->text());
+}
+
+void TextBoxView::inputMethodEvent(QInputMethodEvent* event) {
+  QInputMethodEvent filtered(event->preeditString(), event->attributes());
+  filtered.setCommitString(Filtered(event->commitString()), event->replacementStart(), event->replacementLength());
+  QLineEdit::inputMethodEvent(&filtered);
+  event->setAccepted(filtered.isAccepted());
+}
+
+QString TextBoxView::Filtered(const QString& typed) {
+  QString left;
+  for (const QChar character : typed) {
+    char16_t key = character.unicode();
+    if (key >= u' ' && key != u'\x7f') key = FilterKey(key);
+    if (key != 0) left += QChar(key);
+  }
+  return left;
+}
+
+char16_t TextBoxView::FilterKey(char16_t key) {
+  char16_t left = 0;
+  Perform([&] { left = widget_.FilterKey(key); });
+  return left;
+}
+
+}  // namespace ORXKMPrintProp::qt

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QLineEdit>
+
+#include "views/qt/WidgetView.h"
+
+namespace ORXKMPrintProp::qt {
+
+class TextBoxView : public ViewOf<QLineEdit, TextBox> {
+ public:
+  TextBoxView(TextBox& box, const Report& failed, QWidget* parent);
+  void Refresh() override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+
+ private:
+  /// What becomes of typed text; control codes belong to keys with a meaning of their own and stay.
+  QString Filtered(const QString& typed);
+  char16_t FilterKey(char16_t key);
+};
+
+}  // namespace ORXKMPrintProp::qt

@@ -1,0 +1,65 @@
+#include "views/qt/WidgetView.h"
+
+#include <QTextDocument>
+#include <exception>
+
+#include "tables/RunTimeError.h"
+#include "views/qt/FittedText.h"
+#include "views/qt/QtText.h"
+
+namespace ORXKMPrintProp::qt {
+
+QString ToolTipOf(const QString& text) {
+  return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
+}
+
+WidgetView::WidgetView(QWidget& glass, Widget& widget, const Report& failed)
+    : glass_(glass), base_(widget), failed_(failed) {
+  const WidgetName& name = widget.Row().name;
+  QString text = ToQString(name.name);
+  if (name.index != WidgetName::kNoIndex) text += QStringLiteral("(%1)").arg(name.index);
+  glass.setObjectName(text);
+}
+
+void WidgetView::Refresh() {
+  glass_.setFont(StoredFont());
+  ShowToolTip({});
+  glass_.setEnabled(base_.Enabled());
+  glass_.setVisible(base_.Visible());
+}
+
+void WidgetView::Perform(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const RunTimeError& error) {
+    failed_(ToQString(error.Message()));
+  } catch (const std::exception& error) {
+    failed_(QString::fromUtf8(error.what()));
+  }
+  Refresh();
+}
+
+QFont WidgetView::StoredFont() const {
+  const Font& stored = base_.GetFont();
+  QFont font(ToQString(stored.Name));
+  font.setPointSizeF(stored.Size);
+  font.setWeight(static_cast<QFont::Weight>(stored.Weight));
+  return font;
+}
+
+void WidgetView::ShowToolTip(const QString& cutText) {
+  QString text = cutText;
+  if (!text.isEmpty() && !base_.ToolTipText().empty()) text += u'\n';
+  text += ToQString(base_.ToolTipText());
+  glass_.setToolTip(ToolTipOf(text));
+}
+
+QString WidgetView::FitCaption(int width) {
+  const QString caption = ToQString(base_.Caption());
+  const FittedText fitted(caption, StoredFont(), width);
+  glass_.setFont(fitted.font);
+  if (fitted.isCut) ShowToolTip(caption);
+  return fitted.text;
+}
+
+}  // namespace ORXKMPrintProp::qt

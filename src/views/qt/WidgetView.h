@@ -1,0 +1,64 @@
+#pragma once
+
+#include <QFont>
+#include <QString>
+#include <QWidget>
+#include <functional>
+
+#include "pages/Widgets.h"
+
+namespace ORXKMPrintProp::qt {
+
+/// Where a failure of a handler goes.
+using Report = std::function<void(const QString& message)>;
+
+/// The tooltip that shows the text as it is, also where it looks like markup.
+QString ToolTipOf(const QString& text);
+
+/// Draws one widget of the dialog and hands in what the user does with it. It keeps nothing of the widget's content.
+class WidgetView {
+ public:
+  WidgetView(QWidget& glass, Widget& widget, const Report& failed);
+  virtual ~WidgetView() = default;
+  WidgetView(const WidgetView&) = delete;
+  WidgetView& operator=(const WidgetView&) = delete;
+
+  /// The Qt widget that is seen.
+  QWidget& Glass() const { return glass_; }
+
+  /// Shows all that the widget holds now.
+  virtual void Refresh();
+  virtual void EntryAdded(int /*index*/) {}
+  virtual void EntryRemoved(int /*index*/) {}
+  virtual void EntriesCleared() {}
+
+ protected:
+  /// The only way in for what the user does: reports a failure, and shows the widget as it is afterwards, whether
+  /// the action was carried out, refused or failed.
+  void Perform(const std::function<void()>& action);
+
+  QFont StoredFont() const;
+  /// The widget's tooltip, and ahead of it a text that could not be shown in full.
+  void ShowToolTip(const QString& cutText);
+  /// Sets font and tooltip for the caption to fit.
+  /// @return what is to be shown of it.
+  QString FitCaption(int width);
+
+ private:
+  QWidget& glass_;
+  Widget& base_;
+  const Report& failed_;
+};
+
+/// The same as a Qt widget of that class.
+template <class QtWidget, class W>
+class ViewOf : public QtWidget, public WidgetView {
+ public:
+  ViewOf(W& widget, const Report& failed, QWidget* parent)
+      : QtWidget(parent), WidgetView(*static_cast<QtWidget*>(this), widget, failed), widget_(widget) {}
+
+ protected:
+  W& widget_;
+};
+
+}  // namespace ORXKMPrintProp::qt
