@@ -546,6 +546,29 @@ TEST(HostInAnEvent, MayCallAnythingBack) {
       EXPECT_EQ(stage.Events(), "order;") << "the dialog stays usable";
     }
   }
+  // Whoever loads in the handler, and however it goes: the list of the old settings is never stored into the new ones.
+  for (const int how : {0, 1, 2}) {
+    Stage other{Settings(Characteristics("k"))};
+    Stage stage{Settings(dim)};
+    const Settings next(Characteristics("vQ wP xA y z"), "", "", how == 1 ? "" : "TITLE='N'");
+    const Settings bad("IOBJNM='v' AXIS='Y' POSIT=1\nIOBJNM='w' POSIT='x'");
+    stage.onOrderChanged = [&] {
+      if (how == 0) next.LoadInto(other.control);
+      if (how == 1) next.LoadInto(stage.control);
+      if (how == 2) bad.LoadInto(stage.control);
+    };
+    stage.Tab(1);
+    if (how == 2) {
+      EXPECT_THROW(drag(stage), RunTimeError);
+    } else {
+      drag(stage);
+    }
+    std::string model;
+    for (const auto& c : gPrnProp->Characteristics()) {
+      model += ToAscii(c->Name()) + std::to_string(c->Position()) + (c->QueryBreak() ? "Q" : "") + " ";
+    }
+    EXPECT_EQ(model, how == 0 ? "v1Q w2 x3 y4 z5 " : how == 1 ? "" : "v1 ");
+  }
   Stage stage{Settings(Characteristics("a b c d e f g h i j k-"))};
   stage.onMessage = [&] { other.LoadInto(stage.control); };
   stage.Tab(1);

@@ -2,6 +2,7 @@
 
 #include "support/stage.h"
 #include "tables/RunTimeError.h"
+#include "tables/TableCalls.h"
 
 namespace ORXKMPrintProp::test {
 namespace {
@@ -205,6 +206,13 @@ TEST(AttrPage, TransfersAtOnceAndStoresADragWithTheNextStore) {
          s.Combo(u"cmbAttrChar").UserPick(1);
        },
        "q:2 s:4 | >*p:1 r:3", "p1 q-0 r2 s-0 "},
+      {"drag away and back, then another characteristic and back",
+       [](Stage& s) {
+         s.Drag(s.List(u"lstPrint", 2), {0, 1, 0});
+         s.Combo(u"cmbAttrChar").UserPick(0);
+         s.Combo(u"cmbAttrChar").UserPick(1);
+       },
+       "q:2 s:4 | >*r:3 p:1", loaded},
       {"mere browsing",
        [](Stage& s) {
          s.Combo(u"cmbAttrChar").UserPick(0);
@@ -431,6 +439,84 @@ TEST(FailedLoad, IsShownWhenACommitIsDue) {
   EXPECT_EQ(Seen(stage).substr(0, 17), "next /  | *n:1 / ");
   stage.Read();
   EXPECT_EQ(BriefOf(Kind::General, *stage.settings.gen), "TITLE='next'\n");
+}
+
+TEST(FailedFill, IsNeverCommitted) {
+  const auto settings = [] {
+    return Settings(Characteristics("aQ bP c") + std::string(kTwoStructures), "", kElements);
+  };
+  // A text table whose row for an entry of the selectors has no caption.
+  const auto texts = MemoryTable::Create({u"TARGETID"});
+  AddRow(*texts)->Value(u"TARGETID", u"ID_PRN_NONE");
+  for (const std::int16_t tab : {std::int16_t{1}, std::int16_t{3}}) {
+    Stage stage{settings()};
+    stage.Tab(tab);
+    stage.control.ORXControlTexts(texts);
+    const Settings next = settings();
+    EXPECT_THROW(next.LoadInto(stage.control), RunTimeError);
+    EXPECT_THROW(stage.control.ORXDimTable(), RunTimeError);
+    EXPECT_THROW(stage.control.ORXSetReadOnly(true), RunTimeError);
+    stage.control.ORXControlTexts(TableFrom(Kind::Texts, ""));
+    stage.control.ORXDimTable();
+    const Settings untouched = settings();
+    EXPECT_EQ(BriefOf(Kind::Dimension, *next.dim),
+              "IOBJNM='a' IOBJTXT='a' POSIT=1 AXIS='Y' PR_QUERY_BREAK='X'\n"
+              "IOBJNM='b' IOBJTXT='b' POSIT=2 AXIS='Y' PR_PAGE_BREAK='X'\nIOBJNM='c' IOBJTXT='c' POSIT=3 AXIS='Y'\n"
+              "IOBJNM='S1' IOBJTXT='one' POSIT=5 AXIS='X' IS_STRUCTURE='X'\n"
+              "IOBJNM='S2' IOBJTXT='two' AXIS='X' IS_STRUCTURE='X'\n");
+    stage.control.ORXSetReadOnly(true);
+    EXPECT_EQ(stage.EnabledOf(u"Gen"), "");
+  }
+  gTextTable.reset();
+}
+
+TEST(FailedShow, StoresNothingIntoTheItemItWasFor) {
+  Stage stage{
+      Settings("IOBJNM='A' AXIS='Y' IOBJPRSNT='0'\nIOBJNM='B' AXIS='Y' IOBJPRSNT='1' PR_COL1_HEADER='title' "
+               "PR_COL1_WIDTH=22")};
+  stage.Tab(1);
+  const auto texts = MemoryTable::Create({u"TARGETID"});
+  AddRow(*texts)->Value(u"TARGETID", u"ID_DLG_VALPRES_2");
+  EXPECT_THROW(stage.control.ORXControlTexts(texts), RunTimeError) << "and the former texts stay in use";
+  gTextTable = texts;
+  texts->Columns()->KeyColumn(std::int32_t{1});
+  stage.List(u"lstPrint", 1).UserMouseDown(0, ListBox::kLeftButton);
+  EXPECT_THROW(stage.Click(stage.List(u"lstPrint", 1), 1), RunTimeError);
+  gTextTable.reset();
+  EXPECT_NE(stage.ReadDimension().find("PR_COL1_WIDTH=22 PR_COL1_HEADER='title'"), std::string::npos);
+}
+
+TEST(ClickOnPagesOfAModelThatIsGone, IsDropped) {
+  Stage stage{Settings(Characteristics("a b c"))};
+  stage.Tab(1);
+  const Settings bad("IOBJNM='v' IOBJTXT='v' AXIS='Y'\nIOBJNM='w' IOBJTXT='w' AXIS='Y'\nIOBJNM='x' POSIT='x'");
+  EXPECT_THROW(bad.LoadInto(stage.control), RunTimeError);
+  stage.Click(stage.List(u"lstPrint", 1), 1);
+  EXPECT_EQ(stage.Lists(1), " | *v:1 w:2");
+}
+
+TEST(Limits, AreThoseOfARowNumber) {
+  const Settings settings;
+  for (int i = 0; i < 32767; ++i) {
+    const RowRef row = AddRow(*settings.dim);
+    for (const char16_t* column : {u"PR_COL1_WIDTH", u"PR_COL2_WIDTH", u"STRT_LVL"})
+      row->Value(column, std::int16_t{0});
+    row->Value(u"POSIT", static_cast<std::int16_t>(i));
+    row->Value(u"AXIS", u"Y");
+    if (i == 32765) row->Value(u"PR_QUERY_BREAK", u"X");
+  }
+  ORXQueryPrnProp control;
+  ASSERT_TRUE(settings.LoadInto(control));
+  Dialog& dialog = control.GetDialog();
+  dialog.TabStrip().UserPick(1);
+  auto& list = dialog.Get<ListBox>(u"lstPrint", 1);
+  auto& selector = dialog.Get<ComboBox>(u"cmbCharQueryBreak");
+  EXPECT_EQ(std::tuple(list.ListCount(), selector.ListCount(), selector.ListIndex()), std::tuple(32767, 32767, 32766));
+  // The one that is selected becomes the last.
+  list.UserMouseDown(32766, ListBox::kLeftButton);
+  list.UserMouseMove(0);
+  list.UserMouseUp(ListBox::kLeftButton);
+  EXPECT_EQ(std::tuple(selector.ListCount(), selector.ListIndex()), std::tuple(32767, 0));
 }
 
 TEST(Listeners, ComeAndGoInsideAnEvent) {

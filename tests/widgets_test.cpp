@@ -235,7 +235,7 @@ TEST_F(WidgetsTest, TheMouseTogglesOrSelectsAndHoldsTheCaret) {
   multi.UserToggle();
   multi.UserMoveCaret(1);
   single.UserMoveCaret(1);
-  EXPECT_EQ(StateOf(multi) + "|" + StateOf(single) + "|" + Events(), "b >x y|a >*b|Click0 Click1");
+  EXPECT_EQ(StateOf(multi) + "|" + StateOf(single) + "|" + Events(), "b >x y|a >*b|Click0");
 }
 
 TEST_F(WidgetsTest, AHandlerMayChangeItsOwnWidget) {
@@ -247,7 +247,7 @@ TEST_F(WidgetsTest, AHandlerMayChangeItsOwnWidget) {
   multi.UserMouseDown(2, ListBox::kLeftButton);
   multi.UserMouseMove(0);
   multi.UserMouseUp(ListBox::kLeftButton);
-  EXPECT_EQ(StateOf(multi), ">new");
+  EXPECT_EQ(StateOf(multi), "new") << "what was under the pointer is gone";
   multi.MouseDown = [this](std::int16_t) { multi.Clear(); };
   multi.UserMouseDown(0, ListBox::kLeftButton);
   multi.UserMouseUp(ListBox::kLeftButton);

@@ -37,7 +37,13 @@ bool IsTotalsRowButton(const Variant& buttonId) {
 }
 
 std::int16_t LayoutSlot(const Variant& buttonId) {
-  return std::holds_alternative<std::monostate>(buttonId) ? std::int16_t{0} : ToInteger(buttonId);
+  if (std::holds_alternative<std::monostate>(buttonId)) return 0;
+  try {
+    return ToInteger(buttonId);
+  } catch (const RunTimeError& error) {
+    // A number too large for 16 bits is a button that there is not, like any other.
+    throw error.Kind() == ErrorKind::Overflow ? RunTimeError(ErrorKind::Index, error.Message()) : error;
+  }
 }
 
 }  // namespace
@@ -98,9 +104,10 @@ TableRef ORXQueryPrnProp::ReadBack(const TableRef ORXQueryPrnProp::*table) {
   pages_.StoreCurrentPage();
   const std::shared_ptr<PrnPropCls> root = gPrnProp;
   // The fields may change under the call: a table may load other settings from inside an operation.
+  const TableRef asked = this->*table;
   const bool written =
       root->ToTable(TableRef(mGenPropTable), TableRef(mDimTable), TableRef(mMemTable), TableRef(mAtrTable));
-  return written ? this->*table : nullptr;
+  return written ? asked : nullptr;
 }
 
 TableRef ORXQueryPrnProp::ORXGenPropTable() { return ReadBack(&ORXQueryPrnProp::mGenPropTable); }
@@ -109,16 +116,23 @@ TableRef ORXQueryPrnProp::ORXMemTable() { return ReadBack(&ORXQueryPrnProp::mMem
 TableRef ORXQueryPrnProp::ORXAtrTable() { return ReadBack(&ORXQueryPrnProp::mAtrTable); }
 
 bool ORXQueryPrnProp::ORXControlTexts(TableRef TextTable) {
-  gTextTable = Needed(std::move(TextTable));
-  const TableRef table = gTextTable;
-  const Variant index = Needed(table->Columns(u"TARGETID"))->Index();
-  Needed(table->Columns())->KeyColumn(index);
-  ApplyTexts();
+  const TableRef table = Needed(std::move(TextTable));
+  const TableRef former = std::exchange(gTextTable, table);
+  try {
+    const Variant index = Needed(table->Columns(u"TARGETID"))->Index();
+    Needed(table->Columns())->KeyColumn(index);
+    ApplyTexts();
+  } catch (...) {
+    // A table that can't be used must not fail every later load too.
+    if (gTextTable == table) gTextTable = former;
+    throw;
+  }
   return false;
 }
 
 Variant ORXQueryPrnProp::ORXSetPrintLayout(Text FBLayout, const Variant& ButtonID, const Text& CharIObjName) {
-  if (!gPrnProp) throw RunTimeError(ErrorKind::Index, u"No settings are loaded, so there is no place for a layout.");
+  if (!gPrnProp || !mGenPropTable)
+    throw RunTimeError(ErrorKind::Index, u"No settings are loaded, so there is no place for a layout.");
   if (!IsTotalsRowButton(ButtonID)) {
     gPrnProp->FBLayout(LayoutSlot(ButtonID), std::move(FBLayout));
     return {};

@@ -39,8 +39,9 @@ class ORXQueryPrnProp {
   /// Loads new settings in the place of all former ones, empties the general table and fills the pages. The first
   /// load applies the default texts unless texts have been handed in.
   /// @return False when the general table has not exactly one row. The tables are the control's all the same.
-  /// @throws RunTimeError (Object) when a table is none; nothing is changed then. Any other error leaves the
-  /// control with its former tables and the model as far as it was read.
+  /// @throws RunTimeError (Object) when a table is none; nothing is changed then. An error while reading
+  /// leaves the control with its former tables and the model as far as it was read; one from emptying the general
+  /// table or filling the pages leaves it with the new ones.
   bool ORXSetPrnTables(TableRef GenPropTable, TableRef DimTable, TableRef MemTable, TableRef AtrTable);
 
   /// Commits the page on top, then rewrites all four tables and gives the one that is asked for: the object that the
@@ -54,8 +55,8 @@ class ORXQueryPrnProp {
   /// Takes the host's texts, by the key in `TARGETID` the text in `CAPTION`. A key without a row keeps its default.
   /// Captions and tooltips change at once; texts that pages fetch, when they are next filled.
   /// @return always False; it does not mean a failure.
-  /// @throws RunTimeError (Object) for no table, which changes nothing; any error of the table, above all when it
-  /// has no column `TARGETID`.
+  /// @throws RunTimeError (Object) for no table; any error of the table, above all when it has no column
+  /// `TARGETID`. The former text table stays in use then, and the texts set so far stay set.
   bool ORXControlTexts(TableRef TextTable);
 
   /// Stores a layout, an opaque text, in the model. It reaches the tables when they are read next.
@@ -63,8 +64,8 @@ class ORXQueryPrnProp {
   /// @param CharIObjName for button 4 the characteristic, by its exact technical name; the first one that bears it
   /// gets the layout, and none is no error. Not looked at for the other buttons.
   /// @return always empty.
-  /// @throws RunTimeError (Index) for any other button, and before the first load; (Type, Overflow) for a
-  /// `ButtonID` that is no 16-bit number.
+  /// @throws RunTimeError (Index) for any other number, and before this control's first load; (Type) for a
+  /// `ButtonID` that is no number.
   Variant ORXSetPrintLayout(Text FBLayout, const Variant& ButtonID, const Text& CharIObjName);
 
   /// True: the dialog takes no change. The user can still look at everything, and the layout buttons stay usable.

@@ -45,10 +45,7 @@ struct LeadingNumberCell {
 
 template <auto Decode, auto Encode>
 struct CodeCell {
-  static auto Read(Variant&& cell) {
-    if (const Text* const text = std::get_if<Text>(&cell)) return Decode(*text);
-    return Decode(ToText(std::move(cell)));
-  }
+  static auto Read(Variant&& cell) { return Decode(ToText(std::move(cell))); }
   template <class Value>
   static Variant Write(Value value) {
     return Encode(value);
@@ -72,7 +69,7 @@ struct HiddenAsAxisCell {
 
 /// The column of that name holds the property, in a cell of that kind.
 template <class Class, auto Member, class Cell>
-constexpr ColumnOf<Class> Column(TextView name, Direction direction = Direction::Both) {
+constexpr ColumnOf<Class> PropertyColumn(TextView name, Direction direction = Direction::Both) {
   ColumnOf<Class> column{name, nullptr, nullptr};
   if (direction != Direction::WriteOnly) {
     column.read = [](Class& object, Variant&& cell) { (object.*Member)(Cell::Read(std::move(cell))); };

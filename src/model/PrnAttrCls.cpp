@@ -11,21 +11,21 @@ constexpr TextView kOwner = u"IOBJNM";
 using C = PrnAttrCls;
 constexpr ColumnOf<C> kColumns[] = {
     // Read ahead of ATTRITXT, written behind it.
-    Column<C, &C::Name, TextCell>(u"ATTRINM", Direction::ReadOnly),
-    Column<C, &C::Text, TextCell>(u"ATTRITXT"),
-    Column<C, &C::Name, TextCell>(u"ATTRINM", Direction::WriteOnly),
-    Column<C, &C::Position, IntegerCell>(u"POSIT"),
-    Column<C, &C::Hidden, FlagCell>(u"HIDDEN"),
-    Column<C, &C::Presentation, PresentationCell>(u"IOBJPRSNT"),
-    Column<C, &C::ColFix1, FlagCell>(u"PR_COL1_FIX"),
-    Column<C, &C::ColFix2, FlagCell>(u"PR_COL2_FIX"),
-    Column<C, &C::ColAutoWidth, FlagCell>(u"PR_AUTO_WIDTH"),
-    Column<C, &C::ColWidth1, IntegerCell>(u"PR_COL1_WIDTH"),
-    Column<C, &C::ColWidth2, IntegerCell>(u"PR_COL2_WIDTH"),
-    Column<C, &C::ColAlign1, AlignCell>(u"PR_COL1_ALIGN"),
-    Column<C, &C::ColAlign2, AlignCell>(u"PR_COL2_ALIGN"),
-    Column<C, &C::ColTitle, TextCell>(u"PR_COL1_HEADER"),
-    Column<C, &C::ColTitle, TextCell>(u"PR_COL2_HEADER", Direction::WriteOnly),
+    PropertyColumn<C, &C::Name, TextCell>(u"ATTRINM", Direction::ReadOnly),
+    PropertyColumn<C, &C::Text, TextCell>(u"ATTRITXT"),
+    PropertyColumn<C, &C::Name, TextCell>(u"ATTRINM", Direction::WriteOnly),
+    PropertyColumn<C, &C::Position, IntegerCell>(u"POSIT"),
+    PropertyColumn<C, &C::Hidden, FlagCell>(u"HIDDEN"),
+    PropertyColumn<C, &C::Presentation, PresentationCell>(u"IOBJPRSNT"),
+    PropertyColumn<C, &C::ColFix1, FlagCell>(u"PR_COL1_FIX"),
+    PropertyColumn<C, &C::ColFix2, FlagCell>(u"PR_COL2_FIX"),
+    PropertyColumn<C, &C::ColAutoWidth, FlagCell>(u"PR_AUTO_WIDTH"),
+    PropertyColumn<C, &C::ColWidth1, IntegerCell>(u"PR_COL1_WIDTH"),
+    PropertyColumn<C, &C::ColWidth2, IntegerCell>(u"PR_COL2_WIDTH"),
+    PropertyColumn<C, &C::ColAlign1, AlignCell>(u"PR_COL1_ALIGN"),
+    PropertyColumn<C, &C::ColAlign2, AlignCell>(u"PR_COL2_ALIGN"),
+    PropertyColumn<C, &C::ColTitle, TextCell>(u"PR_COL1_HEADER"),
+    PropertyColumn<C, &C::ColTitle, TextCell>(u"PR_COL2_HEADER", Direction::WriteOnly),
 };
 
 Text OwnerOf(const Row& row) { return ToText(row.Value(kOwner)); }

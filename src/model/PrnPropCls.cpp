@@ -14,24 +14,24 @@ constexpr ColumnOf<PrnPropCls> LayoutColumn(TextView name) {
 
 using C = PrnPropCls;
 constexpr ColumnOf<C> kColumns[] = {
-    Column<C, &C::Title, TextCell>(u"TITLE"),
-    Column<C, &C::Direction, DirectionCell>(u"PRINT_DIRECTION"),
-    Column<C, &C::MaxPages, LeadingNumberCell>(u"MAX_PAGES"),
-    Column<C, &C::ShowNoZeros, FlagCell>(u"HIDE_ZERO"),
-    Column<C, &C::UseColors, FlagCell>(u"USE_COLORS"),
+    PropertyColumn<C, &C::Title, TextCell>(u"TITLE"),
+    PropertyColumn<C, &C::Direction, DirectionCell>(u"PRINT_DIRECTION"),
+    PropertyColumn<C, &C::MaxPages, LeadingNumberCell>(u"MAX_PAGES"),
+    PropertyColumn<C, &C::ShowNoZeros, FlagCell>(u"HIDE_ZERO"),
+    PropertyColumn<C, &C::UseColors, FlagCell>(u"USE_COLORS"),
     LayoutColumn<0>(u"FRONTPAGE_LAYOUT"),
     LayoutColumn<1>(u"HEADER_LAYOUT"),
     LayoutColumn<2>(u"FOOTER_LAYOUT"),
     LayoutColumn<3>(u"LASTPAGE_LAYOUT"),
-    Column<C, &C::MarginTop, IntegerCell>(u"MARGIN_TOP"),
-    Column<C, &C::MarginBottom, IntegerCell>(u"MARGIN_BOTTOM"),
-    Column<C, &C::MarginLeft, IntegerCell>(u"MARGIN_LEFT"),
-    Column<C, &C::MarginRight, IntegerCell>(u"MARGIN_RIGHT"),
-    Column<C, &C::SumPosit, SumPositCell>(u"SUMPOSIT"),
-    Column<C, &C::NoMultTxt, FlagCell>(u"NOMULTTXT"),
-    Column<C, &C::SignPrsnt, SignPrsntCell>(u"SIGNPRSNT"),
-    Column<C, &C::NoLines, FlagCell>(u"NO_LINES"),
-    Column<C, &C::CurUnitPosition, CurUnitPositionCell>(u"CURUNITPOSITION"),
+    PropertyColumn<C, &C::MarginTop, IntegerCell>(u"MARGIN_TOP"),
+    PropertyColumn<C, &C::MarginBottom, IntegerCell>(u"MARGIN_BOTTOM"),
+    PropertyColumn<C, &C::MarginLeft, IntegerCell>(u"MARGIN_LEFT"),
+    PropertyColumn<C, &C::MarginRight, IntegerCell>(u"MARGIN_RIGHT"),
+    PropertyColumn<C, &C::SumPosit, SumPositCell>(u"SUMPOSIT"),
+    PropertyColumn<C, &C::NoMultTxt, FlagCell>(u"NOMULTTXT"),
+    PropertyColumn<C, &C::SignPrsnt, SignPrsntCell>(u"SIGNPRSNT"),
+    PropertyColumn<C, &C::NoLines, FlagCell>(u"NO_LINES"),
+    PropertyColumn<C, &C::CurUnitPosition, CurUnitPositionCell>(u"CURUNITPOSITION"),
 };
 
 std::size_t LayoutSlot(std::int16_t index) {

@@ -9,24 +9,24 @@ constexpr TextView kOwner = u"IOBJNM";
 
 using E = PrnStrElemCls;
 constexpr ColumnOf<E> kElementColumns[] = {
-    Column<E, &E::Name, TextCell>(u"CHAVL"),
-    Column<E, &E::Text, TextCell>(u"CHAVLTXT"),
-    Column<E, &E::Position, IntegerCell>(u"POSIT"),
-    Column<E, &E::Hidden, FlagCell>(u"HIDDEN"),
-    Column<E, &E::ColAutoWidth, FlagCell>(u"PR_AUTO_WIDTH"),
-    Column<E, &E::ColWidth, IntegerCell>(u"PR_COL1_WIDTH"),
-    Column<E, &E::ColAlign, AlignCell>(u"PR_COL1_ALIGN"),
-    Column<E, &E::ColTitle, TextCell>(u"PR_COL1_HEADER"),
-    Column<E, &E::ColTitle, TextCell>(u"PR_COL2_HEADER", Direction::WriteOnly),
+    PropertyColumn<E, &E::Name, TextCell>(u"CHAVL"),
+    PropertyColumn<E, &E::Text, TextCell>(u"CHAVLTXT"),
+    PropertyColumn<E, &E::Position, IntegerCell>(u"POSIT"),
+    PropertyColumn<E, &E::Hidden, FlagCell>(u"HIDDEN"),
+    PropertyColumn<E, &E::ColAutoWidth, FlagCell>(u"PR_AUTO_WIDTH"),
+    PropertyColumn<E, &E::ColWidth, IntegerCell>(u"PR_COL1_WIDTH"),
+    PropertyColumn<E, &E::ColAlign, AlignCell>(u"PR_COL1_ALIGN"),
+    PropertyColumn<E, &E::ColTitle, TextCell>(u"PR_COL1_HEADER"),
+    PropertyColumn<E, &E::ColTitle, TextCell>(u"PR_COL2_HEADER", Direction::WriteOnly),
 };
 
 using S = PrnStructureCls;
 constexpr ColumnOf<S> kStructureColumns[] = {
     ConstantColumn<S, u'X'>(u"AXIS"),
     ConstantColumn<S, u'X'>(u"IS_STRUCTURE"),
-    Column<S, &S::Name, TextCell>(u"IOBJNM"),
-    Column<S, &S::Text, TextCell>(u"IOBJTXT"),
-    Column<S, &S::Position, IntegerCell>(u"POSIT"),
+    PropertyColumn<S, &S::Name, TextCell>(u"IOBJNM"),
+    PropertyColumn<S, &S::Text, TextCell>(u"IOBJTXT"),
+    PropertyColumn<S, &S::Position, IntegerCell>(u"POSIT"),
 };
 
 }  // namespace

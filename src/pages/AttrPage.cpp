@@ -30,11 +30,8 @@ void AttrPage::ResetAttrPage() {
 void AttrPage::ShowAttrPage() {
   cmbAttrChar.Clear();
   const auto& characteristics = state_.Characteristics();
-  {
-    ModPrnGen::PositionInserter inserter(cmbAttrChar, ModPrnGen::PositionsIn(characteristics));
-    for (const std::int32_t number : ModPrnGen::PrintedByPosition(characteristics)) {
-      inserter.Insert(characteristics.Item(number)->Text(), number);
-    }
+  for (const std::int32_t number : ModPrnGen::PrintedOncePerPosition(characteristics)) {
+    ModPrnGen::ComboInsertByPosition(cmbAttrChar, characteristics.Item(number)->Text(), number, nullptr);
   }
   if (cmbAttrChar.ListCount() == 0) return;
   gCurAttrChar = gCurAttr = -1;

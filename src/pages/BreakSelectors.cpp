@@ -29,11 +29,12 @@ void CutDown(ComboBox& combo) {
   }
 }
 
-/// The last print characteristic can't be selected: its entry goes, and another is selected in its place.
-void Deselect(ComboBox& combo, std::int32_t last, bool selectLast) {
-  if (SelectedItem(combo) != last) return;
+/// A selection that has become the last print characteristic goes. @return whether it has.
+bool DropLast(ComboBox& combo, const ListBox& print) {
+  const std::int16_t last = LastOf(print);
+  if (last < 0 || SelectedItem(combo) != print.ItemData(last)) return false;
   combo.RemoveItem(combo.ListIndex());
-  combo.ListIndex(selectLast ? LastOf(combo) : std::int16_t{0});
+  return true;
 }
 
 }  // namespace
@@ -48,20 +49,32 @@ BreakSelectors::BreakSelectors(PageState& state)
                  Selector{cmbCharBreakArea, &PrnCharCls::BreakArea}} {}
 
 void BreakSelectors::FillBreakCombos() {
+  for (const Selector& selector : selectors_) selector.combo.Clear();
+  for (const Selector& selector : selectors_) {
+    ModPrnGen::ComboInsertByPosition(selector.combo, ModPrnGen::LookupText(u"ID_PRN_NONE", u"<None>"), kNoBreak,
+                                     nullptr);
+  }
+
   const PrnCharCollCls& characteristics = state_.Characteristics();
-  const auto printed = ModPrnGen::PrintedByPosition(characteristics);
-  std::array<std::int32_t, 3> saved{};
-  for (std::size_t s = 0; s < selectors_.size(); ++s) {
-    ComboBox& combo = selectors_[s].combo;
-    combo.Clear();
-    ModPrnGen::ComboInsertByPosition(combo, ModPrnGen::LookupText(u"ID_PRN_NONE", u"<None>"), kNoBreak, nullptr);
-    saved[s] = kNoBreak;
-    PositionInserter inserter(combo, PositionsIn(characteristics));
-    for (const std::int32_t number : printed) {
-      const PrnCharCls& characteristic = *characteristics.Item(number);
-      inserter.Insert(characteristic.Text(), number);
-      // Of several that hold the flag the last one in item order counts.
-      if ((characteristic.*selectors_[s].flag)()) saved[s] = std::max(saved[s], number);
+  std::array<std::int32_t, 3> saved;
+  saved.fill(kNoBreak);
+  std::int32_t number = 0;
+  for (const auto& characteristic : characteristics) {
+    ++number;
+    for (std::size_t s = 0; s < selectors_.size(); ++s) {
+      if (!characteristic->Hidden() && ((*characteristic).*selectors_[s].flag)()) saved[s] = number;
+    }
+  }
+  auto offered = ModPrnGen::PrintedOncePerPosition(characteristics);
+  // The last one is offered by none. Where a flag says it, there is nothing below it either.
+  if (!offered.empty()) {
+    const auto last = std::find(saved.begin(), saved.end(), offered.back());
+    std::fill(last, saved.end(), kNoBreak);
+    offered.pop_back();
+  }
+  for (const Selector& selector : selectors_) {
+    for (const std::int32_t item : offered) {
+      ModPrnGen::ComboInsertByPosition(selector.combo, characteristics.Item(item)->Text(), item, nullptr);
     }
   }
   for (std::size_t s = 0; s < selectors_.size(); ++s) {
@@ -69,9 +82,6 @@ void BreakSelectors::FillBreakCombos() {
     for (std::int16_t i = 0; i < combo.ListCount(); ++i) {
       if (combo.ItemData(i) == saved[s]) combo.ListIndex(i);
     }
-  }
-  for (const Selector& selector : selectors_) {
-    if (selector.combo.ListCount() >= 2) selector.combo.RemoveItem(LastOf(selector.combo));
   }
   for (const Selector& selector : selectors_) {
     if (selector.combo.ListIndex() < 0) selector.combo.ListIndex(0);
@@ -118,20 +128,21 @@ void BreakSelectors::StoreCharBreaks() {
 void BreakSelectors::RebuildBreakCombos(const ListBox& print) {
   for (const Selector& selector : selectors_) CutDown(selector.combo);
 
-  const std::int16_t last = LastOf(print);
+  // What is last goes ahead of the others' coming, since no combo box has room for more than there are print
+  // characteristics.
+  if (DropLast(cmbCharQueryBreak, print)) cmbCharQueryBreak.ListIndex(0);
   {
     const std::int32_t selected = SelectedItem(cmbCharQueryBreak);
     PositionInserter inserter(cmbCharQueryBreak, PositionsIn(state_.Characteristics()));
-    for (std::int16_t i = 0; i < last; ++i) {
+    for (std::int16_t i = 0; i < LastOf(print); ++i) {
       if (print.ItemData(i) != selected) inserter.Insert(print.List(i), print.ItemData(i));
     }
   }
-  const std::int32_t lastItem = last >= 0 ? print.ItemData(last) : 0;
-  if (last >= 0) Deselect(cmbCharQueryBreak, lastItem, false);
+  if (DropLast(cmbCharPageBreak, print)) cmbCharPageBreak.ListIndex(0);
   OfferBelow(cmbCharQueryBreak, cmbCharPageBreak);
-  if (last >= 0) Deselect(cmbCharPageBreak, lastItem, false);
+  const bool dropped = DropLast(cmbCharBreakArea, print);
   OfferBelow(cmbCharPageBreak, cmbCharBreakArea);
-  if (last >= 0) Deselect(cmbCharBreakArea, lastItem, true);
+  if (dropped) cmbCharBreakArea.ListIndex(LastOf(cmbCharBreakArea));
 }
 
 void BreakSelectors::ResetCharBreaks() {

@@ -63,12 +63,13 @@ void CharPage::OnHierDisplay() {
   const auto characteristic = Shown();
   if (!characteristic) return;
   const bool display = ModPrnGen::CheckToBool(chkCharHierDisplay.Value());
+  const bool hasHierarchy = !characteristic->HieNm().empty();
   if (display) {
     Show(txtCharHierLevel, characteristic->HryLevel());
   } else {
     txtCharHierLevel.SetText({});
   }
-  txtCharHierLevel.Enabled(display && !state_.mReadOnly);
+  txtCharHierLevel.Enabled(display && hasHierarchy && !state_.mReadOnly);
 }
 
 void CharPage::StoreProps() {

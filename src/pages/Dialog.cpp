@@ -104,6 +104,11 @@ void Dialog::ApplyDialogFont(RBDoubleByteCS::FontPlatform& platform) {
   }
 }
 
-void Dialog::SetView(View* view) { view_ = view ? view : &noView_; }
+void Dialog::SetView(View* view) {
+  view_ = view ? view : &noView_;
+  for (const auto& widget : controls_) {
+    if (auto* const entries = dynamic_cast<EntryWidget*>(widget.get())) entries->ForgetOrder();
+  }
+}
 
 }  // namespace ORXKMPrintProp

@@ -42,6 +42,10 @@ class GapVector {
   std::size_t SlotOf(std::size_t place) const { return place < gapBegin_ ? place : place + (gapEnd_ - gapBegin_); }
 
   void MoveGap(std::size_t place) {
+    if (gapBegin_ == gapEnd_) {
+      gapBegin_ = gapEnd_ = place;
+      return;
+    }
     const auto slot = [this](std::size_t i) { return slots_.begin() + static_cast<std::ptrdiff_t>(i); };
     if (place < gapBegin_) {
       std::move_backward(slot(place), slot(gapBegin_), slot(gapEnd_));

@@ -17,8 +17,7 @@ ListPage::ListPage(PageState& state, std::int16_t tab, std::int16_t& current)
 void ListPage::SelectionChanged() {
   if (lstPrint.SelCount() != 1) {
     StoreProps();
-    current_ = -1;
-    ShowProps();
+    ShowItem(-1);
     return;
   }
   std::int16_t selected = 0;
@@ -26,8 +25,18 @@ void ListPage::SelectionChanged() {
   const auto item = static_cast<std::int16_t>(lstPrint.ItemData(selected));
   if (item == current_) return;
   StoreProps();
+  ShowItem(item);
+}
+
+void ListPage::ShowItem(std::int16_t item) {
   current_ = item;
-  ShowProps();
+  try {
+    ShowProps();
+  } catch (...) {
+    // The settings of one item are never stored into another.
+    current_ = -1;
+    throw;
+  }
 }
 
 void ListPage::ClearLists() {
@@ -44,9 +53,8 @@ void ListPage::FillLists() {
     ++number;
     if (item->Hidden()) ModPrnGen::ListInsertByPosition(lstAvail, item->Text(), number, nullptr);
   }
-  ModPrnGen::PositionInserter print(lstPrint, ModPrnGen::PositionsIn(items));
   for (const std::int32_t printed : ModPrnGen::PrintedByPosition(items)) {
-    print.Insert(items.Item(printed)->Text(), printed);
+    ModPrnGen::ListInsertByPosition(lstPrint, items.Item(printed)->Text(), printed, nullptr);
   }
 }
 
@@ -66,13 +74,13 @@ void ListPage::StoreItemOrder() {
 
 void ListPage::SelectFirst(bool moveCaret) {
   if (lstPrint.ListCount() == 0) {
-    current_ = -1;
-  } else {
-    current_ = static_cast<std::int16_t>(lstPrint.ItemData(0));
-    lstPrint.Selected(0, true);
-    if (moveCaret) lstPrint.ListIndex(0);
+    ShowItem(-1);
+    return;
   }
-  ShowProps();
+  current_ = static_cast<std::int16_t>(lstPrint.ItemData(0));
+  lstPrint.Selected(0, true);
+  if (moveCaret) lstPrint.ListIndex(0);
+  ShowItem(current_);
 }
 
 void ListPage::OwnerChanged(std::int16_t owner, std::int16_t& current) {

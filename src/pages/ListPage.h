@@ -53,6 +53,8 @@ class ListPage {
   virtual void StoreProps() = 0;
   virtual void ShowProps() = 0;
 
+  /// Makes the item the current one and shows its settings, or none for -1.
+  void ShowItem(std::int16_t item);
   void ClearLists();
   /// Hidden items go to the one list in item order, the others to the print list in the order of their position.
   void FillLists();

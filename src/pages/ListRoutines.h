@@ -69,6 +69,17 @@ std::vector<std::int32_t> PrintedByPosition(const Items& items) {
   return numbers;
 }
 
+/// The same with each position once, as combo boxes take them.
+template <class Items>
+std::vector<std::int32_t> PrintedOncePerPosition(const Items& items) {
+  auto numbers = PrintedByPosition(items);
+  const auto isSame = [&](std::int32_t a, std::int32_t b) {
+    return items.Item(a)->Position() == items.Item(b)->Position();
+  };
+  numbers.erase(std::unique(numbers.begin(), numbers.end(), isSame), numbers.end());
+  return numbers;
+}
+
 /// One entry by its position; see `PositionInserter` for many.
 std::int16_t ListInsertByPosition(ListBox& List, const Text& ItemText, std::int32_t ItemNumber,
                                   const PositionOf& Items);

@@ -24,9 +24,11 @@ Pages::Pages(Dialog& dialog, PageEvents events)
       printLists_(
           state_, char_, [this](std::int16_t tab) { return ListPageOf(tab); },
           [this] {
-            const unsigned fills = fills_;
+            const std::weak_ptr<PrnPropCls> root = gPrnProp;
             events_.OrderChanged();
-            return fills == fills_;
+            if (root.lock() != gPrnProp) return false;
+            Activate();
+            return true;
           }) {
   Subscribe();
 }
@@ -76,11 +78,23 @@ bool Pages::IsReady() {
 void Pages::FillAllPages() {
   Activate();
   filledFrom_ = gPrnProp;
-  ++fills_;
   printLists_.EndDrag();
-  attr_.ResetAttrPage();
-  str_.ResetStrPage();
-  ShowAllPages();
+  Fill([this] {
+    attr_.ResetAttrPage();
+    str_.ResetStrPage();
+    ShowAllPages();
+  });
+}
+
+template <class Routine>
+void Pages::Fill(Routine routine) {
+  try {
+    routine();
+  } catch (...) {
+    // Half of a page is never committed.
+    filledFrom_.reset();
+    throw;
+  }
 }
 
 void Pages::ShowAllPages() {
@@ -100,13 +114,16 @@ void Pages::ChangeTab(std::int16_t PreviousTab) {
     if (const Routines* const page = RoutinesOf(PreviousTab)) page->store(*this);
   }
   if (!state_.loaded) return;
-  if (const Routines* const page = RoutinesOf(state_.dialog.TabStrip().Tab())) page->show(*this);
+  if (const Routines* const page = RoutinesOf(state_.dialog.TabStrip().Tab())) {
+    Fill([&] { page->show(*this); });
+  }
 }
 
 void Pages::SetReadOnly(bool readOnly) {
   if (readOnly == state_.mReadOnly) return;
-  state_.mReadOnly = readOnly;
   IsReady();
+  state_.mReadOnly = readOnly;
+  printLists_.EndDrag();
   for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) RoutinesOf(tab)->enable(*this);
 }
 

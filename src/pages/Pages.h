@@ -55,6 +55,9 @@ class Pages {
 
   static const Routines* RoutinesOf(std::int16_t tab);
   void ShowAllPages();
+  /// Runs what fills pages. When it fails, they count as pages of a model that is gone.
+  template <class Routine>
+  void Fill(Routine routine);
   void Subscribe();
   void PressLayout(std::int16_t ButtonID);
   /// Whether the pages can act: there is a model, and they show it. Fills them if they show another.
@@ -74,7 +77,6 @@ class Pages {
   PrintLists printLists_;
   Selections selections_;
   std::weak_ptr<PrnPropCls> filledFrom_;
-  unsigned fills_ = 0;  ///< how often the pages have been filled from a model
 };
 
 }  // namespace ORXKMPrintProp

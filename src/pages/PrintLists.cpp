@@ -51,8 +51,7 @@ void PrintLists::MouseDown(std::int16_t Index, std::int16_t Button) {
 void PrintLists::MouseMove(std::int16_t Index, std::int16_t Button) {
   if (state_.mReadOnly || Button != ListBox::kLeftButton || mDragIndex == -1) return;
   state_.dialog.MousePointer(kDragPointer);
-  ListPage& page = *pageOf_(Index);
-  ListBox& list = page.lstPrint;
+  ListBox& list = pageOf_(Index)->lstPrint;
   const std::int16_t New = list.ListIndex();
   if (New == mDragIndex) return;
   const Text text = list.List(mDragIndex);
@@ -60,11 +59,10 @@ void PrintLists::MouseMove(std::int16_t Index, std::int16_t Button) {
   list.RemoveItem(mDragIndex);
   list.AddItem(text, New);
   list.ItemData(New, item);
-  page.NoteDrag();
-  list.Selected(New, true);
-  list.Selected(mDragIndex, false);
-  mDragIndex = New;
+  const std::int16_t former = std::exchange(mDragIndex, New);
   if (Index == kCharTab) mDragMoved = true;
+  list.Selected(New, true);
+  list.Selected(former, false);
 }
 
 void PrintLists::MouseUp(std::int16_t Index, std::int16_t Button) {
@@ -72,6 +70,7 @@ void PrintLists::MouseUp(std::int16_t Index, std::int16_t Button) {
   state_.dialog.MousePointer(kDefaultPointer);
   const bool isElsewhere = mDragIndex != mDragStart;
   const bool raise = Index == kCharTab && mDragMoved && isElsewhere;
+  if (isElsewhere) pageOf_(Index)->NoteDrag();
   // Settled ahead of the event, whose handler may fail.
   mDragIndex = -1;
   if (raise) mDragMoved = false;

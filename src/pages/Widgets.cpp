@@ -147,6 +147,8 @@ void EntryWidget::ListIndex(std::int16_t index) {
   Raise(Click);
 }
 
+void EntryWidget::ForgetOrder() { ranked_ = 0; }
+
 EntryWidget::Entry& EntryWidget::At(std::int16_t index) const {
   if (!Has(index)) ThrowIndex(Row().name, index);
   return *entries_[static_cast<std::size_t>(index)];
@@ -200,10 +202,10 @@ std::int16_t ListBox::ListIndex() const {
 
 Refusal ListBox::UserMouseDown(std::int16_t entry, std::int16_t button) {
   if (const Refusal refusal = RefusesEntry(entry); refusal != Refusal::None) return refusal;
-  held_ = button == kLeftButton;
+  if (button == kLeftButton) held_ = true;
   Place(entry);
   Raise(MouseDown, button);
-  if (button == kLeftButton && Has(entry)) Selected(entry, !IsMulti() || !Selected(entry));
+  if (button == kLeftButton && held_ && Has(entry)) Selected(entry, !IsMulti() || !Selected(entry));
   return Refusal::None;
 }
 
@@ -225,10 +227,10 @@ void ListBox::UserMouseUp(std::int16_t button) {
 
 Refusal ListBox::UserMoveCaret(std::int16_t entry) {
   if (const Refusal refusal = RefusesEntry(entry); refusal != Refusal::None) return refusal;
-  if (IsMulti()) {
+  if (IsMulti() || Selected(entry)) {
     Place(entry);
   } else {
-    ListIndex(entry);
+    Selected(entry, true);
   }
   return Refusal::None;
 }
@@ -245,6 +247,7 @@ Refusal ListBox::UserDragStep(std::int16_t direction) {
   const auto neighbour = static_cast<std::int16_t>(entry + direction);
   if (const Refusal refusal = RefusesEntry(entry); refusal != Refusal::None) return refusal;
   if (!Has(neighbour)) return Refusal::NoSuchEntry;
+  if (!MouseMove) return Refusal::None;
   held_ = true;
   try {
     Raise(MouseDown, kLeftButton);

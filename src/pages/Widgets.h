@@ -171,6 +171,9 @@ class EntryWidget : public Widget {
   virtual std::int16_t ListIndex() const { return listIndex_; }
   void ListIndex(std::int16_t index);
 
+  /// The view's text order is another one now.
+  void ForgetOrder();
+
  protected:
   struct Entry;
 
@@ -233,7 +236,8 @@ class ListBox : public EntryWidget {
   Refusal UserMoveCaret(std::int16_t entry);
   /// By keyboard: toggles the entry at the caret of a list with multiple selection.
   Refusal UserToggle();
-  /// By keyboard: what a drag of the entry at the caret to its neighbour does. Selects nothing by itself.
+  /// By keyboard: what a drag of the entry at the caret to its neighbour does, without the click that begins it. In a
+  /// list that can't be reordered nothing happens.
   /// @param direction -1 up, 1 down
   Refusal UserDragStep(std::int16_t direction);
 
@@ -241,7 +245,10 @@ class ListBox : public EntryWidget {
   bool IndexFollowsEntry() const override { return !held_; }
   void OnListIndex(std::int16_t index) override;
   void OnRemove(const Entry& entry) override;
-  void OnClear() override { selCount_ = 0; }
+  void OnClear() override {
+    selCount_ = 0;
+    held_ = false;  // what was under the pointer is gone
+  }
 
  private:
   bool IsMulti() const { return Row().multiSelect; }

@@ -25,7 +25,7 @@ struct HeadNumber {
 };
 
 /// How many digits a number that no double can hold has ahead of its point; what tells too large from too small.
-long Magnitude(const char* first, const char* last) {
+std::int64_t Magnitude(const char* first, const char* last) {
   const char* const exponent = std::find_if(first, last, [](char c) { return c == 'e' || c == 'E'; });
   const char* const point = std::find(first, exponent, '.');
   const char* const leading = std::find_if(first, exponent, [](char c) { return c >= '1' && c <= '9'; });
@@ -37,7 +37,7 @@ long Magnitude(const char* first, const char* last) {
       shift = *digits == '-' ? std::numeric_limits<std::int32_t>::min() : std::numeric_limits<std::int32_t>::max();
     }
   }
-  return static_cast<long>(point - leading) + shift;
+  return std::int64_t{point - leading} + shift;
 }
 
 HeadNumber ReadHead(const std::string& text) {
@@ -89,14 +89,6 @@ std::int16_t Rounded(double number) {
   throw RunTimeError(ErrorKind::Overflow, u"The number " + ToText(Variant(number)) + u" does not fit into 16 bits.");
 }
 
-std::optional<double> WholeNumber(TextView text) {
-  const auto first = std::min(text.find_first_not_of(u' '), text.size());
-  const TextView trimmed = text.substr(first, text.find_last_not_of(u' ') + 1 - first);
-  const HeadNumber head = ReadHead(ToAscii(trimmed));
-  if (head.length == 0 || head.length != trimmed.size()) return {};
-  return head.value;
-}
-
 double LeadingValue(TextView text) {
   std::string head;
   for (const char16_t c : text) {
@@ -122,7 +114,6 @@ Text ToText(std::int32_t number) {
 }
 
 Text ToText(Variant&& value) {
-  if (Text* const text = std::get_if<Text>(&value)) return std::move(*text);
   return std::visit(Overloaded{
                         [](std::monostate) { return Text(); },
                         [](bool flag) { return Text(flag ? u"True" : u"False"); },
@@ -148,7 +139,7 @@ std::int16_t ToInteger(const Variant& value) {
           [](std::int32_t number) { return ToInteger16(number); },
           [](double number) { return Rounded(number); },
           [](const Text& text) {
-            if (const auto number = WholeNumber(text)) return Rounded(*number);
+            if (const auto number = TryNumber(text)) return Rounded(*number);
             throw RunTimeError(ErrorKind::Type, u"The text \"" + text + u"\" is no number.");
           },
           [](const ObjectRef&) -> std::int16_t { throw RunTimeError(ErrorKind::Type, u"An object is no number."); },
@@ -158,8 +149,16 @@ std::int16_t ToInteger(const Variant& value) {
 
 std::int16_t LeadingNumber(TextView text) { return Rounded(LeadingValue(text)); }
 
+std::optional<double> TryNumber(TextView text) {
+  const auto first = std::min(text.find_first_not_of(u' '), text.size());
+  const TextView trimmed = text.substr(first, text.find_last_not_of(u' ') + 1 - first);
+  const HeadNumber head = ReadHead(ToAscii(trimmed));
+  if (head.length == 0 || head.length != trimmed.size()) return {};
+  return head.value;
+}
+
 std::optional<std::int16_t> TryInteger(TextView text) {
-  const auto number = WholeNumber(text);
+  const auto number = TryNumber(text);
   return number ? TryRounded(*number) : std::nullopt;
 }
 

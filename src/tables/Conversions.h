@@ -30,6 +30,9 @@ std::int16_t LeadingNumber(TextView text);
 std::optional<std::int16_t> TryInteger(TextView text);
 std::optional<std::int16_t> TryLeadingNumber(TextView text);
 
+/// The number that the whole text is by the rules of `ToInteger`, of any size and unrounded.
+std::optional<double> TryNumber(TextView text);
+
 /// The number as a row number, item number or list index. @throws RunTimeError (Overflow)
 std::int16_t ToInteger16(std::int32_t number);
 

@@ -177,11 +177,11 @@ RowRef MemoryTable::Item(const Text& key) {
 std::unique_ptr<RowEnumerator> MemoryTable::Enumerate() { return std::make_unique<Enumerator>(shared_from_this()); }
 
 void MemoryTable::KeyColumn(const Variant& index) {
-  const std::int32_t column = ToInteger(index);
-  if (column < 1 || column > static_cast<std::int32_t>(ColumnNames().size())) {
-    throw RunTimeError(ErrorKind::Table, u"The table has no column number " + ToText(column) + u".");
+  const std::int32_t* const column = std::get_if<std::int32_t>(&index);
+  if (!column || *column < 1 || *column > static_cast<std::int32_t>(ColumnNames().size())) {
+    throw RunTimeError(ErrorKind::Table, u"That is no index of a column of the table.");
   }
-  keyColumn_ = column;
+  keyColumn_ = *column;
 }
 
 }  // namespace ORXKMPrintProp

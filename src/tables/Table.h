@@ -41,6 +41,7 @@ class RowList {
   virtual void RemoveAll() = 0;
   /// The row whose key column holds the key. An unknown key gives none or an error, as the table likes.
   virtual RowRef Item(const Text& key) = 0;
+  /// The enumerator may outlive the list.
   virtual std::unique_ptr<RowEnumerator> Enumerate() = 0;
 };
 using RowListRef = std::shared_ptr<RowList>;
