@@ -20,6 +20,7 @@ install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ORXKMPrintPropConfig.cmake
               ${CMAKE_CURRENT_BINARY_DIR}/ORXKMPrintPropConfigVersion.cmake DESTINATION ${package_cmake})
 
 # The prefix is told from where the file lies, so that an installed tree can be moved.
-file(RELATIVE_PATH pc_to_prefix ${CMAKE_INSTALL_PREFIX}/${package_pkgconfig} ${CMAKE_INSTALL_PREFIX})
+cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${package_pkgconfig}
+           OUTPUT_VARIABLE pc_to_prefix)
 configure_file(${PROJECT_SOURCE_DIR}/cmake/orxkmprintprop.pc.in orxkmprintprop.pc @ONLY)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/orxkmprintprop.pc DESTINATION ${package_pkgconfig})

@@ -74,8 +74,6 @@ const std::vector<TableRules>& Rules() {
 
 Text TextOf(const Row& row, TextView column) { return ToText(row.Value(column)); }
 
-bool IsStructure(const Row& dimensionRow) { return TextOf(dimensionRow, u"IS_STRUCTURE") == u"X"; }
-
 /// A copy of the four tables, in which with `tagged` the carried text of every row is its number.
 SettingsDocument Copy(const SettingsDocument& document, bool tagged) {
   SettingsDocument copy;
@@ -111,14 +109,7 @@ std::optional<double> NumberOf(const Variant& cell) {
   if (const auto* const number = std::get_if<double>(&cell)) return *number;
   const Text* const text = std::get_if<Text>(&cell);
   if (!text) return {};
-  std::string digits = ToUtf8(*text);
-  digits.erase(0, digits.find_first_not_of(' '));
-  digits.erase(digits.find_last_not_of(' ') + 1);
-  if (digits.starts_with('+') && !digits.starts_with("+-")) digits.erase(0, 1);
-  double value = 0;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  if (error != std::errc() || end != digits.data() + digits.size()) return {};
-  return value;
+  return TryNumber(*text);
 }
 
 bool IsSame(const Variant& from, const Variant& to) {

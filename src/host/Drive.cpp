@@ -4,6 +4,7 @@
 #include <charconv>
 #include <functional>
 #include <iterator>
+#include <limits>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <ostream>
@@ -17,6 +18,7 @@
 #include "host/ExitStatus.h"
 #include "host/Files.h"
 #include "host/SettingsDocument.h"
+#include "host/Terminal.h"
 #include "host/Utf8.h"
 #include "host/WidgetState.h"
 #include "tables/RunTimeError.h"
@@ -57,8 +59,11 @@ std::optional<std::int64_t> WholeNumber(const Argument& argument) {
   std::int64_t number = 0;
   const char* const last = argument.text.data() + argument.text.size();
   const auto result = std::from_chars(argument.text.data(), last, number);
-  if (argument.quoted || result.ec != std::errc() || result.ptr != last) return {};
-  return number;
+  if (argument.quoted || result.ec == std::errc::invalid_argument || result.ptr != last) return {};
+  if (result.ec == std::errc()) return number;
+  // Too large or too small for whatever it counts.
+  return argument.text.front() == '-' ? std::numeric_limits<std::int64_t>::min()
+                                      : std::numeric_limits<std::int64_t>::max();
 }
 
 /// The keys that an argument names; without quotes too, \b is Backspace.
@@ -335,7 +340,8 @@ int Drive(const DriveOptions& options, std::ostream& out, std::ostream& err) {
     if (line.empty() || line.front() == '#') continue;
     auto step = driver.Compile(line);
     if (!step) {
-      err << "prnprop: " << InputName(options.script) << ": line " << number << " is not understood: " << line << "\n";
+      err << "prnprop: " << InputName(options.script) << ": line " << number << " is not understood: " << OneLine(line)
+          << "\n";
       return kUsage;
     }
     steps.push_back(std::move(*step));

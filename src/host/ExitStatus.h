@@ -2,7 +2,7 @@
 
 namespace ORXKMPrintProp::host {
 
-/// What the program ends with; where several apply, the greatest.
+/// What the program ends with. Of several documents that are checked, the greatest counts.
 enum ExitStatus : int {
   kSuccess = 0,
   kLoss = 1,     ///< a document loses something in a load, or does not load

@@ -265,6 +265,9 @@ class Builder final : public nlohmann::json_sax<Json> {
 std::vector<Text> StructureFirst(const std::vector<Text>& columns) {
   std::vector<Text> ordered;
   AddColumns(ordered, PrnStructureCls::Columns());
+  // A document may name the column of structures in a table that has no others of theirs.
+  std::erase_if(ordered,
+                [&](const Text& column) { return std::find(columns.begin(), columns.end(), column) == columns.end(); });
   for (const Text& column : columns) AddColumn(ordered, column);
   return ordered;
 }
@@ -323,7 +326,7 @@ Json RowsToJson(MemoryTable& table) {
   Json rows = Json::array();
   for (const RowRef& row : AllRows(table)) {
     Json cells = Json::object();
-    const bool isStructure = hasStructures && ToText(row->Value(kIsStructure)) == u"X";
+    const bool isStructure = hasStructures && IsStructure(*row);
     for (const Column& column : isStructure ? structureColumns : columns) {
       if (Json cell = CellToJson(row->Value(column.name)); !cell.is_null()) cells[column.key] = std::move(cell);
     }
@@ -334,7 +337,7 @@ Json RowsToJson(MemoryTable& table) {
 
 Json CellToJson(const Variant& cell) {
   return std::visit(
-      [&](const auto& value) -> Json {
+      [](const auto& value) -> Json {
         using Value = std::decay_t<decltype(value)>;
         if constexpr (std::is_same_v<Value, std::monostate>) {
           return nullptr;
@@ -348,6 +351,8 @@ Json CellToJson(const Variant& cell) {
 }
 
 std::string ToLine(const Json& json) { return json.dump(-1, ' ', false, Json::error_handler_t::replace); }
+
+bool IsStructure(const Row& dimensionRow) { return ToText(dimensionRow.Value(kIsStructure)) == u"X"; }
 
 std::vector<RowRef> AllRows(MemoryTable& table) {
   std::vector<RowRef> rows;

@@ -58,6 +58,9 @@ nlohmann::ordered_json CellToJson(const Variant& cell);
 /// On one line. What is no UTF-8 in it, as a file's name may be, is replaced by U+FFFD.
 std::string ToLine(const nlohmann::ordered_json& json);
 
+/// Whether a row of the dimension table is that of a structure.
+bool IsStructure(const Row& dimensionRow);
+
 /// The rows of the table, in order. They keep their cells when the table is emptied.
 std::vector<RowRef> AllRows(MemoryTable& table);
 

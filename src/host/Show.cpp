@@ -160,7 +160,6 @@ class Grid {
 
 using Rows = std::vector<RowRef>;
 
-bool IsStructure(const Row& row) { return Cell(row, u"IS_STRUCTURE") == u"X"; }
 bool IsPrinted(const Row& characteristic) { return AxisFromCell(ToText(characteristic.Value(u"AXIS"))); }
 
 void SortByPosition(Rows& rows) {
