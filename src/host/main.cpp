@@ -16,6 +16,9 @@
 #include "host/Load.h"
 #include "host/Readback.h"
 #include "host/Show.h"
+#include "host/window/Edit.h"
+#include "host/window/EditedSettings.h"
+#include "host/window/Shot.h"
 
 namespace {
 
@@ -28,7 +31,7 @@ bool WantsColor() {
 
 int Run(int argc, char** argv) {
   CLI::App app(
-      "Looks at the batch-print settings of a query without a window. FILE is a settings document, - is\n"
+      "Looks at the batch-print settings of a query, and edits them. FILE is a settings document, - is\n"
       "standard input.",
       "prnprop");
   app.set_version_flag("--version", "prnprop " PRNPROP_VERSION);
@@ -69,6 +72,38 @@ int Run(int argc, char** argv) {
   drive->add_flag("--read-only", driveOptions.readOnly, "The dialog takes no change");
   drive->add_option("SCRIPT", driveOptions.script, "Actions, a line each, instead of standard input");
   drive->callback([&] { status = Drive(driveOptions, std::cout, std::cerr); });
+
+  EditOptions editOptions;
+  CLI::App* const edit = app.add_subcommand("edit", "Opens the dialog in a window");
+  edit->add_option("FILE", editOptions.file, "Settings document")->required();
+  edit->add_option("--texts", editOptions.texts, "Document whose text table is used")->type_name("TEXTS");
+  edit->add_flag("--read-only", editOptions.readOnly, "The dialog takes no change");
+  edit->add_option("-o,--output", editOptions.out, "File to save to, instead of FILE")->type_name("OUT");
+  edit->callback([&] {
+    if (editOptions.out.value_or(editOptions.file) == kStandardStream) {
+      throw CLI::ValidationError("-o OUT is needed, with the name of a file to save to");
+    }
+    status = Edit(editOptions, std::cerr);
+  });
+
+  ShotOptions shotOptions;
+  std::string size = "1";
+  CLI::App* const shot = app.add_subcommand("shot", "Draws a page of the dialog, also without a display");
+  shot->add_option("FILE", shotOptions.file, "Settings document")->required();
+  shot->add_option("--page", shotOptions.page, "0 General, 1 Characteristics, 2 Attributes, 3 Structures")
+      ->required()
+      ->check(CLI::Range(0, 3));
+  shot->add_option("--texts", shotOptions.texts, "Document whose text table is used")->type_name("TEXTS");
+  shot->add_flag("--read-only", shotOptions.readOnly, "The dialog takes no change");
+  shot->add_flag("--window", shotOptions.window, "The whole window of edit, not the dialog alone");
+  shot->add_option("--size", size, "A factor such as 2, or WIDTHxHEIGHT in pixels")->type_name("SIZE");
+  shot->add_option("-o,--output", shotOptions.out, "PNG file to write or replace")->required()->type_name("OUT");
+  shot->callback([&] {
+    const auto parsed = ParsePictureSize(size);
+    if (!parsed) throw CLI::ValidationError("--size: " + size + " is neither a factor up to 16 nor WIDTHxHEIGHT");
+    shotOptions.size = *parsed;
+    Shot(shotOptions, std::cout);
+  });
 
   try {
     app.parse(argc, argv);

@@ -1,0 +1,89 @@
+#include "host/window/EditedSettings.h"
+
+#include <utility>
+
+#include "control/SharedValues.h"
+#include "host/Changes.h"
+#include "host/Files.h"
+#include "host/Load.h"
+#include "host/Terminal.h"
+#include "host/Utf8.h"
+#include "tables/RunTimeError.h"
+
+namespace ORXKMPrintProp::host {
+namespace {
+
+[[noreturn]] void Fail(const SettingsDocument& document, TextView words) {
+  throw LoadError(OneLine(document.file + ": the load fails: " + ToUtf8(words)));
+}
+
+}  // namespace
+
+EditedSettings::EditedSettings(SettingsDocument document, const EditOptions& options, const MemoryTableRef& texts,
+                               RBDoubleByteCS::FontPlatform& platform)
+    : document_(std::move(document)),
+      target_(options.out.value_or(options.file)),
+      targetIsBehind_(options.out && *options.out != options.file),
+      file_(SnapshotOf(document_)),
+      control_(platform),
+      layouts_(LayoutsIn(file_)) {
+  // By way of controls of its own, which the program's one model must not come from afterwards.
+  FindLosses();
+  try {
+    if (texts) control_.ORXControlTexts(texts);
+    Load();
+    HandBack(layouts_, control_);
+    control_.ORXSetReadOnly(options.readOnly);
+    Read();
+  } catch (const RunTimeError& error) {
+    Fail(document_, error.Message());
+  }
+  saved_ = now_;
+  isChanged_ = false;
+}
+
+void EditedSettings::Load() {
+  if (!control_.ORXSetPrnTables(document_.general, document_.dimension, document_.member, document_.attribute)) {
+    Fail(document_, gErrorText);
+  }
+}
+
+void EditedSettings::FindLosses() {
+  for (const TableChanges& table : ChangesOf(document_)) {
+    for (const Change& change : table.changes) {
+      if (!change.loss || IsHandedBack(file_, table, change)) continue;
+      std::string line = std::string(table.table) + ", row " + std::to_string(change.row);
+      if (!change.column.empty()) line += ", column " + ToUtf8(change.column);
+      const bool isSecond = change.kind == ChangeKind::LayoutEmptied;
+      line += ": " + (isSecond ? "only the first characteristic of a name keeps its layout" : change.reason);
+      losses_.push_back(OneLine(line));
+    }
+  }
+}
+
+void EditedSettings::Read() {
+  // Any of the four reads rewrites all tables.
+  control_.ORXGenPropTable();
+  now_ = SnapshotOf(document_);
+  isChanged_ = !IsSame(now_, saved_);
+}
+
+void EditedSettings::Save() {
+  Read();
+  ReplaceFile(target_, ToJson(document_));
+  file_ = saved_ = now_;
+  isChanged_ = targetIsBehind_ = false;
+  losses_.clear();
+}
+
+Text EditedSettings::LayoutOf(const LayoutKey& key) const {
+  const auto known = layouts_.find(key);
+  return known == layouts_.end() ? Text() : known->second;
+}
+
+void EditedSettings::SetLayout(const LayoutKey& key, const Text& layout) {
+  control_.ORXSetPrintLayout(layout, key.buttonId, key.characteristic);
+  layouts_[key] = layout;
+}
+
+}  // namespace ORXKMPrintProp::host

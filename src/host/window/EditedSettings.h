@@ -1,0 +1,73 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "control/ORXQueryPrnProp.h"
+#include "host/SettingsDocument.h"
+#include "host/window/Layouts.h"
+#include "host/window/Snapshot.h"
+
+namespace ORXKMPrintProp::host {
+
+struct EditOptions {
+  std::string file = {};
+  std::optional<std::string> texts = {};  ///< a document whose text table is used in the place of the file's
+  std::optional<std::string> out = {};    ///< where to save, instead of the file itself
+  bool readOnly = false;
+};
+
+/// A document in a control, without the window: the load, the layouts that the control does not keep, what has
+/// changed, and the save.
+class EditedSettings {
+ public:
+  /// Loads the document and hands its layouts back.
+  /// @throws LoadError
+  EditedSettings(SettingsDocument document, const EditOptions& options, const MemoryTableRef& texts,
+                 RBDoubleByteCS::FontPlatform& platform);
+
+  ORXQueryPrnProp& Control() { return control_; }
+  const std::string& Source() const { return document_.file; }
+  const std::string& Target() const { return target_; }
+  bool IsReadOnly() const { return control_.IsReadOnly(); }
+
+  /// One line for each row or cell of the file that a save does not bring back.
+  const std::vector<std::string>& Losses() const { return losses_; }
+
+  /// What the file said when it was loaded, or was given by the last save.
+  const Snapshot& File() const { return file_; }
+  /// What the control has read back last.
+  const Snapshot& Now() const { return now_; }
+
+  /// Reads the tables, which commits the page on top. @throws RunTimeError
+  void Read();
+  /// Whether the last read gave something else than the first one after the load, or than the last save.
+  bool IsChanged() const { return isChanged_; }
+  /// Whether a save would write something that the target does not hold yet.
+  bool IsToBeSaved() const { return isChanged_ || targetIsBehind_; }
+
+  /// Reads the tables and replaces the target. @throws RunTimeError, DocumentError; the target is untouched then.
+  void Save();
+
+  /// The layout that the host knows, empty when there is none.
+  Text LayoutOf(const LayoutKey& key) const;
+  void SetLayout(const LayoutKey& key, const Text& layout);
+
+ private:
+  void Load();
+  void FindLosses();
+
+  SettingsDocument document_;
+  std::string target_;
+  bool targetIsBehind_;
+  Snapshot file_;
+  ORXQueryPrnProp control_;
+  Layouts layouts_;
+  std::vector<std::string> losses_;
+  Snapshot saved_;  ///< what was read when nothing had changed
+  Snapshot now_;
+  bool isChanged_ = false;
+};
+
+}  // namespace ORXKMPrintProp::host

@@ -1,0 +1,126 @@
+#include "host/window/MeaningPanel.h"
+
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <QTableView>
+#include <QVBoxLayout>
+#include <utility>
+
+#include "host/window/ComparedModel.h"
+#include "host/window/PageSketchView.h"
+
+namespace ORXKMPrintProp::host {
+namespace {
+
+struct TableTab {
+  const char* caption;
+  std::vector<Text> keyColumns;
+};
+
+/// In the order of a snapshot's tables, by the names that they have in a document.
+const std::vector<TableTab>& TableTabs() {
+  static const std::vector<TableTab> tabs{{"general", {}},
+                                          {"dimension", {u"IS_STRUCTURE", u"IOBJNM"}},
+                                          {"member", {u"IOBJNM", u"CHAVL"}},
+                                          {"attribute", {u"IOBJNM", u"ATTRINM"}}};
+  return tabs;
+}
+
+QTableView* MakeTable(ComparedModel* model, QWidget* parent) {
+  auto* const view = new QTableView(parent);
+  view->setModel(model);
+  view->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  view->setTabKeyNavigation(false);
+  view->setAlternatingRowColors(true);
+  view->setWordWrap(false);
+  constexpr int kMeasuredRows = 50;
+  view->horizontalHeader()->setResizeContentsPrecision(kMeasuredRows);
+  view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() + 6);
+  return view;
+}
+
+}  // namespace
+
+MeaningPanel::MeaningPanel(std::function<void()> refresh, QWidget* parent)
+    : QWidget(parent), state_(new QLabel(this)), tabs_(new QTabWidget(this)), sketch_(new PageSketchView) {
+  auto* const button = new QPushButton(QStringLiteral("&Refresh"), this);
+  button->setObjectName(QStringLiteral("refresh"));
+  button->setToolTip(QStringLiteral("Reads the settings back"));
+  connect(button, &QPushButton::clicked, this, std::move(refresh));
+  state_->setObjectName(QStringLiteral("state"));
+  state_->setWordWrap(true);
+
+  auto* const scroll = new QScrollArea;
+  scroll->setWidget(sketch_);
+  scroll->setAlignment(Qt::AlignCenter);
+  tabs_->addTab(scroll, QStringLiteral("Page"));
+  for (const TableTab& table : TableTabs()) {
+    models_.push_back(new ComparedModel(this));
+    QTableView* const view = MakeTable(models_.back(), this);
+    view->setAccessibleName(QLatin1String(table.caption));
+    tabs_->addTab(view, QLatin1String(table.caption));
+  }
+  isFilled_.assign(models_.size() + 1, true);
+  connect(tabs_, &QTabWidget::currentChanged, this, [this] { FillFront(); });
+
+  auto* const top = new QHBoxLayout;
+  top->addWidget(state_, 1);
+  top->addWidget(button);
+  auto* const column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addLayout(top);
+  column->addWidget(tabs_, 1);
+  column->addStretch();
+  tabs_->hide();
+  SetStale(false);
+}
+
+void MeaningPanel::Show(const Snapshot& file, const Snapshot& now) {
+  file_ = file;
+  now_ = now;
+  isFilled_.assign(isFilled_.size(), false);
+  SetStale(false);
+  if (tabs_->isVisible()) FillFront();
+}
+
+void MeaningPanel::SetStale(bool stale) {
+  isStale_ = stale;
+  state_->setText(stale ? QStringLiteral("<b>Older than your last change.</b>")
+                        : QStringLiteral("As the settings are read back."));
+}
+
+void MeaningPanel::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (!tabs_->isHidden()) FillFront();
+}
+
+/// The dialog is not to wait for the panel when the window opens.
+void MeaningPanel::paintEvent(QPaintEvent* event) {
+  QWidget::paintEvent(event);
+  if (!tabs_->isHidden()) return;
+  const auto open = [this] {
+    tabs_->show();
+    FillFront();
+  };
+  QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
+}
+
+void MeaningPanel::FillFront() {
+  const auto tab = static_cast<std::size_t>(tabs_->currentIndex());
+  if (isFilled_[tab]) return;
+  isFilled_[tab] = true;
+  if (tab == 0) {
+    sketch_->Show(SketchOf(now_));
+    return;
+  }
+  const std::size_t table = tab - 1;
+  models_[table]->Show(ComparedTable(file_.tables[table], now_.tables[table], TableTabs()[table].keyColumns));
+  static_cast<QTableView&>(*tabs_->currentWidget()).resizeColumnsToContents();
+}
+
+}  // namespace ORXKMPrintProp::host

@@ -1,0 +1,347 @@
+#include "host/window/PageSketch.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+#include <map>
+#include <optional>
+#include <set>
+#include <utility>
+
+#include "host/Terminal.h"
+#include "tables/CellCodecs.h"
+#include "tables/Conversions.h"
+
+namespace ORXKMPrintProp::host {
+namespace {
+
+using namespace ModPrnGen;
+
+Text Raw(const Row& row, TextView column) { return ToText(row.Value(column)); }
+Text Shown(const Row& row, TextView column) { return OneLine(Raw(row, column)); }
+bool Flag(const Row& row, TextView column) { return FlagFromCell(Raw(row, column)); }
+int Number(const Row& row, TextView column) { return ToInteger(row.Value(column)); }
+Text Digits(int number) { return ToText(std::int32_t{number}); }
+
+/// The first of them that says something.
+Text OneOf(const Row& row, std::initializer_list<TextView> columns) {
+  for (const TextView column : columns) {
+    if (Text text = Shown(row, column); !text.empty()) return text;
+  }
+  return {};
+}
+
+using Rows = std::vector<RowRef>;
+
+void SortByPosition(Rows& rows) {
+  std::stable_sort(rows.begin(), rows.end(),
+                   [](const RowRef& a, const RowRef& b) { return Number(*a, u"POSIT") < Number(*b, u"POSIT"); });
+}
+
+/// What prints of each owner, by its name.
+class PrintedRows {
+ public:
+  explicit PrintedRows(const TableSnapshot& table) {
+    for (const RowRef& row : table.rows) byOwner_[Raw(*row, u"IOBJNM")].push_back(row);
+  }
+
+  /// @param sharers how many owners have that name: each has brought a copy of the rows.
+  Rows Of(const Text& owner, std::size_t sharers = 1) const {
+    const auto found = byOwner_.find(owner);
+    if (found == byOwner_.end()) return {};
+    Rows rows(found->second.begin(),
+              found->second.begin() + static_cast<std::ptrdiff_t>(found->second.size() / sharers));
+    std::erase_if(rows, [](const RowRef& row) { return Flag(*row, u"HIDDEN"); });
+    SortByPosition(rows);
+    return rows;
+  }
+
+ private:
+  std::map<Text, Rows> byOwner_;
+};
+
+/// Where a column has its made-up content from.
+struct Source {
+  std::size_t level = 0;  ///< the characteristic, or of a number the element, counted from 0
+  bool isAttribute = false;
+  bool isKey = false;
+  Text name = {};  ///< of the characteristic or the attribute
+};
+
+/// A row of values, and which characteristic is the outermost whose value is another one than in the row before.
+struct Values {
+  std::vector<int> values;
+  std::size_t changed = 0;
+};
+
+class Sketcher {
+ public:
+  explicit Sketcher(const Snapshot& tables) : tables_(tables), general_(*tables.General().rows.at(0)) {}
+
+  PageSketch Draw() {
+    Page();
+    Columns();
+    NoteEveryPage();
+    Lines();
+    return std::move(sketch_);
+  }
+
+ private:
+  void Page() {
+    sketch_.title = Shown(general_, u"TITLE");
+    sketch_.margins = {Number(general_, u"MARGIN_TOP"), Number(general_, u"MARGIN_BOTTOM"),
+                       Number(general_, u"MARGIN_LEFT"), Number(general_, u"MARGIN_RIGHT")};
+    sketch_.colored = Flag(general_, u"USE_COLORS");
+    sketch_.ruled = !Flag(general_, u"NO_LINES");
+    const Text pages = Shown(general_, u"MAX_PAGES");
+    if (pages != u"0") sketch_.notes.push_back(u"At most " + pages + (pages == u"1" ? u" page" : u" pages"));
+    const bool isAcross = DirectionFromCell(Raw(general_, u"PRINT_DIRECTION")) == PP_PRN_DIR_HORIZONTAL;
+    sketch_.notes.push_back(isAcross ? u"Pages in horizontal order" : u"Pages in vertical order");
+  }
+
+  void Columns() {
+    Rows structures;
+    std::map<Text, std::size_t> sharers;
+    for (const RowRef& row : tables_.Dimension().rows) {
+      if (Shown(*row, u"IS_STRUCTURE") == u"X") {
+        structures.push_back(row);
+        continue;
+      }
+      ++sharers[Raw(*row, u"IOBJNM")];
+      if (AxisFromCell(Raw(*row, u"AXIS"))) levels_.push_back(row);
+    }
+    SortByPosition(levels_);
+
+    const PrintedRows attributes(tables_.Attribute());
+    for (std::size_t level = 0; level < levels_.size(); ++level) {
+      const Row& row = *levels_[level];
+      AddTextColumns(row, {.level = level, .name = OneOf(row, {u"IOBJTXT", u"IOBJNM"})});
+      const Text name = Raw(row, u"IOBJNM");
+      for (const RowRef& attribute : attributes.Of(name, sharers[name])) {
+        AddTextColumns(*attribute,
+                       {.level = level, .isAttribute = true, .name = OneOf(*attribute, {u"ATTRITXT", u"ATTRINM"})});
+      }
+    }
+
+    const PrintedRows members(tables_.Member());
+    std::size_t element = 0;
+    for (const RowRef& structure : structures) {
+      for (const RowRef& row : members.Of(Raw(*structure, u"IOBJNM"))) {
+        SketchColumn column{.title = OneOf(*row, {u"PR_COL1_HEADER", u"CHAVLTXT", u"CHAVL"}),
+                            .what = OneOf(*structure, {u"IOBJTXT", u"IOBJNM"})};
+        Place(*row, u"PR_COL1_WIDTH", u"PR_COL1_ALIGN", column);
+        column.isNumber = true;
+        if (CurrencyPosition() == PP_PRN_CUPOS_HEAD) column.title += u" (EUR)";
+        Add(column, {.level = element++});
+      }
+    }
+  }
+
+  static void Place(const Row& row, TextView width, TextView align, SketchColumn& column) {
+    column.width = Flag(row, u"PR_AUTO_WIDTH") ? 0 : std::max(Number(row, width), 0);
+    column.align = AlignFromCell(Raw(row, align));
+  }
+
+  void AddTextColumns(const Row& row, Source source) {
+    const auto presentation = PresentationFromCell(Raw(row, u"IOBJPRSNT"));
+    const bool keyFirst = presentation == PP_VALP_KEY || presentation == PP_VALP_KEYTEXT;
+    const bool both = presentation == PP_VALP_KEYTEXT || presentation == PP_VALP_TEXTKEY;
+    const auto add = [&](bool isKey, TextView title, TextView width, TextView align, TextView fix) {
+      SketchColumn column{
+          .title = Shown(row, title), .what = isKey ? Text(u"key") : Text(u"description"), .everyPage = Flag(row, fix)};
+      if (column.title.empty()) column.title = source.name;
+      Place(row, width, align, column);
+      source.isKey = isKey;
+      Add(column, source);
+    };
+    add(keyFirst, u"PR_COL1_HEADER", u"PR_COL1_WIDTH", u"PR_COL1_ALIGN", u"PR_COL1_FIX");
+    if (both) add(!keyFirst, u"PR_COL2_HEADER", u"PR_COL2_WIDTH", u"PR_COL2_ALIGN", u"PR_COL2_FIX");
+  }
+
+  void NoteEveryPage() {
+    const auto isOnEach = [](const SketchColumn& column) { return column.everyPage; };
+    if (std::any_of(sketch_.columns.begin(), sketch_.columns.end(), isOnEach)) {
+      sketch_.notes.push_back(u"Columns with a thick line are on each page");
+    }
+  }
+
+  void Add(SketchColumn column, Source source) {
+    sketch_.columns.push_back(std::move(column));
+    sources_.push_back(std::move(source));
+  }
+
+  PP_CurUnitPosition CurrencyPosition() const { return CurUnitPositionFromCell(Raw(general_, u"CURUNITPOSITION")); }
+
+  /// Enough rows for the break of every characteristic that has one to be seen, and the totals that it closes.
+  void Lines() {
+    if (sources_.empty()) return;
+    const std::size_t count = levels_.size();
+    std::set<std::size_t> breaking;
+    for (std::size_t level = 0; level + 1 < count; ++level) {
+      if (BreakBy(level)) breaking.insert(level);
+    }
+    if (breaking.empty() && count > 1) breaking.insert(0);
+
+    std::vector<std::size_t> changes;
+    const auto again = [&] {
+      if (count > 0) changes.push_back(count - 1);
+    };
+    again();
+    for (auto level = breaking.rbegin(); level != breaking.rend(); ++level) {
+      changes.push_back(*level);
+      again();
+    }
+    rows_.push_back({.values = std::vector<int>(count)});
+    for (const std::size_t changed : changes) {
+      Values next{.values = rows_.back().values, .changed = changed};
+      ++next.values[changed];
+      std::fill(next.values.begin() + static_cast<std::ptrdiff_t>(changed) + 1, next.values.end(), 0);
+      rows_.push_back(std::move(next));
+    }
+
+    const bool totalsFirst = SumPositFromCell(Raw(general_, u"SUMPOSIT")) == PP_PRN_SUM_TOPLEFT;
+    if (totalsFirst) AddOverall();
+    for (std::size_t row = 0; row < rows_.size(); ++row) {
+      const std::size_t changed = rows_[row].changed;
+      if (row > 0) {
+        if (!totalsFirst) AddTotals(breaking, changed, row - 1, false);
+        AddBreak(changed);
+      }
+      if (totalsFirst) AddTotals(breaking, changed, row, true);
+      AddValues(row);
+    }
+    if (!totalsFirst) {
+      AddTotals(breaking, 0, rows_.size() - 1, false);
+      AddOverall();
+    }
+  }
+
+  /// What a new value of the characteristic begins.
+  std::optional<SketchLineKind> BreakBy(std::size_t level) const {
+    static constexpr std::pair<TextView, SketchLineKind> kinds[] = {{u"PR_QUERY_BREAK", SketchLineKind::CoverPage},
+                                                                    {u"PR_PAGE_BREAK", SketchLineKind::NewPage},
+                                                                    {u"PR_BREAK_AREA", SketchLineKind::NewBlock}};
+    for (const auto& [column, kind] : kinds) {
+      if (Flag(*levels_[level], column)) return kind;
+    }
+    return {};
+  }
+
+  /// The strongest break of all the characteristics whose values are new ones.
+  std::optional<SketchLineKind> BreakFrom(std::size_t changed) const {
+    std::optional<SketchLineKind> strongest;
+    for (std::size_t level = changed; level < levels_.size(); ++level) {
+      const auto kind = BreakBy(level);
+      if (kind && (!strongest || *kind < *strongest)) strongest = kind;
+    }
+    return strongest;
+  }
+
+  void AddBreak(std::size_t changed) {
+    if (const auto kind = BreakFrom(changed)) sketch_.lines.push_back({.kind = *kind});
+  }
+
+  static Text ValueText(const Source& source, int value) {
+    const Text letter(1, static_cast<char16_t>(u'A' + value % 26));
+    if (source.isKey) return letter + (source.isAttribute ? u"-" : u"") + Digits(10 * (value + 1));
+    return source.name + u" " + letter;
+  }
+
+  void AddValues(std::size_t row) {
+    const Values& values = rows_[row];
+    const bool hidesRepeated = Flag(general_, u"NOMULTTXT");
+    const auto begun = row == 0 ? SketchLineKind::NewPage : BreakFrom(values.changed).value_or(SketchLineKind::Values);
+    const bool isFirstOfPage = begun == SketchLineKind::CoverPage || begun == SketchLineKind::NewPage;
+    SketchLine line;
+    for (std::size_t i = 0; i < sources_.size(); ++i) {
+      const Source& source = sources_[i];
+      if (sketch_.columns[i].isNumber) {
+        line.cells.push_back(NumberText(NumberAt(row, source.level)));
+      } else if (hidesRepeated && !isFirstOfPage && source.level < values.changed) {
+        line.cells.emplace_back();
+      } else {
+        line.cells.push_back(ValueText(source, values.values[source.level]));
+      }
+    }
+    sketch_.lines.push_back(std::move(line));
+  }
+
+  /// The totals of the groups that begin, or end, with that row.
+  void AddTotals(const std::set<std::size_t>& breaking, std::size_t changed, std::size_t row, bool begin) {
+    std::vector<std::size_t> levels(breaking.lower_bound(changed), breaking.end());
+    if (!begin) std::reverse(levels.begin(), levels.end());
+    for (const std::size_t level : levels) {
+      const auto noSums = NoSumsFromCell(Raw(*levels_[level], u"NOSUMS"));
+      if (noSums == PP_PRN_NOSUMS_ALWAYS) continue;
+      std::size_t first = row;
+      std::size_t last = row;
+      while (!begin && first > 0 && rows_[first].changed > level) --first;
+      while (begin && last + 1 < rows_.size() && rows_[last + 1].changed > level) ++last;
+      AddSums(Text(noSums == PP_PRN_NOSUMS_CONDITION ? u"Total, on condition" : u"Total"), level, first, last);
+    }
+  }
+
+  void AddOverall() { AddSums(u"Overall total", 0, 0, rows_.size() - 1); }
+
+  /// The words stand in the first column of the characteristic.
+  void AddSums(const Text& words, std::size_t level, std::size_t first, std::size_t last) {
+    const auto numbers = std::count_if(sketch_.columns.begin(), sketch_.columns.end(),
+                                       [](const SketchColumn& column) { return column.isNumber; });
+    if (numbers == 0) return;
+    SketchLine line{.kind = SketchLineKind::Totals};
+    bool isNamed = false;
+    for (std::size_t i = 0; i < sources_.size(); ++i) {
+      Text cell;
+      if (sketch_.columns[i].isNumber) {
+        int sum = 0;
+        for (std::size_t row = first; row <= last; ++row) sum += NumberAt(row, sources_[i].level);
+        cell = NumberText(sum);
+      } else if (!isNamed && sources_[i].level == level) {
+        cell = words;
+        isNamed = true;
+      }
+      line.cells.push_back(std::move(cell));
+    }
+    sketch_.lines.push_back(std::move(line));
+  }
+
+  /// A zero and numbers of either sign are among the first two rows.
+  static int NumberAt(std::size_t row, std::size_t element) {
+    static constexpr int numbers[] = {1250, -340, 0, 8075, 615, -1980, 47, 2400};
+    return numbers[(row * 3 + element) % std::size(numbers)];
+  }
+
+  Text NumberText(int number) const {
+    if (number == 0 && Flag(general_, u"HIDE_ZERO")) return {};
+    Text text = Digits(std::abs(number));
+    if (text.size() > 3) text.insert(text.size() - 3, 1, u',');
+    if (number < 0) {
+      switch (SignPrsntFromCell(Raw(general_, u"SIGNPRSNT"))) {
+        case PP_PRN_SIGN_PREFIX:
+          text = u"-" + text;
+          break;
+        case PP_PRN_SIGN_POSTFIX:
+          text += u"-";
+          break;
+        case PP_PRN_SIGN_BRACES:
+          text = u"(" + text + u")";
+          break;
+      }
+    }
+    const auto position = CurrencyPosition();
+    return position == PP_PRN_CUPOS_LEFT ? u"EUR " + text : position == PP_PRN_CUPOS_RIGHT ? text + u" EUR" : text;
+  }
+
+  const Snapshot& tables_;
+  const Row& general_;
+  Rows levels_;  ///< the print characteristics, in print order
+  std::vector<Source> sources_;
+  std::vector<Values> rows_;
+  PageSketch sketch_;
+};
+
+}  // namespace
+
+PageSketch SketchOf(const Snapshot& readBack) { return Sketcher(readBack).Draw(); }
+
+}  // namespace ORXKMPrintProp::host

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "host/window/Snapshot.h"
+#include "tables/PrnEnums.h"
+
+namespace ORXKMPrintProp::host {
+
+/// A column of the printed page.
+struct SketchColumn {
+  Text title;
+  Text what = {};  ///< what prints in it: "key", "description", of an element the structure's name
+  int width = 0;   ///< in characters, 0 for as wide as the content
+  PP_Alignment align = PP_PRN_ALIGN_LEFT;
+  bool everyPage = false;  ///< again on each page beside the first
+  bool isNumber = false;
+};
+
+enum class SketchLineKind { CoverPage, NewPage, NewBlock, Values, Totals };
+
+struct SketchLine {
+  SketchLineKind kind = SketchLineKind::Values;
+  std::vector<Text> cells = {};  ///< one for each column; none in a break
+};
+
+/// What a page would look like that is printed with the settings, on made-up values and numbers.
+struct PageSketch {
+  Text title;
+  std::array<int, 4> margins{};  ///< top, bottom, left, right
+  bool colored = false;          ///< the headings
+  bool ruled = true;             ///< lines between the cells
+  std::vector<SketchColumn> columns;
+  std::vector<SketchLine> lines;
+  std::vector<Text> notes;  ///< what a single page can't show
+};
+
+/// Computed from the tables as the control gives them back, and nothing else.
+PageSketch SketchOf(const Snapshot& readBack);
+
+}  // namespace ORXKMPrintProp::host

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "host/window/PageSketch.h"
+
+class QPainter;
+
+namespace ORXKMPrintProp::host {
+
+/// Paints a page as it is described, as wide as its columns need.
+class PageSketchView : public QWidget {
+ public:
+  explicit PageSketchView(QWidget* parent = nullptr);
+
+  void Show(PageSketch sketch);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  struct Measures {
+    int lineHeight;
+    QRect paper;
+    QRect body;  ///< the paper without its margins
+  };
+
+  void Measure();
+  void PaintHeading(QPainter& painter, int top) const;
+  void PaintCells(QPainter& painter, const SketchLine& line, int top) const;
+  void PaintBreak(QPainter& painter, SketchLineKind kind, int top) const;
+
+  PageSketch sketch_;
+  std::vector<int> widths_;  ///< of the columns, in pixels
+  Measures measures_{};
+};
+
+}  // namespace ORXKMPrintProp::host

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QWidget>
+
+class QPushButton;
+
+namespace ORXKMPrintProp::qt {
+class PrnPropView;
+}
+
+namespace ORXKMPrintProp::host {
+
+class EditedSettings;
+class MeaningPanel;
+
+/// The dialog with what a host adds to it: OK, Cancel and Apply, the editor of layouts, and a panel that shows what
+/// the settings mean.
+///
+/// Whether something has changed, only a read of the tables can tell, and a read commits the page on top. So the
+/// window reads where a commit is due anyway: after a change of the tab, after ORXOrderChanged, at OK, Apply, Cancel
+/// and close, and when the user asks for it by Refresh. In between, any input that can change a setting counts as a
+/// change, until the next read knows better.
+class SettingsWindow : public QWidget {
+ public:
+  /// @param settings must outlive the window.
+  explicit SettingsWindow(EditedSettings& settings, QWidget* parent = nullptr);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  QWidget* MakeButtons();
+  void WatchInput();
+  void MarkEdited();
+  /// Reads now, or when the user's action has come to its end. @return whether the tables could be read.
+  bool Read();
+  void ReadLater();
+  void ShowState();
+
+  void Accept();
+  /// @return whether the target holds the settings now.
+  bool Save();
+  bool AcceptsLosses();
+  bool MayClose();
+  void EditLayoutOf(int buttonId, const QString& characteristic);
+  void Tell(const QString& what, const QString& why);
+
+  EditedSettings& settings_;
+  qt::PrnPropView* view_;
+  MeaningPanel* panel_;
+  QPushButton* apply_ = nullptr;
+  bool isEdited_ = false;  ///< by the user, since the last read
+  bool isDone_ = false;
+};
+
+}  // namespace ORXKMPrintProp::host

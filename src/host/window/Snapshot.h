@@ -1,0 +1,32 @@
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "host/SettingsDocument.h"
+
+namespace ORXKMPrintProp::host {
+
+/// The rows of a table at one time.
+struct TableSnapshot {
+  std::vector<Text> columns;
+  std::vector<RowRef> rows;
+};
+
+/// The four tables of settings at one time, in the order of `kTableMembers`. A rewrite of the tables does not touch
+/// the rows that were there, so nothing is copied.
+struct Snapshot {
+  std::array<TableSnapshot, 4> tables;
+
+  const TableSnapshot& General() const { return tables[0]; }
+  const TableSnapshot& Dimension() const { return tables[1]; }
+  const TableSnapshot& Member() const { return tables[2]; }
+  const TableSnapshot& Attribute() const { return tables[3]; }
+};
+
+Snapshot SnapshotOf(const SettingsDocument& document);
+
+/// Whether the same rows stand in the same order, with the same cells.
+bool IsSame(const Snapshot& a, const Snapshot& b);
+
+}  // namespace ORXKMPrintProp::host
