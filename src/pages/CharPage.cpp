@@ -19,6 +19,11 @@ std::shared_ptr<PrnCharCls> CharPage::Shown() const {
   return gCurChar > 0 ? state_.Characteristics().Item(gCurChar) : nullptr;
 }
 
+void CharPage::ResetCharPage() {
+  gCurChar = -1;
+  columns_.Blank();
+}
+
 void CharPage::ShowCharPage() {
   gCurChar = -1;
   FillLists();

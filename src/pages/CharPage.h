@@ -12,6 +12,8 @@ class CharPage : public ListPage {
  public:
   explicit CharPage(PageState& state);
 
+  /// Blanks the frame, so that showing an item sets all that follows from its presentation.
+  void ResetCharPage();
   void ShowCharPage();
   void StoreCharPage();
   void EnableCharPage();

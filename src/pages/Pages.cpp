@@ -80,6 +80,7 @@ void Pages::FillAllPages() {
   filledFrom_ = gPrnProp;
   printLists_.EndDrag();
   Fill([this] {
+    char_.ResetCharPage();
     attr_.ResetAttrPage();
     str_.ResetStrPage();
     ShowAllPages();
@@ -123,7 +124,6 @@ void Pages::SetReadOnly(bool readOnly) {
   if (readOnly == state_.mReadOnly) return;
   IsReady();
   state_.mReadOnly = readOnly;
-  printLists_.EndDrag();
   for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) RoutinesOf(tab)->enable(*this);
 }
 

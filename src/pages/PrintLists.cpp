@@ -66,7 +66,8 @@ void PrintLists::MouseMove(std::int16_t Index, std::int16_t Button) {
 }
 
 void PrintLists::MouseUp(std::int16_t Index, std::int16_t Button) {
-  if (state_.mReadOnly || Button != ListBox::kLeftButton || mDragIndex == -1) return;
+  // A drag can't begin in read-only mode; one that has begun before ends as it would.
+  if (Button != ListBox::kLeftButton || mDragIndex == -1) return;
   state_.dialog.MousePointer(kDefaultPointer);
   const bool isElsewhere = mDragIndex != mDragStart;
   const bool raise = Index == kCharTab && mDragMoved && isElsewhere;

@@ -13,7 +13,7 @@
 
 namespace ORXKMPrintProp::test {
 
-/// An item as its page's number, its owner's number on that page (0 on the Characteristics page) and its own.
+/// An item of a page by its number and its owner's, which is 0 on the Characteristics page.
 struct ItemId {
   int owner = 0;
   int number = 0;

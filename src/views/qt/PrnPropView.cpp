@@ -90,6 +90,8 @@ PrnPropView::PrnPropView(ORXQueryPrnProp& control, QWidget* parent)
       order_(std::make_unique<QCollator>(QLocale::system())) {
   order_->setCaseSensitivity(Qt::CaseInsensitive);
   setFixedSize(Place(kClientArea).size());
+  // What the widgets inherit they need not be given one by one.
+  setFont(ToQFont(control_.GetDialog().TabStrip().GetFont()));
   MakeWidgets();
   SetTabOrder();
   GiveNames();

@@ -82,7 +82,7 @@ void TabStripView::FitTabs() {
   auto& tabs = static_cast<TabBar&>(*tabs_);
   QFont font = StoredFont();
   tabs.setElideMode(Qt::ElideNone);
-  tabs.setFont(font);
+  if (tabs.font() != font) tabs.setFont(font);
   while (!tabs.Fits() && Shrink(font, StoredFont())) tabs.setFont(font);
   if (!tabs.Fits()) tabs.setElideMode(Qt::ElideRight);
   for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) {

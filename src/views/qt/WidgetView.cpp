@@ -22,7 +22,7 @@ WidgetView::WidgetView(QWidget& glass, Widget& widget, const Report& failed)
 }
 
 void WidgetView::Refresh() {
-  glass_.setFont(StoredFont());
+  SetFont(StoredFont());
   ShowToolTip({});
   glass_.setEnabled(base_.Enabled());
   glass_.setVisible(base_.Visible());
@@ -39,8 +39,14 @@ void WidgetView::Perform(const std::function<void()>& action) {
   Refresh();
 }
 
-QFont WidgetView::StoredFont() const {
-  const Font& stored = base_.GetFont();
+void WidgetView::SetFont(const QFont& font) {
+  // A change of font costs a widget its layout and style, also when it is none.
+  if (glass_.font() != font) glass_.setFont(font);
+}
+
+QFont WidgetView::StoredFont() const { return ToQFont(base_.GetFont()); }
+
+QFont ToQFont(const Font& stored) {
   QFont font(ToQString(stored.Name));
   font.setPointSizeF(stored.Size);
   font.setWeight(static_cast<QFont::Weight>(stored.Weight));
@@ -57,7 +63,7 @@ void WidgetView::ShowToolTip(const QString& cutText) {
 QString WidgetView::FitCaption(int width) {
   const QString caption = ToQString(base_.Caption());
   const FittedText fitted(caption, StoredFont(), width);
-  glass_.setFont(fitted.font);
+  SetFont(fitted.font);
   if (fitted.isCut) ShowToolTip(caption);
   return fitted.text;
 }

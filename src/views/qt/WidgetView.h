@@ -38,6 +38,7 @@ class WidgetView {
   void Perform(const std::function<void()>& action);
 
   QFont StoredFont() const;
+  void SetFont(const QFont& font);
   /// The widget's tooltip, and ahead of it a text that could not be shown in full.
   void ShowToolTip(const QString& cutText);
   /// Sets font and tooltip for the caption to fit.
@@ -49,6 +50,8 @@ class WidgetView {
   Widget& base_;
   const Report& failed_;
 };
+
+QFont ToQFont(const Font& stored);
 
 /// The same as a Qt widget of that class.
 template <class QtWidget, class W>
