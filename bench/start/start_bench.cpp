@@ -56,8 +56,7 @@ int main(int argc, char** argv) {
   for (int run = 0; run < std::max(1, std::atoi(argv[1])); ++run) {
     for (Program& program : programs) program.times.push_back(Run(program.command));
   }
-  std::printf(
-      "Milliseconds to the first paint, and how prnprop relates to it (wanted: within 1.3 of an empty window)\n");
+  std::printf("milliseconds to the first paint, and prnprop's in proportion (wanted: within 1.3 of an empty window)\n");
   const double edit = Median(programs[0].times);
   for (const Program& program : programs) {
     const double time = Median(program.times);

@@ -214,8 +214,8 @@ TEST_F(SettingsWindowTest, ALayoutIsEditedAsPlainText) {
 
 TEST_F(SettingsWindowTest, ThePanelMarksCellsThatDifferAndSaysWhenItIsOlder) {
   Open();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window->findChild<QTabWidget*>(); }));
   auto& tabs = *window->findChild<QTabWidget*>();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return tabs.isVisible(); }));
   tabs.setCurrentIndex(1);
   const QAbstractItemModel& model = *static_cast<QTableView&>(*tabs.currentWidget()).model();
   const auto marked = [&] {

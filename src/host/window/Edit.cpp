@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QMessageBox>
+#include <QTimer>
 #include <memory>
 #include <ostream>
 
@@ -29,7 +30,6 @@ int Edit(const EditOptions& options, std::ostream& err) {
   char* argv[] = {name, nullptr};
   QApplication application(argc, argv);
   QGuiApplication::setDesktopFileName(QStringLiteral("prnprop"));
-  QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("prnprop")));
   qt::QtFontPlatform platform;
   std::unique_ptr<EditedSettings> settings;
   try {
@@ -44,6 +44,7 @@ int Edit(const EditOptions& options, std::ostream& err) {
   SettingsWindow window(*settings);
   if (qEnvironmentVariableIsSet("PRNPROP_EXIT_AFTER_FIRST_PAINT")) new ExitAfterFirstPaint(window);
   window.show();
+  QTimer::singleShot(0, [] { QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("prnprop"))); });
   QApplication::exec();
   return kSuccess;
 }

@@ -47,7 +47,7 @@ QTableView* MakeTable(ComparedModel* model, QWidget* parent) {
 }  // namespace
 
 MeaningPanel::MeaningPanel(std::function<void()> refresh, QWidget* parent)
-    : QWidget(parent), state_(new QLabel(this)), tabs_(new QTabWidget(this)), sketch_(new PageSketchView) {
+    : QWidget(parent), state_(new QLabel(this)) {
   auto* const button = new QPushButton(QStringLiteral("&Refresh"), this);
   button->setObjectName(QStringLiteral("refresh"));
   button->setToolTip(QStringLiteral("Reads the settings back"));
@@ -55,6 +55,19 @@ MeaningPanel::MeaningPanel(std::function<void()> refresh, QWidget* parent)
   state_->setObjectName(QStringLiteral("state"));
   state_->setWordWrap(true);
 
+  auto* const top = new QHBoxLayout;
+  top->addWidget(state_, 1);
+  top->addWidget(button);
+  auto* const column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->addLayout(top);
+  column->addStretch();
+  SetStale(false);
+}
+
+void MeaningPanel::MakeTabs() {
+  tabs_ = new QTabWidget(this);
+  sketch_ = new PageSketchView;
   auto* const scroll = new QScrollArea;
   scroll->setWidget(sketch_);
   scroll->setAlignment(Qt::AlignCenter);
@@ -65,19 +78,9 @@ MeaningPanel::MeaningPanel(std::function<void()> refresh, QWidget* parent)
     view->setAccessibleName(QLatin1String(table.caption));
     tabs_->addTab(view, QLatin1String(table.caption));
   }
-  isFilled_.assign(models_.size() + 1, true);
+  isFilled_.assign(models_.size() + 1, false);
   connect(tabs_, &QTabWidget::currentChanged, this, [this] { FillFront(); });
-
-  auto* const top = new QHBoxLayout;
-  top->addWidget(state_, 1);
-  top->addWidget(button);
-  auto* const column = new QVBoxLayout(this);
-  column->setContentsMargins(0, 0, 0, 0);
-  column->addLayout(top);
-  column->addWidget(tabs_, 1);
-  column->addStretch();
-  tabs_->hide();
-  SetStale(false);
+  static_cast<QBoxLayout&>(*layout()).insertWidget(1, tabs_, 1);
 }
 
 void MeaningPanel::Show(const Snapshot& file, const Snapshot& now) {
@@ -85,7 +88,7 @@ void MeaningPanel::Show(const Snapshot& file, const Snapshot& now) {
   now_ = now;
   isFilled_.assign(isFilled_.size(), false);
   SetStale(false);
-  if (tabs_->isVisible()) FillFront();
+  if (tabs_ && tabs_->isVisible()) FillFront();
 }
 
 void MeaningPanel::SetStale(bool stale) {
@@ -96,14 +99,16 @@ void MeaningPanel::SetStale(bool stale) {
 
 void MeaningPanel::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  if (!tabs_->isHidden()) FillFront();
+  if (tabs_) FillFront();
 }
 
 /// The dialog is not to wait for the panel when the window opens.
 void MeaningPanel::paintEvent(QPaintEvent* event) {
   QWidget::paintEvent(event);
-  if (!tabs_->isHidden()) return;
+  if (tabs_) return;
   const auto open = [this] {
+    if (tabs_) return;
+    MakeTabs();
     tabs_->show();
     FillFront();
   };

@@ -32,12 +32,13 @@ class MeaningPanel : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  void MakeTabs();
   /// What can't be seen is computed when it comes to the front.
   void FillFront();
 
   QLabel* state_;
-  QTabWidget* tabs_;
-  PageSketchView* sketch_;
+  QTabWidget* tabs_ = nullptr;  ///< none until the panel has been seen
+  PageSketchView* sketch_ = nullptr;
   std::vector<ComparedModel*> models_;
   std::vector<bool> isFilled_;  ///< by tab
   Snapshot file_;

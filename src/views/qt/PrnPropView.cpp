@@ -95,7 +95,7 @@ PrnPropView::PrnPropView(ORXQueryPrnProp& control, QWidget* parent)
   MakeWidgets();
   SetTabOrder();
   GiveNames();
-  for (const auto& widget : control_.GetDialog().Controls()) ViewFor(*widget).Refresh();
+  Changed(control_.GetDialog().TabStrip());
   MousePointerChanged(control_.GetDialog().MousePointer());
   control_.GetDialog().SetView(this);
   events_ = std::make_unique<Events>(*this);
@@ -178,7 +178,17 @@ void PrnPropView::keyPressEvent(QKeyEvent* event) {
   QWidget::keyPressEvent(event);
 }
 
+/// A page that was never on top need not have been prepared for it.
+void PrnPropView::BringUp(std::int16_t page) {
+  if (std::exchange(wasOnTop_[static_cast<std::size_t>(page)], true)) return;
+  for (const auto& widget : control_.GetDialog().Controls()) {
+    if (widget->Row().page == page) ViewFor(*widget).Refresh();
+  }
+}
+
 void PrnPropView::Changed(Widget& widget) {
+  SSTab& tabStrip = control_.GetDialog().TabStrip();
+  if (&widget == &tabStrip) BringUp(tabStrip.Tab());
   ViewFor(widget).Refresh();
   for (const auto& [named, name] : names_) {
     if (name.DependsOn(widget)) ViewFor(*named).Glass().setAccessibleName(name.Spoken());

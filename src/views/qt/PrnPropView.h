@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QWidget>
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <unordered_map>
@@ -56,6 +57,7 @@ class PrnPropView : public QWidget, private View {
   void MakeWidgets();
   void SetTabOrder();
   void GiveNames();
+  void BringUp(std::int16_t page);
   /// Where the widget lies, in pixels from its parent.
   QRect Place(const Geometry& geometry) const;
   QWidget& ParentOf(const LayoutRow& row);
@@ -68,6 +70,7 @@ class PrnPropView : public QWidget, private View {
   std::unordered_map<const Widget*, WidgetView*> views_;
   std::vector<std::pair<const Widget*, SpokenName>> names_;
   TabStripView* tabs_ = nullptr;
+  std::array<bool, SSTab::kTabs> wasOnTop_ = {};
 };
 
 }  // namespace ORXKMPrintProp::qt
