@@ -1,247 +1,140 @@
 #include "RandomSettings.h"
 
 #include <algorithm>
-#include <initializer_list>
-#include <iterator>
+#include <string>
 #include <vector>
 
-#include "Random.h"
 #include "tables/Conversions.h"
+#include "tables/MemoryTable.h"
 #include "tables/TableCalls.h"
 #include "texts/DialogTexts.h"
 
 namespace ORXKMPrintProp::test {
 namespace {
 
-using Codes = std::initializer_list<const char16_t*>;
+/// What may stand in the cells of the columns whose names end so; the likely values stand more than once.
+struct Cells {
+  TextView ending;
+  std::vector<std::string> values;
+};
 
-constexpr const char16_t* kDisplayTexts[] = {u"",     u"a",    u"A", u"alpha", u"Alpha",  u"ALPHA",  u"b",  u"beta",
-                                             u"Beta", u"zeta", u"Z", u" b",    u"\u00c4", u"\u00e4", u"10", u"9"};
-constexpr const char16_t* kLayouts[] = {u"", u"L1", u"<layout/>"};
+const std::vector<Cells>& AllCells() {
+  static const std::vector<std::string> flags{"'X'", "' '", "'X'", "' '", "'X'", "' '", "''", "", "'x'", "True", "1"};
+  static const std::vector<std::string> numbers{"0", "0", "1", "7", "20", "31", "' 8 '", "12.25", "-3", "'5'"};
+  static const std::vector<std::string> texts{"''", "'a'", "'A'", "'alpha'", "'Alpha'", "'beta'", "'Z'", "' b'", "'9'"};
+  static const std::vector<std::string> layouts{"''", "'L1'", "'<layout/>'"};
+  static const std::vector<Cells> cells{
+      {u"PRINT_DIRECTION", {"'H'", "'V'", "'?'"}},
+      {u"MAX_PAGES", {"''", "'0'", "'20'", "'12abc'", "'x'", "'-4'", "'1.5'"}},
+      {u"SUMPOSIT", {"'1'", "'2'", "' '"}},
+      {u"SIGNPRSNT", {"'1'", "'2'", "'3'", ""}},
+      {u"CURUNITPOSITION", {"'L'", "'R'", "'T'", "'N'", "'?'"}},
+      {u"AXIS", {"'X'", "'Y'", "'Y'", "'X'", "' '", "' '", "''", "'?'"}},
+      {u"PRSNT", {"'0'", "'1'", "'2'", "'3'", "'9'", ""}},
+      {u"_ALIGN", {"'L'", "'R'", "'C'", "' '"}},
+      {u"_BREAK", {"' '", "' '", "' '", "'X'"}},
+      {u"BREAK_AREA", {"' '", "' '", "' '", "'X'"}},
+      {u"NOSUMS", {"' '", "'C'", "'U'", "'x'"}},
+      {u"HIENM", {"''", "'H'"}},
+      {u"STRT_LVL", {"0", "1", "8", "3"}},
+      {u"POSIT", {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "0", "-2", "400", "30000"}},
+      {u"HIDE_ZERO", flags},
+      {u"HIDDEN", flags},
+      {u"COLORS", flags},
+      {u"NOMULTTXT", flags},
+      {u"NO_LINES", flags},
+      {u"_FIX", flags},
+      {u"_AUTO_WIDTH", flags},
+      {u"HRY_ACTIVE", flags},
+      {u"_WIDTH", numbers},
+      {u"MARGIN_TOP", numbers},
+      {u"MARGIN_BOTTOM", numbers},
+      {u"MARGIN_LEFT", numbers},
+      {u"MARGIN_RIGHT", numbers},
+      {u"TITLE", texts},
+      {u"TXT", texts},
+      {u"_HEADER", texts},
+      {u"_LAYOUT", layouts},
+  };
+  return cells;
+}
 
-Text Numbered(TextView head, std::int32_t number) { return Text(head).append(ToText(number)); }
+Text Numbered(TextView head, int number) { return Text(head).append(ToText(std::int32_t{number})); }
 
 class Maker {
  public:
-  explicit Maker(const LoadPlan& plan) : random_(plan.seed), kind_(plan.kind), most_(plan.most) {}
+  explicit Maker(std::uint64_t seed) : random_(seed) {}
 
-  PlannedSettings Make() {
-    PlannedSettings planned{Settings("", "", "", "")};
-    tables_ = &planned.tables;
-    const int generalRows = kind_ == LoadKind::NoGeneralRow ? 0 : kind_ == LoadKind::TwoGeneralRows ? 2 : 1;
-    for (int i = 0; i < generalRows; ++i) AddGeneral();
-    AddDimension();
-    AddMembers();
-    planned.loads = generalRows == 1;
-    if (kind_ == LoadKind::BadCell) {
-      Spoil();
-      planned.fails = ErrorKind::Type;
+  RandomSettings Make() {
+    RandomSettings made{Settings("", "", "", "")};
+    const Settings& tables = made.tables;
+    const int general = random_.OneIn(12) ? random_.Of({0, 2}) : 1;
+    for (int i = 0; i < general; ++i) AddRandomRow(tables.gen);
+    const bool inOrder = random_.OneIn(2);
+    const int characteristics = random_.Below(15);
+    const int structures = random_.Below(4);
+    for (int i = 1; i <= characteristics; ++i) {
+      const Text name = Numbered(u"C", i);
+      Row& row = *AddRandomRow(tables.dim);
+      row.Value(u"IOBJNM", name);
+      if (inOrder) row.Value(u"POSIT", std::int32_t{i});
+      for (int a = random_.Below(7); a > 0; --a) {
+        Row& attribute = *AddRandomRow(tables.atr);
+        attribute.Value(u"IOBJNM", name);
+        attribute.Value(u"ATTRINM", Numbered(u"A", a));
+      }
     }
-    if (kind_ == LoadKind::SecondRun) {
-      if (names_.empty()) AddCharacteristic(u"C0");
-      for (const auto& name : {names_.front(), Text(u"between"), names_.front()}) AddAttribute(name);
-      planned.fails = ErrorKind::Key;
+    for (int i = 1; i <= structures; ++i) {
+      Row& row = *AddRandomRow(tables.dim);
+      row.Value(u"IOBJNM", random_.OneIn(8) ? Text() : Numbered(u"S", i));
+      row.Value(u"IS_STRUCTURE", Text(u"X"));
     }
-    return planned;
+    for (int i = random_.Below(15); i > 0; --i) {
+      Row& row = *AddRandomRow(tables.mem);
+      row.Value(u"IOBJNM", Text(random_.Of({u"S1", u"S1", u"S2", u"S2", u"S3", u"", u"nobody"})));
+      row.Value(u"CHAVL", Numbered(u"E", i));
+    }
+    if (general != 1) made.end = LoadEnd::Refused;
+    if (general == 1 && random_.OneIn(12)) {
+      RowAt(*tables.gen, 1)->Value(u"MARGIN_TOP", Text(u"many"));
+      made.end = LoadEnd::Fails;
+    } else if (general == 1 && characteristics > 0 && random_.OneIn(12)) {
+      // The rows of one characteristic do not stand together.
+      for (const auto* name : {u"C1", u"between", u"C1"}) AddRandomRow(tables.atr)->Value(u"IOBJNM", Text(name));
+      made.end = LoadEnd::Fails;
+    }
+    return made;
   }
 
  private:
-  /// Mostly one of the codes, else something that is none.
-  void Code(Row& row, TextView column, Codes codes) {
-    if (!random_.OneIn(8)) return row.Value(column, Text(random_.Of(codes)));
-    switch (random_.Below(6)) {
-      case 0:
-        return;
-      case 1:
-        return row.Value(column, Text());
-      case 2:
-        return row.Value(column, random_.OneIn(2));
-      case 3:
-        return row.Value(column, std::int32_t{random_.Below(4)});
-      default:
-        return row.Value(column, Text(random_.Of({u"x", u" ", u"X ", u"XX", u"?"})));
+  RowRef AddRandomRow(const TableRef& table) {
+    const RowRef row = AddRow(*table);
+    for (const Text& column : dynamic_cast<MemoryTable&>(*table).ColumnNames()) {
+      const auto& all = AllCells();
+      const auto cells =
+          std::find_if(all.begin(), all.end(), [&](const Cells& each) { return column.ends_with(each.ending); });
+      if (cells != all.end()) row->Value(column, VariantFrom(random_.Of(cells->values)));
     }
-  }
-  void Flag(Row& row, TextView column) { Code(row, column, {u"X", u" "}); }
-
-  void Number(Row& row, TextView column, std::int32_t number) {
-    switch (random_.Below(8)) {
-      case 0:
-        return row.Value(column, Numbered(u" ", number).append(u" "));
-      case 1:
-        return row.Value(column, static_cast<double>(number) + 0.25);
-      case 2:
-        return row.Value(column, static_cast<std::int16_t>(number));
-      default:
-        return row.Value(column, number);
-    }
-  }
-  std::int32_t Position() {
-    switch (positions_) {
-      case 0:
-        return ++lastPosition_;
-      case 1:
-        return lastPosition_ += 1 + random_.Below(40);
-      case 2:
-        return random_.Below(5) - 2;
-      case 3:
-        return 0;
-      default:
-        return random_.Below(60000) - 30000;
-    }
-  }
-  Text DisplayText() { return random_.Of(kDisplayTexts); }
-  std::int32_t Width() { return random_.OneIn(4) ? 0 : random_.Below(60) - 3; }
-
-  void Columns(Row& row) {
-    Code(row, u"IOBJPRSNT", {u"0", u"1", u"2", u"3"});
-    Flag(row, u"PR_COL1_FIX");
-    Flag(row, u"PR_COL2_FIX");
-    Flag(row, u"PR_AUTO_WIDTH");
-    Number(row, u"PR_COL1_WIDTH", Width());
-    Number(row, u"PR_COL2_WIDTH", Width());
-    Code(row, u"PR_COL1_ALIGN", {u"L", u"R", u"C"});
-    Code(row, u"PR_COL2_ALIGN", {u"L", u"R", u"C"});
-    row.Value(u"PR_COL1_HEADER", DisplayText());
-  }
-
-  void AddGeneral() {
-    Row& row = *AddRow(*tables_->gen);
-    row.Value(u"TITLE", DisplayText());
-    Code(row, u"PRINT_DIRECTION", {u"H", u"V"});
-    row.Value(u"MAX_PAGES", Text(random_.Of({u"", u"0", u"20", u"12abc", u"x", u"-4", u"1.5"})));
-    for (const auto* column : {u"HIDE_ZERO", u"USE_COLORS", u"NOMULTTXT", u"NO_LINES"}) Flag(row, column);
-    for (const auto* column : {u"MARGIN_TOP", u"MARGIN_BOTTOM", u"MARGIN_LEFT", u"MARGIN_RIGHT"}) {
-      Number(row, column, Width());
-    }
-    row.Value(u"HEADER_LAYOUT", Text(random_.Of(kLayouts)));
-    Code(row, u"SUMPOSIT", {u"1", u"2"});
-    Code(row, u"SIGNPRSNT", {u"1", u"2", u"3"});
-    Code(row, u"CURUNITPOSITION", {u"L", u"R", u"T", u"N"});
-  }
-
-  void AddCharacteristic(const Text& name) {
-    Row& row = *AddRow(*tables_->dim);
-    names_.push_back(name);
-    row.Value(u"IOBJNM", name);
-    row.Value(u"IOBJTXT", DisplayText());
-    Number(row, u"POSIT", Position());
-    if (random_.Below(100) < printed_) {
-      Code(row, u"AXIS", {u"X", u"Y"});
-    } else {
-      row.Value(u"AXIS", Text(u" "));
-    }
-    Columns(row);
-    for (const auto* column : {u"PR_QUERY_BREAK", u"PR_PAGE_BREAK", u"PR_BREAK_AREA"}) {
-      if (random_.OneIn(4)) row.Value(column, Text(u"X"));
-    }
-    Number(row, u"STRT_LVL", random_.Below(9));
-    Flag(row, u"HRY_ACTIVE");
-    if (random_.OneIn(2)) row.Value(u"HIENM", Text(u"H"));
-    Code(row, u"NOSUMS", {u" ", u"C", u"U"});
-  }
-
-  void AddAttribute(const Text& characteristic) {
-    Row& row = *AddRow(*tables_->atr);
-    row.Value(u"IOBJNM", characteristic);
-    row.Value(u"ATTRINM", Numbered(u"A", ++attributes_));
-    row.Value(u"ATTRITXT", DisplayText());
-    Number(row, u"POSIT", Position());
-    Flag(row, u"HIDDEN");
-    Columns(row);
-  }
-
-  void AddStructure(const Text& name) {
-    Row& row = *AddRow(*tables_->dim);
-    row.Value(u"IOBJNM", name);
-    row.Value(u"IOBJTXT", DisplayText());
-    Number(row, u"POSIT", Position());
-    row.Value(u"IS_STRUCTURE", Text(u"X"));
-  }
-
-  void AddDimension() {
-    positions_ = random_.Below(5);
-    printed_ = random_.Of({0, 30, 70, 90, 100});
-    const int characteristics = random_.Below(most_ + 1);
-    const int structures = random_.Below(4);
-    int structure = 0;
-    for (int i = 0; i < characteristics; ++i) {
-      while (structure < structures && random_.OneIn(6)) AddStructure(StructureName(++structure));
-      AddCharacteristic(random_.OneIn(30) && i == 0 ? Text() : Numbered(u"C", i));
-    }
-    while (structure < structures) AddStructure(StructureName(++structure));
-
-    std::vector<Text> owners = names_;
-    if (random_.OneIn(3)) owners.insert(owners.begin() + random_.Below(static_cast<int>(owners.size())), u"nobody");
-    for (const Text& owner : owners) {
-      const int count = random_.Below(std::min(most_, 6) + 1);
-      for (int i = 0; i < count; ++i) AddAttribute(owner);
-    }
-  }
-
-  Text StructureName(int number) { return random_.OneIn(6) ? Text() : Numbered(u"S", number); }
-
-  void AddMembers() {
-    positions_ = random_.Below(5);
-    const int members = random_.Below(most_ + 1);
-    for (int i = 0; i < members; ++i) {
-      Row& row = *AddRow(*tables_->mem);
-      row.Value(u"IOBJNM", Text(random_.Of({u"S1", u"S1", u"S2", u"S2", u"S3", u"", u"nobody"})));
-      row.Value(u"CHAVL", Numbered(u"E", i));
-      row.Value(u"CHAVLTXT", DisplayText());
-      Number(row, u"POSIT", Position());
-      Flag(row, u"HIDDEN");
-      Flag(row, u"PR_AUTO_WIDTH");
-      Number(row, u"PR_COL1_WIDTH", Width());
-      Code(row, u"PR_COL1_ALIGN", {u"L", u"R", u"C"});
-      row.Value(u"PR_COL1_HEADER", DisplayText());
-    }
-  }
-
-  /// One number that is none, in a row that is read.
-  void Spoil() {
-    const std::int32_t rows = tables_->dim->RowCount();
-    const Variant bad = random_.OneIn(2) ? Variant(Text(u"many")) : Variant();
-    if (rows > 0 && random_.OneIn(2)) {
-      RowAt(*tables_->dim, 1)->Value(u"POSIT", bad);
-    } else {
-      RowAt(*tables_->gen, 1)->Value(Text(random_.Of({u"MARGIN_TOP", u"MARGIN_RIGHT"})), bad);
-    }
+    return row;
   }
 
   Random random_;
-  LoadKind kind_;
-  int most_;
-  Settings* tables_ = nullptr;
-  std::vector<Text> names_;
-  int positions_ = 0;  ///< how positions are chosen
-  int printed_ = 0;    ///< of 100 characteristics
-  std::int32_t lastPosition_ = 0;
-  std::int32_t attributes_ = 0;
 };
 
 }  // namespace
 
-std::string NameOf(const LoadPlan& plan) {
-  static const char* const names[] = {"good", "no-general-row", "two-general-rows", "bad-cell", "second-run", "same"};
-  return std::string(names[static_cast<int>(plan.kind)]) + "-" + std::to_string(plan.seed) + "-" +
-         std::to_string(plan.most);
-}
+RandomSettings SettingsFrom(std::uint64_t seed) { return Maker(seed).Make(); }
 
-PlannedSettings SettingsOf(const LoadPlan& plan) { return Maker(plan).Make(); }
-
-TableRef RandomTexts(std::uint64_t seed) {
+TableRef TextsFrom(std::uint64_t seed) {
   Random random(seed);
   auto texts = TableFrom(Kind::Texts, "");
   const Text mark = Numbered(u"T", random.Below(100));
-  const auto add = [&](TextView key) {
-    if (!random.OneIn(3)) return;
+  for (const DialogText& text : DialogTexts()) {
+    if (!random.OneIn(3)) continue;
     Row& row = *AddRow(*texts);
-    row.Value(u"TARGETID", Text(key));
-    if (!random.OneIn(6)) row.Value(u"CAPTION", mark + Text(key));
-  };
-  for (const auto* key : {u"ID_PRN_NONE", u"ID_PRN_ERROR", u"ID_PRN_MSGMAX10"}) add(key);
-  for (const DialogText& text : DialogTexts()) add(text.key);
+    row.Value(u"TARGETID", Text(text.key));
+    if (!random.OneIn(6)) row.Value(u"CAPTION", mark + Text(text.key));
+  }
   return texts;
 }
 

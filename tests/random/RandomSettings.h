@@ -1,42 +1,25 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
-#include <string>
 
+#include "Random.h"
 #include "support/loaded.h"
-#include "tables/RunTimeError.h"
 
 namespace ORXKMPrintProp::test {
 
-enum class LoadKind {
-  Good,
-  NoGeneralRow,
-  TwoGeneralRows,
-  BadCell,
-  SecondRun,  ///< the attribute rows of one characteristic do not stand together
-  Same,       ///< the tables that the control has already
-};
+/// What becomes of a load.
+enum class LoadEnd { Done, Refused, Fails };
 
-/// Settings as what they are made from, so that they can be made again.
-struct LoadPlan {
-  LoadKind kind = LoadKind::Good;
-  std::uint64_t seed = 0;
-  int most = 14;  ///< how many characteristics there may be, and structure elements
-};
-
-std::string NameOf(const LoadPlan& plan);
-
-/// What the load of such settings gives.
-struct PlannedSettings {
+struct RandomSettings {
   Settings tables;
-  bool loads = true;
-  std::optional<ErrorKind> fails = std::nullopt;
+  LoadEnd end = LoadEnd::Done;
 };
-/// @param plan of any kind but `Same`.
-PlannedSettings SettingsOf(const LoadPlan& plan);
 
-/// A text table with some of the keys and texts that tell from which seed they come.
-TableRef RandomTexts(std::uint64_t seed);
+/// Settings that mostly load: up to 14 characteristics with their attributes, up to three structures, cells that are
+/// mostly codes and numbers that the control knows.
+RandomSettings SettingsFrom(std::uint64_t seed);
+
+/// A text table with some of the keys.
+TableRef TextsFrom(std::uint64_t seed);
 
 }  // namespace ORXKMPrintProp::test

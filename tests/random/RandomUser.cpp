@@ -1,119 +1,417 @@
 #include "RandomUser.h"
 
-#include <iterator>
-#include <utility>
-#include <vector>
+#include <algorithm>
+#include <exception>
+
+#include "support/widget_text.h"
+#include "tables/Conversions.h"
+#include "tables/MemoryTable.h"
+#include "tables/RunTimeError.h"
+#include "tables/TableCalls.h"
 
 namespace ORXKMPrintProp::test {
 namespace {
 
-using Act = Action::Kind;
+const char* const kRefusals[] = {"done", "not on top", "hidden", "disabled", "no such entry"};
 
-struct Weighted {
-  Act kind;
-  int weight;
-};
-
-constexpr Weighted kUser[] = {{Act::Tab, 9},   {Act::Click, 16}, {Act::RightClick, 2},  {Act::Drag, 9},
-                              {Act::Caret, 1}, {Act::Toggle, 8}, {Act::ToggleCaret, 2}, {Act::Pick, 11},
-                              {Act::Keys, 8},  {Act::Paste, 6},  {Act::Press, 12}};
-constexpr Weighted kHost[] = {{Act::Read, 10},  {Act::ReadThrice, 2}, {Act::ReadOnly, 5},
-                              {Act::Layout, 4}, {Act::Load, 3},       {Act::Texts, 1}};
-
-template <std::size_t N>
-Act Choose(Random& random, const Weighted (&choices)[N]) {
-  int total = 0;
-  for (const Weighted& each : choices) total += each.weight;
-  int at = random.Below(total);
-  for (const Weighted& each : choices) {
-    if ((at -= each.weight) < 0) return each.kind;
-  }
-  return choices[0].kind;
+std::string NameOf(const LayoutRow& row) {
+  std::string name = ToAscii(row.name.name);
+  if (row.name.index != WidgetName::kNoIndex) name += "(" + std::to_string(row.name.index) + ")";
+  return name;
 }
 
-WidgetKind WidgetFor(Act kind) {
-  switch (kind) {
-    case Act::Pick:
-      return WidgetKind::ComboBox;
-    case Act::Toggle:
-      return WidgetKind::CheckBox;
-    case Act::Keys:
-    case Act::Paste:
-      return WidgetKind::TextBox;
-    case Act::Press:
-      return WidgetKind::CommandButton;
-    default:
-      return WidgetKind::ListBox;
-  }
+/// What a user may still do in read-only mode: look around, and have a layout shown.
+bool IsForReading(const LayoutRow& row) {
+  const TextView name = row.name.name;
+  return row.kind == WidgetKind::SSTab || name == u"lstPrint" || name == u"lstStrStructures" ||
+         name == u"cmbAttrChar" || name == u"cmdPrintLayout";
 }
+
+std::string TextOf(const Settings& settings) {
+  return ToString(*settings.gen) + "\n" + ToString(*settings.dim) + "\n" + ToString(*settings.mem) + "\n" +
+         ToString(*settings.atr);
+}
+
+std::string DumpOf(const Widget& widget) {
+  std::string state = NameOf(widget.Row()) + (widget.Enabled() ? " " : " disabled ") +
+                      (widget.Visible() ? "" : "hidden ") + ToAscii(widget.Caption());
+  if (const auto* const box = dynamic_cast<const TextBox*>(&widget)) state += ToAscii(box->GetText());
+  if (const auto* const check = dynamic_cast<const CheckBox*>(&widget)) state += std::to_string(check->Value());
+  if (const auto* const strip = dynamic_cast<const SSTab*>(&widget)) state += std::to_string(strip->Tab());
+  if (const auto* const combo = dynamic_cast<const ComboBox*>(&widget)) state += StateOf(*combo);
+  if (const auto* const list = dynamic_cast<const ListBox*>(&widget)) state += StateOf(*list);
+  return state + "\n";
+}
+
+/// The first lines that differ.
+std::string Difference(const std::string& before, const std::string& after) {
+  const auto [x, y] = std::mismatch(before.begin(), before.end(), after.begin(), after.end());
+  const auto line = [](const std::string& text, auto at) {
+    const std::size_t begin = text.substr(0, static_cast<std::size_t>(at - text.begin())).rfind('\n') + 1;
+    return text.substr(begin, text.find('\n', begin) - begin);
+  };
+  return "\n  before: " + line(before, x) + "\n  after:  " + line(after, y);
+}
+
+std::vector<int> NumbersIn(const EntryWidget& widget) {
+  std::vector<int> numbers;
+  for (std::int16_t i = 0; i < widget.ListCount(); ++i) numbers.push_back(widget.ItemData(i));
+  return numbers;
+}
+
+Settings Written() {
+  Settings written("", "", "", "");
+  gPrnProp->ToTable(written.gen, written.dim, written.mem, written.atr);
+  return written;
+}
+
+/// What a commit sets for all items of its page.
+bool IsOfOrder(TextView column) {
+  return column == u"POSIT" || column == u"AXIS" || column == u"HIDDEN" || column.ends_with(u"_BREAK") ||
+         column == u"PR_BREAK_AREA";
+}
+
+const PrnStructureCls& StructureOf(int number) { return number == 1 ? gPrnProp->Structure1() : gPrnProp->Structure2(); }
+
+std::size_t Place(int number) { return static_cast<std::size_t>(number) - 1; }
 
 }  // namespace
 
-Action RandomUser::Next(const Scene& scene) {
-  const int desk = random_.OneIn(12) ? 1 : 0;
-  const Desk& at = scene.At(desk);
-  if (!at.loaded ? random_.OneIn(2) : random_.OneIn(6)) return HostCall(scene, desk);
-
-  Action action;
-  action.desk = desk;
-  action.kind = Choose(random_, kUser);
-  if (action.kind == Act::Tab) {
-    action.entries = {static_cast<std::int16_t>(random_.OneIn(40) ? 4 : random_.Below(4))};
-    return action;
-  }
-  action.widget = WidgetOf(at, WidgetFor(action.kind));
-  if (const auto* const entries = dynamic_cast<const EntryWidget*>(at.GetDialog().Controls()[action.widget].get())) {
-    const int count = action.kind == Act::ToggleCaret ? 0 : action.kind == Act::Drag ? 2 + random_.Below(3) : 1;
-    for (int i = 0; i < count; ++i) action.entries.push_back(Entry(*entries));
-  }
-  if (action.kind == Act::Keys) action.text = Keys();
-  if (action.kind == Act::Paste) action.text = Pasted();
-  if ((action.kind == Act::Press || action.kind == Act::Drag) && random_.OneIn(3)) {
-    AddHostCalls(scene, desk, action.inEvents);
-  }
-  if (action.kind == Act::Drag && random_.OneIn(8)) AddHostCalls(scene, desk, action.midway);
-  return action;
+RandomUser::RandomUser(std::uint64_t seed) : random_(seed) {
+  gPrnProp.reset();
+  gTextTable.reset();
+  control_.Connect(*this);
+  GetDialog().SetView(this);
 }
 
-void RandomUser::AddHostCalls(const Scene& scene, int desk, std::vector<Action>& calls) {
-  do {
-    calls.push_back(HostCall(scene, random_.OneIn(6) ? 1 - desk : desk));
-  } while (random_.OneIn(3));
+RandomUser::~RandomUser() { GetDialog().SetView(nullptr); }
+
+std::string RandomUser::Act() {
+  failure_.clear();
+  const Order before = IsFresh() ? OrderOnTop() : Order();
+  const std::string lists = readOnly_ && before.page > 0 ? StateOf(List(u"lstPrint", before.page)) : "";
+  const int hostCalls = hostCalls_;
+  if (random_.OneIn(tables_ ? 6 : 2)) {
+    HostActs("");
+  } else {
+    UserActs();
+  }
+  const bool isUserAlone = hostCalls_ == hostCalls;
+  if (isUserAlone && before.page > 0) {
+    if (GetDialog().TabStrip().Tab() != before.page) CheckStored(before);
+    if (readOnly_ && NumbersIn(List(u"lstPrint", before.page)) != before.print &&
+        OwnerOn(before.page) == before.owner) {
+      Fail("read-only: the print list changes from " + lists);
+    }
+  }
+  Check();
+  return failure_;
 }
 
-Action RandomUser::HostCall(const Scene& scene, int desk) {
-  Action action;
-  action.desk = desk;
-  action.kind = scene.At(desk).loaded ? Choose(random_, kHost) : random_.OneIn(3) ? Choose(random_, kHost) : Act::Load;
-  switch (action.kind) {
-    case Act::Read:
-      action.table = random_.Below(4);
-      break;
-    case Act::ReadOnly:
-      action.on = random_.OneIn(3);
-      break;
-    case Act::Texts:
-      action.load.seed = random_.Next() % 100000;
-      break;
-    case Act::Load:
-      action.load.seed = random_.Next() % 1000000;
-      action.load.kind = random_.OneIn(3)
-                             ? random_.Of({LoadKind::NoGeneralRow, LoadKind::TwoGeneralRows, LoadKind::BadCell,
-                                           LoadKind::SecondRun, LoadKind::Same, LoadKind::Same})
-                             : LoadKind::Good;
-      break;
-    case Act::Layout:
-      action.button =
-          random_.Of<Variant>({std::int16_t{4}, std::int32_t{4}, 4.0, std::int32_t{0}, 1.4, std::int16_t{2}, Text(u"3"),
-                               Text(u" 1 "), Variant(), false, true, std::int32_t{5}, std::int32_t{-1}, Text(u"4"),
-                               Text(u"x"), Text(), 1e9, std::int32_t{100000}});
-      action.name = random_.Of({u"C0", u"C1", u"C5", u"c1", u""});
-      action.text = random_.Of({u"", u"L1", u"<a b=\"c\"/>"});
-      break;
-    default:
-      break;
+void RandomUser::UserActs() {
+  using Kind = WidgetKind;
+  const Kind kind = random_.Of({Kind::ListBox, Kind::ListBox, Kind::ListBox, Kind::ComboBox, Kind::CheckBox,
+                                Kind::TextBox, Kind::CommandButton, Kind::SSTab});
+  const bool anywhere = random_.OneIn(15) || kind == Kind::SSTab;
+  std::vector<Widget*> widgets;
+  for (const auto& widget : GetDialog().Controls()) {
+    const LayoutRow& row = widget->Row();
+    if (row.kind == kind && (anywhere || row.page == GetDialog().TabStrip().Tab())) widgets.push_back(widget.get());
   }
-  return action;
+  if (!widgets.empty()) ActOn(*random_.Of(widgets));
+}
+
+void RandomUser::ActOn(Widget& widget) {
+  const LayoutRow& row = widget.Row();
+  const bool isOnTop = row.kind == WidgetKind::SSTab || row.page == GetDialog().TabStrip().Tab();
+  const bool mayAct = isOnTop && widget.Visible() && widget.Enabled();
+  const bool mayWrite = !readOnly_ || IsForReading(row);
+  const std::string before = mayAct ? "" : Dump();
+  try {
+    const Refusal refusal = Use(widget, NameOf(row));
+    const Refusal expected = !isOnTop            ? Refusal::NotOnTop
+                             : !widget.Visible() ? Refusal::Hidden
+                             : !widget.Enabled() ? Refusal::Disabled
+                                                 : Refusal::None;
+    if (!mayAct && refusal != expected) Fail(std::string("refusals: ") + kRefusals[static_cast<int>(refusal)]);
+    if (mayAct && refusal != Refusal::None && refusal != Refusal::NoSuchEntry) Fail("refusals: refused");
+    if (!mayWrite && refusal == Refusal::None) Fail("read-only: takes input");
+  } catch (const std::exception& error) {
+    Fail(std::string("errors: ") + error.what());
+  }
+  if (!mayAct && Dump() != before) Fail("refusals: what was refused changes" + Difference(before, Dump()));
+}
+
+Refusal RandomUser::Use(Widget& widget, const std::string& name) {
+  if (auto* const strip = dynamic_cast<SSTab*>(&widget)) {
+    const auto tab = static_cast<std::int16_t>(random_.Below(random_.OneIn(20) ? 5 : 4));
+    Log("tab " + std::to_string(tab));
+    return strip->UserPick(tab);
+  }
+  if (auto* const combo = dynamic_cast<ComboBox*>(&widget)) {
+    const std::int16_t entry = Entry(*combo);
+    Log("pick " + name + " " + std::to_string(entry));
+    return combo->UserPick(entry);
+  }
+  if (auto* const check = dynamic_cast<CheckBox*>(&widget)) {
+    Log("toggle " + name);
+    return check->UserToggle();
+  }
+  if (auto* const button = dynamic_cast<CommandButton*>(&widget)) {
+    Log("press " + name);
+    return button->UserPress();
+  }
+  if (auto* const box = dynamic_cast<TextBox*>(&widget)) {
+    if (random_.OneIn(2)) {
+      const char16_t key = random_.Of({u'0', u'1', u'7', u'9', u'\b', u'-', u'.', u'a', u' ', u'\u00c4', u'\xd800'});
+      Log("# keys " + name + " " + std::to_string(key));
+      return box->UserKey(key);
+    }
+    const Text text = random_.Of<Text>({u"", u" ", u"0", u"7", u"42", u"-5", u"1e3", u"2.5", u"12abc", u"abc", u"1 2",
+                                        u" 12 ", u"32767", u"32768", u"-32769", u"1e999", u"0x10", u"1,5"});
+    Log("paste " + name + " \"" + ToAscii(text) + "\"");
+    return box->UserEdit(text);
+  }
+  auto& list = dynamic_cast<ListBox&>(widget);
+  if (random_.OneIn(8)) {
+    const std::int16_t entry = Entry(list);
+    Log("# caret, then toggle " + name + " " + std::to_string(entry));
+    const Refusal refusal = list.UserMoveCaret(entry);
+    return refusal == Refusal::None ? list.UserToggle() : refusal;
+  }
+  if (random_.OneIn(8)) {
+    Log("# Alt and an arrow " + name);
+    return list.UserDragStep(random_.Of({std::int16_t{-1}, std::int16_t{1}}));
+  }
+  const std::int16_t button = random_.OneIn(9) ? ListBox::kRightButton : ListBox::kLeftButton;
+  const int steps = random_.OneIn(3) ? random_.Below(4) : 0;
+  const std::int16_t entry = Entry(list);
+  const std::size_t line = script_.size();
+  const std::string word = button == ListBox::kRightButton ? "rclick " : steps > 0 ? "drag " : "click ";
+  Log(word + name + " " + std::to_string(entry));
+  const Refusal refusal = list.UserMouseDown(entry, button);
+  if (refusal != Refusal::None) return refusal;
+  for (int i = 0; i < steps; ++i) {
+    const std::int16_t to = Entry(list);
+    script_[line] += " " + std::to_string(to);
+    list.UserMouseMove(to);
+    if (random_.OneIn(12)) HostActs("# button down: ");
+  }
+  list.UserMouseUp(button);
+  return Refusal::None;
+}
+
+void RandomUser::MaybeHostActs(const std::string& when) {
+  if (depth_ > 0) return;
+  ++depth_;
+  while (random_.OneIn(4)) HostActs(when);
+  --depth_;
+}
+
+void RandomUser::HostActs(const std::string& when) {
+  const std::size_t line = script_.size();
+  ++hostCalls_;
+  try {
+    const int choice = tables_ ? random_.Below(20) : 0;
+    if (choice < 3) {
+      Load();
+    } else if (choice < 11) {
+      Read(!when.empty());
+    } else if (choice < 15) {
+      readOnly_ = random_.OneIn(3);
+      Log(readOnly_ ? "readonly on" : "readonly off");
+      control_.ORXSetReadOnly(readOnly_);
+    } else if (choice < 18) {
+      SetLayout();
+    } else {
+      const std::uint64_t seed = random_.Next() % 100000;
+      Log("texts " + std::to_string(seed));
+      if (control_.ORXControlTexts(TextsFrom(seed))) Fail("texts: they give True");
+    }
+  } catch (const std::exception& error) {
+    Fail(std::string("errors: ") + error.what());
+  }
+  if (script_.size() > line) script_[line].insert(0, when);
+}
+
+void RandomUser::Load() {
+  if (tables_ && tables_->gen->RowCount() == 1 && random_.OneIn(3)) {
+    Log("reload the tables that it has");
+    if (!tables_->LoadInto(control_)) Fail("load: refused");
+    return;
+  }
+  const std::uint64_t seed = random_.Next() % 1000000;
+  Log("reload " + std::to_string(seed));
+  const RandomSettings settings = SettingsFrom(seed);
+  try {
+    const bool loads = settings.tables.LoadInto(control_);
+    tables_ = settings.tables;
+    if (settings.end == LoadEnd::Fails) Fail("load: it does not fail");
+    if (loads != (settings.end == LoadEnd::Done)) Fail("load: it gives the wrong result");
+    if (loads && !IsFresh()) Fail("load: the pages are not those of the load");
+    if (tables_->gen->RowCount() != 0) Fail("load: the general table is not empty");
+  } catch (const RunTimeError&) {
+    if (settings.end != LoadEnd::Fails) throw;
+  }
+}
+
+/// Commits the page on top. Reading again changes nothing, unless it is in the middle of what a user does: the
+/// selectors are then still to follow the order.
+void RandomUser::Read(bool isMidway) {
+  static constexpr TableRef (ORXQueryPrnProp::*kReads[])() = {
+      &ORXQueryPrnProp::ORXGenPropTable, &ORXQueryPrnProp::ORXDimTable, &ORXQueryPrnProp::ORXMemTable,
+      &ORXQueryPrnProp::ORXAtrTable};
+  static constexpr TableRef Settings::*kTables[] = {&Settings::gen, &Settings::dim, &Settings::mem, &Settings::atr};
+  static const char* const kNames[] = {"general", "dimension", "member", "attribute"};
+  const bool wasFresh = IsFresh();
+  const Order order = wasFresh ? OrderOnTop() : Order();
+  const std::string others = wasFresh ? Unshown() : "";
+  const std::size_t table = static_cast<std::size_t>(random_.Below(4));
+  Log(std::string("read ") + kNames[table]);
+  const TableRef read = (control_.*kReads[table])();
+  if (read != (tables_ ? (*tables_).*kTables[table] : nullptr)) Fail("read: not the table that was handed in");
+  if (!tables_) return;
+  CheckStored(order);
+  if (wasFresh && Unshown() != others) Fail("commit: items that are not shown change" + Difference(others, Unshown()));
+  if (!IsFresh() || isMidway || !random_.OneIn(4)) return;
+  const std::string first = TextOf(*tables_) + Dump();
+  for (const auto again : kReads) (control_.*again)();
+  const std::string second = TextOf(*tables_) + Dump();
+  if (first != second) Fail("read: reading again changes" + Difference(first, second));
+}
+
+void RandomUser::SetLayout() {
+  struct Button {
+    Variant id;
+    bool isKnown;
+  };
+  const auto button = random_.Of<Button>({{std::int16_t{4}, true},
+                                          {4.0, true},
+                                          {std::int32_t{0}, true},
+                                          {1.4, true},
+                                          {Text(u"3"), true},
+                                          {Text(u" 1 "), true},
+                                          {Variant(), true},
+                                          {std::int32_t{5}, false},
+                                          {std::int32_t{-1}, false},
+                                          {Text(u"4"), false},
+                                          {Text(u"x"), false},
+                                          {1e9, false}});
+  Log("layout " + ToString(button.id));
+  try {
+    control_.ORXSetPrintLayout(random_.Of<Text>({u"", u"L1"}), button.id, random_.Of<Text>({u"C1", u"c2", u""}));
+    if (!button.isKnown) Fail("layout: it does not fail");
+  } catch (const RunTimeError&) {
+    if (button.isKnown) throw;
+  }
+}
+
+void RandomUser::Check() {
+  if (GetDialog().MousePointer() != 0) Fail("pointer: the drag pointer shows without a drag");
+  if (control_.IsReadOnly() != readOnly_) Fail("read-only: not as the host has set it");
+  for (const auto& widget : GetDialog().Controls()) {
+    const auto* const entries = dynamic_cast<const EntryWidget*>(widget.get());
+    if (entries && (entries->ListIndex() < -1 || entries->ListIndex() >= entries->ListCount())) {
+      Fail("widgets: the index of " + NameOf(widget->Row()) + " is out of range");
+    }
+  }
+  if (!IsFresh()) return;
+  for (int page = 1; page <= 3; ++page) CheckLists(page);
+  CheckSelectors();
+}
+
+/// Each item stands in one of the lists of its page, once.
+void RandomUser::CheckLists(int page) {
+  const auto items = Items(page, OwnerOn(page));
+  std::vector<int> found(items.size());
+  for (const auto* name : {u"lstAvail", u"lstPrint"}) {
+    const ListBox& list = List(name, page);
+    for (std::int16_t i = 0; i < list.ListCount(); ++i) {
+      const std::int32_t number = list.ItemData(i);
+      if (number < 1 || Place(number) >= items.size() || list.List(i) != items[Place(number)]->Text()) {
+        return Fail("lists: an entry stands for no item: " + StateOf(list));
+      }
+      ++found[Place(number)];
+    }
+  }
+  if (std::count(found.begin(), found.end(), 1) != static_cast<std::ptrdiff_t>(found.size())) {
+    Fail("lists: an item does not stand in exactly one list of page " + std::to_string(page));
+  }
+}
+
+/// Each offers nothing at all, and of the print characteristics those behind the one that the selector above shows,
+/// but not the last.
+void RandomUser::CheckSelectors() {
+  if (!IsOrdered()) return;
+  std::vector<int> offered = NumbersIn(List(u"lstPrint", 1));
+  if (!offered.empty()) offered.pop_back();
+  for (const auto* name : {u"cmbCharQueryBreak", u"cmbCharPageBreak", u"cmbCharBreakArea"}) {
+    const ComboBox& combo = GetDialog().Get<ComboBox>(name);
+    offered.insert(offered.begin(), -1);
+    if (combo.ListIndex() < 0 || NumbersIn(combo) != offered) {
+      return Fail("selectors: " + ToAscii(name) + " offers " + StateOf(combo));
+    }
+    offered.erase(offered.begin(), offered.begin() + combo.ListIndex() + 1);
+  }
+}
+
+/// The printed items hold 1, 2, 3 ... in the order of the list, the others 0; and a break is held by the print
+/// characteristic that its selector shows alone.
+void RandomUser::CheckStored(const Order& order) {
+  if (order.page == 0 || (order.page > 1 && order.owner == 0) || !gPrnProp) return;
+  const auto items = Items(order.page, order.owner);
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    const auto found = std::find(order.print.begin(), order.print.end(), static_cast<int>(i) + 1);
+    const int expected = found == order.print.end() ? 0 : static_cast<int>(found - order.print.begin()) + 1;
+    if (items[i]->Position() != expected || items[i]->Hidden() != (expected == 0)) {
+      Fail("commit: item " + std::to_string(i + 1) + " of page " + std::to_string(order.page) + " has position " +
+           std::to_string(items[i]->Position()) + ", not " + std::to_string(expected));
+    }
+  }
+}
+
+void RandomUser::Fail(const std::string& words) {
+  if (failure_.empty()) failure_ = words;
+}
+
+int RandomUser::OwnerOn(int page) {
+  if (page == 2) {
+    const ComboBox& combo = GetDialog().Get<ComboBox>(u"cmbAttrChar");
+    return combo.ListIndex() < 0 ? attrOwner_ : combo.ItemData(combo.ListIndex());
+  }
+  if (page == 3) {
+    const auto& structures = GetDialog().Get<ListBox>(u"lstStrStructures");
+    for (std::int16_t i = 0; i < structures.ListCount(); ++i) {
+      if (structures.Selected(i)) return structures.ItemData(i);
+    }
+  }
+  return 0;
+}
+
+std::vector<std::shared_ptr<const PrnItemCls>> RandomUser::Items(int page, int owner) {
+  std::vector<std::shared_ptr<const PrnItemCls>> items;
+  const auto add = [&](const auto& all) {
+    for (const auto& item : all) items.push_back(item);
+  };
+  if (page == 1) add(gPrnProp->Characteristics());
+  if (page == 2 && owner > 0) add(gPrnProp->Characteristics().Item(std::int32_t{owner})->Attributes());
+  if (page == 3 && owner > 0) add(StructureOf(owner).Elements());
+  return items;
+}
+
+RandomUser::Order RandomUser::OrderOnTop() {
+  const int page = GetDialog().TabStrip().Tab();
+  if (page == 0) return {};
+  return {page, OwnerOn(page), NumbersIn(List(u"lstPrint", page))};
+}
+
+/// The positions ascend in the order of the print characteristics: they may not until that page has been committed.
+bool RandomUser::IsOrdered() {
+  const auto items = Items(1, 0);
+  const auto print = NumbersIn(List(u"lstPrint", 1));
+  return std::adjacent_find(print.begin(), print.end(), [&](int a, int b) {
+           return items[Place(a)]->Position() >= items[Place(b)]->Position();
+         }) == print.end();
 }
 
 std::int16_t RandomUser::Entry(const EntryWidget& widget) {
@@ -121,49 +419,50 @@ std::int16_t RandomUser::Entry(const EntryWidget& widget) {
   return static_cast<std::int16_t>(random_.Below(widget.ListCount()));
 }
 
-std::size_t RandomUser::WidgetOf(const Desk& desk, WidgetKind kind) {
-  const bool anywhere = random_.OneIn(15);
-  std::vector<std::size_t> fitting;
-  const auto rows = DialogLayout();
-  for (const bool onTop : {!anywhere, false}) {
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-      if (rows[i].kind == kind && (!onTop || rows[i].page == desk.Tab())) fitting.push_back(i);
+std::string RandomUser::Dump() {
+  std::string dump;
+  for (const auto& widget : GetDialog().Controls()) dump += DumpOf(*widget);
+  return gPrnProp ? dump + TextOf(Written()) : dump;
+}
+
+std::string RandomUser::Unshown() {
+  const Settings written = Written();
+  const TableRef tables[] = {written.dim, written.atr, written.mem};
+  constexpr TextView kNameColumns[] = {u"IOBJNM", u"ATTRINM", u"CHAVL"};
+  for (int page = 1; page <= 3; ++page) {
+    const int owner = OwnerOn(page);
+    const Text ownerName = page == 1 || owner == 0 ? Text()
+                           : page == 2             ? Text(gPrnProp->Characteristics().Item(std::int32_t{owner})->Name())
+                                                   : Text(StructureOf(owner).Name());
+    const ListBox& print = List(u"lstPrint", page);
+    std::int16_t entry = 0;
+    while (entry < print.ListCount() && !print.Selected(entry)) ++entry;
+    const Text shown = entry < print.ListCount() ? Items(page, owner)[Place(print.ItemData(entry))]->Name() : Text();
+    auto& table = dynamic_cast<MemoryTable&>(*tables[page - 1]);
+    for (std::int32_t number = 1; number <= table.RowCount(); ++number) {
+      Row& row = *RowAt(table, number);
+      const bool isShown = ToText(row.Value(kNameColumns[page - 1])) == shown &&
+                           (page == 1 || ToText(row.Value(u"IOBJNM")) == ownerName);
+      for (const Text& column : table.ColumnNames()) {
+        if (isShown || IsOfOrder(column)) row.Value(column, Variant());
+      }
     }
-    if (!fitting.empty()) break;
   }
-  return random_.Of(fitting);
+  const std::string general = GetDialog().TabStrip().Tab() == 0 ? "" : ToString(*written.gen);
+  return general + ToString(*written.dim) + ToString(*written.atr) + ToString(*written.mem);
 }
 
-Text RandomUser::Keys() {
-  Text keys;
-  do {
-    keys += random_.Of({u'0', u'1', u'7', u'9', u'5', u'\b', u'\b', u'-', u'.', u'a', u' ', u'\r', u'\u00c4',
-                        char16_t{0xD800}, char16_t{0xDC00}, char16_t{0xFFFF}});
-  } while (!random_.OneIn(4));
-  return keys;
+void RandomUser::EntriesCleared(EntryWidget& widget) {
+  if (&widget == &List(u"lstAvail", 1)) filledFrom_ = gPrnProp;
+  // Without a characteristic to offer the page keeps the lists of the last one.
+  if (&widget == &List(u"lstAvail", 2)) {
+    attrOwner_ = 0;
+    attrOwner_ = OwnerOn(2);
+  }
 }
 
-Text RandomUser::Pasted() {
-  return random_.Of({u"",        u" ",
-                     u"0",       u"7",
-                     u"42",      u"007",
-                     u"-5",      u"+8",
-                     u"1e5",     u"1e3",
-                     u"1e-3",    u"2.5",
-                     u"3.5",     u".5",
-                     u"5.",      u".",
-                     u"12abc",   u"abc",
-                     u"1 2",     u" 12 ",
-                     u"32767",   u"32768",
-                     u"32767.5", u"-32768",
-                     u"-32769",  u"99999999999999999999",
-                     u"1e999",   u"1e-999",
-                     u"0x10",    u"1,5",
-                     u"- 3",     u"1e",
-                     u"\t4",     u"\u0663",
-                     u"4\u00a0", u"inf",
-                     u"nan",     u"1e+2x",
-                     u"--1",     u"1.2.3"});
-}
+void RandomUser::MsgBox(const Text&, const Text&) { MaybeHostActs("# at the message: "); }
+void RandomUser::ORXPrintLayoutGet(std::int16_t, const Text&) { MaybeHostActs("# in the event: "); }
+void RandomUser::ORXOrderChanged() { MaybeHostActs("# in the event: "); }
 
 }  // namespace ORXKMPrintProp::test

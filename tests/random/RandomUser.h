@@ -1,27 +1,81 @@
 #pragma once
 
-#include "Action.h"
-#include "Random.h"
-#include "Scene.h"
+#include <array>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "RandomSettings.h"
+#include "control/SharedValues.h"
 
 namespace ORXKMPrintProp::test {
 
-/// A user and a host who do anything that one can do, mostly things that are not refused.
-class RandomUser {
+/// A user and a host who do to a control anything that one can do, mostly what is not refused, and look after each
+/// action at what must always hold.
+class RandomUser : private View, private ORXQueryPrnPropEvents {
  public:
-  explicit RandomUser(std::uint64_t seed) : random_(seed) {}
+  explicit RandomUser(std::uint64_t seed);
+  ~RandomUser() override;
 
-  Action Next(const Scene& scene);
+  /// Acts once. @return what is wrong then; empty when all is well.
+  std::string Act();
+  /// What has been done, a line each, in the notation of scripts; what has no word there as a comment.
+  const std::vector<std::string>& Script() const { return script_; }
 
  private:
-  Action HostCall(const Scene& scene, int desk);
-  void AddHostCalls(const Scene& scene, int desk, std::vector<Action>& calls);
+  struct Order {
+    int page = 0;   ///< 0 for none
+    int owner = 0;  ///< the characteristic of its attributes, the structure of its elements
+    std::vector<int> print;
+  };
+
+  void UserActs();
+  void ActOn(Widget& widget);
+  Refusal Use(Widget& widget, const std::string& name);
+  void HostActs(const std::string& when);
+  void MaybeHostActs(const std::string& when);
+  void Load();
+  void Read(bool isMidway);
+  void SetLayout();
+
+  void Check();
+  void CheckLists(int page);
+  void CheckSelectors();
+  void CheckStored(const Order& order);
+  void Fail(const std::string& words);
+
+  Dialog& GetDialog() { return control_.GetDialog(); }
+  ListBox& List(TextView name, int page) { return GetDialog().Get<ListBox>(name, static_cast<std::int16_t>(page)); }
+  /// The pages show the model that the program has.
+  bool IsFresh() const { return gPrnProp && filledFrom_.lock() == gPrnProp; }
+  int OwnerOn(int page);
+  std::vector<std::shared_ptr<const PrnItemCls>> Items(int page, int owner);
+  Order OrderOnTop();
+  bool IsOrdered();
   std::int16_t Entry(const EntryWidget& widget);
-  std::size_t WidgetOf(const Desk& desk, WidgetKind kind);
-  Text Keys();
-  Text Pasted();
+  /// All that can be seen, and what the model would write.
+  std::string Dump();
+  /// What the model would write but for the order, for the items that the pages show and for the General page on top:
+  /// a commit leaves it alone.
+  std::string Unshown();
+  void Log(const std::string& words) { script_.push_back(words); }
+
+  void EntriesCleared(EntryWidget& widget) override;
+  void MsgBox(const Text& text, const Text& title) override;
+  void ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) override;
+  void ORXOrderChanged() override;
 
   Random random_;
+  ORXQueryPrnProp control_;
+  std::optional<Settings> tables_;  ///< that the control holds
+  std::weak_ptr<PrnPropCls> filledFrom_;
+  int attrOwner_ = 0;
+  bool readOnly_ = false;
+  int hostCalls_ = 0;
+  int depth_ = 0;  ///< of events in which the host acts
+  std::string failure_;
+  std::vector<std::string> script_;
 };
 
 }  // namespace ORXKMPrintProp::test

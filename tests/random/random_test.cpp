@@ -5,14 +5,11 @@
 namespace ORXKMPrintProp::test {
 namespace {
 
-class RandomUse : public testing::TestWithParam<std::uint64_t> {};
+class RandomUse : public testing::TestWithParam<int> {};
 
-TEST_P(RandomUse, KeepsTheRules) {
-  const auto failure = RunRandomUser(GetParam(), 2500);
-  if (failure) FAIL() << Report(GetParam(), *failure);
-}
+TEST_P(RandomUse, KeepsTheRules) { EXPECT_EQ(RunRandomUsers(static_cast<std::uint64_t>(GetParam()) << 32, 2500), ""); }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, RandomUse, testing::Range<std::uint64_t>(1, 9));
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomUse, testing::Range(1, 9));
 
 }  // namespace
 }  // namespace ORXKMPrintProp::test

@@ -23,9 +23,9 @@ int Main(int argc, char** argv) {
       return 2;
     }
   }
-  const auto failure = ORXKMPrintProp::test::RunRandomUser(seed, actions);
-  if (failure) std::cout << ORXKMPrintProp::test::Report(seed, *failure);
-  return failure ? 1 : 0;
+  const std::string failure = ORXKMPrintProp::test::RunRandomUsers(seed, actions);
+  std::cout << failure;
+  return failure.empty() ? 0 : 1;
 }
 
 }  // namespace
