@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <map>
 #include <ostream>
 #include <span>
 #include <string_view>
@@ -10,27 +9,16 @@
 #include <vector>
 
 #include "host/Load.h"
+#include "host/PrintRows.h"
 #include "host/SettingsDocument.h"
 #include "host/Terminal.h"
 #include "host/Utf8.h"
 #include "tables/CellCodecs.h"
-#include "tables/Conversions.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
 
 using namespace ModPrnGen;
-
-Text Cell(const Row& row, TextView column) { return OneLine(ToText(row.Value(column))); }
-bool Flag(const Row& row, TextView column) { return FlagFromCell(ToText(row.Value(column))); }
-int Number(const Row& row, TextView column) { return ToInteger(row.Value(column)); }
-Text NumberText(int number) { return ToText(std::int32_t{number}); }
-
-/// The display name, else the technical one.
-Text Name(const Row& row, TextView text, TextView name) {
-  const Text shown = Cell(row, text);
-  return shown.empty() ? Cell(row, name) : shown;
-}
 
 /// A list in words; empty parts are left out.
 Text Joined(const std::vector<Text>& parts, TextView separator = u", ") {
@@ -46,7 +34,7 @@ Text Joined(const std::vector<Text>& parts, TextView separator = u", ") {
 Text If(bool condition, TextView words) { return Text(condition ? words : TextView()); }
 
 TextView Alignment(const Row& row, TextView column) {
-  switch (AlignFromCell(ToText(row.Value(column)))) {
+  switch (AlignFromCell(RawText(row, column))) {
     case PP_PRN_ALIGN_RIGHT:
       return u"right";
     case PP_PRN_ALIGN_CENTER:
@@ -59,7 +47,7 @@ TextView Alignment(const Row& row, TextView column) {
 /// "left 24": how a column is aligned, and its width when it has one.
 Text Placing(const Row& row, TextView alignColumn, TextView widthColumn) {
   const int width = Number(row, widthColumn);
-  const Text size = Flag(row, u"PR_AUTO_WIDTH") ? u"auto" : width != 0 ? NumberText(width) : Text();
+  const Text size = Flag(row, u"PR_AUTO_WIDTH") ? u"auto" : width != 0 ? Digits(width) : Text();
   return Joined({Text(Alignment(row, alignColumn)), size}, u" ");
 }
 
@@ -72,9 +60,7 @@ struct Columns {
 Columns ColumnsOf(const Row& row) {
   static constexpr TextView key = u"key";
   static constexpr TextView description = u"description";
-  const auto presentation = PresentationFromCell(ToText(row.Value(u"IOBJPRSNT")));
-  const bool keyFirst = presentation == PP_VALP_KEY || presentation == PP_VALP_KEYTEXT;
-  const bool both = presentation == PP_VALP_KEYTEXT || presentation == PP_VALP_TEXTKEY;
+  const auto [keyFirst, both] = PresentationOf(row);
   const auto column = [&](TextView what, TextView align, TextView width, TextView fix) {
     return Joined({Text(what), Placing(row, align, width), If(Flag(row, fix), u"each page")});
   };
@@ -87,18 +73,18 @@ Text Details(const Row& row) {
   Text hierarchy;
   if (Flag(row, u"HRY_ACTIVE")) {
     const int level = Number(row, u"STRT_LVL");
-    const Text version = Cell(row, u"VERSION");
-    const Text dateTo = Cell(row, u"DATETO");
-    hierarchy = Joined({u"with hierarchy", Cell(row, u"HIENM")}, u" ");
-    hierarchy = Joined({hierarchy, If(level != 0, u"level " + NumberText(level)),
+    const Text version = LineText(row, u"VERSION");
+    const Text dateTo = LineText(row, u"DATETO");
+    hierarchy = Joined({u"with hierarchy", LineText(row, u"HIENM")}, u" ");
+    hierarchy = Joined({hierarchy, If(level != 0, u"level " + Digits(level)),
                         If(!version.empty(), u"version " + version), If(!dateTo.empty(), u"to " + dateTo)});
   }
   // By the value of the enumeration, as further below.
   static constexpr TextView sums[] = {u"", u"totals suppressed on condition", u"totals always suppressed"};
-  return Joined({If(Flag(row, u"PR_QUERY_BREAK"), u"new cover page"), If(Flag(row, u"PR_PAGE_BREAK"), u"new page"),
-                 If(Flag(row, u"PR_BREAK_AREA"), u"new block"), hierarchy,
-                 Text(sums[NoSumsFromCell(ToText(row.Value(u"NOSUMS")))])},
-                u"; ");
+  return Joined(
+      {If(Flag(row, u"PR_QUERY_BREAK"), u"new cover page"), If(Flag(row, u"PR_PAGE_BREAK"), u"new page"),
+       If(Flag(row, u"PR_BREAK_AREA"), u"new block"), hierarchy, Text(sums[NoSumsFromCell(RawText(row, u"NOSUMS"))])},
+      u"; ");
 }
 
 /// Lines of cells, with columns as wide as their widest cell.
@@ -158,45 +144,8 @@ class Grid {
   std::vector<StyledLine> lines_;
 };
 
-using Rows = std::vector<RowRef>;
-
-bool IsPrinted(const Row& characteristic) { return AxisFromCell(ToText(characteristic.Value(u"AXIS"))); }
-
-void SortByPosition(Rows& rows) {
-  std::stable_sort(rows.begin(), rows.end(),
-                   [](const RowRef& a, const RowRef& b) { return Number(*a, u"POSIT") < Number(*b, u"POSIT"); });
-}
-
-/// A row of the dimension table with the rows of another table that belong to it.
-struct Owner {
-  RowRef row;
-  Rows printed;  ///< in print order
-  Rows hidden;
-};
-
-/// @param owned the attribute or the member table.
-std::vector<Owner> OwnersOf(const Rows& owners, MemoryTable& owned) {
-  std::map<Text, Rows> byName;
-  for (const RowRef& row : AllRows(owned)) byName[ToText(row->Value(u"IOBJNM"))].push_back(row);
-  std::map<Text, std::size_t> sharers;
-  for (const RowRef& row : owners) ++sharers[ToText(row->Value(u"IOBJNM"))];
-
-  std::vector<Owner> result;
-  for (const RowRef& row : owners) {
-    const Text name = ToText(row->Value(u"IOBJNM"));
-    const Rows& all = byName[name];
-    // Rows of the dimension table that share a name have the same rows, and each has brought its own copy of them.
-    const Rows rows(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(all.size() / sharers[name]));
-    Owner owner{row, {}, {}};
-    for (const RowRef& item : rows) (Flag(*item, u"HIDDEN") ? owner.hidden : owner.printed).push_back(item);
-    SortByPosition(owner.printed);
-    result.push_back(std::move(owner));
-  }
-  return result;
-}
-
 Text Numbered(std::size_t indent, std::size_t number, const Text& name) {
-  const Text digits = NumberText(static_cast<int>(number));
+  const Text digits = Digits(static_cast<int>(number));
   return Text(indent + (digits.size() < 2 ? 1 : 0), u' ') + digits + u"  " + name;
 }
 
@@ -206,9 +155,9 @@ void ShowPage(const Row& row, Grid& grid) {
   };
   const auto margin = [&](TextView side, TextView column) {
     const int size = Number(row, column);
-    return If(size != 0, Text(side) + u" " + NumberText(size));
+    return If(size != 0, Text(side) + u" " + Digits(size));
   };
-  const auto code = [&](TextView column) { return ToText(row.Value(column)); };
+  const auto code = [&](TextView column) { return RawText(row, column); };
   static constexpr TextView directions[] = {u"horizontal", u"vertical"};
   static constexpr TextView sums[] = {u"top left", u"bottom right"};
   static constexpr TextView signs[] = {u"-X", u"X-", u"(X)"};
@@ -216,10 +165,9 @@ void ShowPage(const Row& row, Grid& grid) {
                                        u"not displayed"};
 
   grid.Heading({u"Page"});
-  line(u"Title", Cell(row, u"TITLE"));
+  line(u"Title", LineText(row, u"TITLE"));
   line(u"Page order", Text(directions[DirectionFromCell(code(u"PRINT_DIRECTION"))]));
-  const Text pages = Cell(row, u"MAX_PAGES");
-  line(u"At most", pages == u"0" ? Text() : pages + (pages == u"1" ? u" page" : u" pages"));
+  line(u"At most", PageLimit(row));
   line(u"Margins", Joined({margin(u"top", u"MARGIN_TOP"), margin(u"bottom", u"MARGIN_BOTTOM"),
                            margin(u"left", u"MARGIN_LEFT"), margin(u"right", u"MARGIN_RIGHT")}));
   line(u"Totals", Text(sums[SumPositFromCell(code(u"SUMPOSIT"))]));
@@ -234,25 +182,25 @@ void ShowCharacteristics(std::span<const Owner> characteristics, Grid& grid) {
   std::size_t number = 0;
   const auto line = [&](std::size_t indent, std::size_t itemNumber, const Text& name, const Row& row) {
     const Columns columns = ColumnsOf(row);
-    grid.Line({Numbered(indent, itemNumber, name), Cell(row, u"PR_COL1_HEADER"), columns.first, columns.second});
+    grid.Line({Numbered(indent, itemNumber, name), LineText(row, u"PR_COL1_HEADER"), columns.first, columns.second});
   };
   for (const Owner& characteristic : characteristics) {
-    line(2, ++number, Name(*characteristic.row, u"IOBJTXT", u"IOBJNM"), *characteristic.row);
+    line(2, ++number, FirstText(*characteristic.row, {u"IOBJTXT", u"IOBJNM"}), *characteristic.row);
     if (const Text details = Details(*characteristic.row); !details.empty()) grid.Detail(Text(6, u' ') + details);
     std::size_t attributeNumber = 0;
     for (const RowRef& attribute : characteristic.printed) {
-      line(6, ++attributeNumber, Name(*attribute, u"ATTRITXT", u"ATTRINM"), *attribute);
+      line(6, ++attributeNumber, FirstText(*attribute, {u"ATTRITXT", u"ATTRINM"}), *attribute);
     }
   }
   if (number == 0) grid.Detail(u"  none");
 }
 
 void ShowStructure(const Owner& structure, Grid& grid) {
-  grid.Heading({Name(*structure.row, u"IOBJTXT", u"IOBJNM"), u"Title", u"Column"});
+  grid.Heading({FirstText(*structure.row, {u"IOBJTXT", u"IOBJNM"}), u"Title", u"Column"});
   std::size_t number = 0;
   for (const RowRef& element : structure.printed) {
-    grid.Line({Numbered(2, ++number, Name(*element, u"CHAVLTXT", u"CHAVL")), Cell(*element, u"PR_COL1_HEADER"),
-               Placing(*element, u"PR_COL1_ALIGN", u"PR_COL1_WIDTH")});
+    grid.Line({Numbered(2, ++number, FirstText(*element, {u"CHAVLTXT", u"CHAVL"})),
+               LineText(*element, u"PR_COL1_HEADER"), Placing(*element, u"PR_COL1_ALIGN", u"PR_COL1_WIDTH")});
   }
   if (number == 0) grid.Detail(u"  none");
 }
@@ -263,7 +211,7 @@ void ShowHidden(TextView what, const std::vector<std::pair<Text, Rows>>& owners,
   Text label = u"  " + Text(what);
   for (const auto& [owner, rows] : owners) {
     std::vector<Text> names;
-    for (const RowRef& row : rows) names.push_back(Name(*row, text, name));
+    for (const RowRef& row : rows) names.push_back(FirstText(*row, {text, name}));
     // A name is more likely to hold a comma than a semicolon.
     const Text list = Joined(names, u"; ");
     if (!list.empty()) grid.Line({std::exchange(label, Text()), Joined({owner, list}, u": ")});
@@ -280,8 +228,8 @@ void Show(const SettingsDocument& document, bool color, std::ostream& out) {
   SortByPosition(printed);
   Rows all = printed;
   all.insert(all.end(), hidden.begin(), hidden.end());
-  const auto owners = OwnersOf(all, *document.attribute);
-  const auto structures = OwnersOf(structureRows, *document.member);
+  const auto owners = OwnersOf(all, AllRows(*document.attribute));
+  const auto structures = OwnersOf(structureRows, AllRows(*document.member));
 
   Grid page(color, out);
   ShowPage(*document.general->Rows(1), page);
@@ -305,11 +253,12 @@ void Show(const SettingsDocument& document, bool color, std::ostream& out) {
   for (const Owner& owner : owners) {
     Rows rows = owner.hidden;
     if (!IsPrinted(*owner.row)) rows.insert(rows.begin(), owner.printed.begin(), owner.printed.end());
-    attributes.emplace_back(Name(*owner.row, u"IOBJTXT", u"IOBJNM"), rows);
+    attributes.emplace_back(FirstText(*owner.row, {u"IOBJTXT", u"IOBJNM"}), rows);
   }
   std::vector<std::pair<Text, Rows>> elements;
   elements.reserve(structures.size());
-  for (const Owner& owner : structures) elements.emplace_back(Name(*owner.row, u"IOBJTXT", u"IOBJNM"), owner.hidden);
+  for (const Owner& owner : structures)
+    elements.emplace_back(FirstText(*owner.row, {u"IOBJTXT", u"IOBJNM"}), owner.hidden);
 
   Grid rest(color, out);
   ShowHidden(u"Characteristics", {{Text(), hidden}}, u"IOBJTXT", u"IOBJNM", rest);

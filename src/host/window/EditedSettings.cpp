@@ -1,5 +1,7 @@
 #include "host/window/EditedSettings.h"
 
+#include <set>
+#include <string_view>
 #include <utility>
 
 #include "control/SharedValues.h"
@@ -49,13 +51,15 @@ void EditedSettings::Load() {
 }
 
 void EditedSettings::FindLosses() {
+  const std::set<std::int32_t> kept = RowsWithLayout(file_);
   for (const TableChanges& table : ChangesOf(document_)) {
+    const bool isDimension = table.table == std::string_view("dimension");
     for (const Change& change : table.changes) {
-      if (!change.loss || IsHandedBack(file_, table, change)) continue;
+      const bool isLayout = change.kind == ChangeKind::LayoutEmptied;
+      if (!change.loss || (isLayout && (!isDimension || kept.contains(change.row)))) continue;
       std::string line = std::string(table.table) + ", row " + std::to_string(change.row);
       if (!change.column.empty()) line += ", column " + ToUtf8(change.column);
-      const bool isSecond = change.kind == ChangeKind::LayoutEmptied;
-      line += ": " + (isSecond ? "only the first characteristic of a name keeps its layout" : change.reason);
+      line += ": " + (isLayout ? "only the first characteristic of a name keeps its layout" : change.reason);
       losses_.push_back(OneLine(line));
     }
   }

@@ -1,9 +1,9 @@
 #include "host/window/Layouts.h"
 
-#include <string_view>
 #include <unordered_set>
 
-#include "tables/Conversions.h"
+#include "host/PrintRows.h"
+#include "host/SettingsDocument.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
@@ -13,14 +13,12 @@ constexpr TextView kPageColumns[kTotalsRow] = {u"FRONTPAGE_LAYOUT", u"HEADER_LAY
                                                u"LASTPAGE_LAYOUT"};
 constexpr TextView kTotalsColumn = u"PR_SUM_LAYOUT";
 
-Text Cell(const RowRef& row, TextView column) { return ToText(row->Value(column)); }
-
 /// The characteristics, of several with one name the first.
 std::vector<RowRef> FirstOfEachName(const TableSnapshot& dimension) {
   std::vector<RowRef> rows;
   std::unordered_set<Text> names;
   for (const RowRef& row : dimension.rows) {
-    if (Cell(row, u"IS_STRUCTURE") != u"X" && names.insert(Cell(row, u"IOBJNM")).second) rows.push_back(row);
+    if (!IsStructure(*row) && names.insert(RawText(*row, u"IOBJNM")).second) rows.push_back(row);
   }
   return rows;
 }
@@ -33,21 +31,18 @@ Layouts LayoutsIn(const Snapshot& file) {
     if (!layout.empty()) layouts.emplace(std::move(key), std::move(layout));
   };
   for (const RowRef& row : file.General().rows) {
-    for (std::int16_t id = 0; id < kTotalsRow; ++id) add({.buttonId = id}, Cell(row, kPageColumns[id]));
+    for (std::int16_t id = 0; id < kTotalsRow; ++id) add({.buttonId = id}, RawText(*row, kPageColumns[id]));
   }
   for (const RowRef& row : FirstOfEachName(file.Dimension())) {
-    add({.buttonId = kTotalsRow, .characteristic = Cell(row, u"IOBJNM")}, Cell(row, kTotalsColumn));
+    add({.buttonId = kTotalsRow, .characteristic = RawText(*row, u"IOBJNM")}, RawText(*row, kTotalsColumn));
   }
   return layouts;
 }
 
-bool IsHandedBack(const Snapshot& file, const TableChanges& table, const Change& change) {
-  if (change.kind != ChangeKind::LayoutEmptied) return false;
-  if (table.table != std::string_view("dimension")) return true;
-  for (const RowRef& row : FirstOfEachName(file.Dimension())) {
-    if (row->RowNumber() == change.row) return true;
-  }
-  return false;
+std::set<std::int32_t> RowsWithLayout(const Snapshot& file) {
+  std::set<std::int32_t> numbers;
+  for (const RowRef& row : FirstOfEachName(file.Dimension())) numbers.insert(row->RowNumber());
+  return numbers;
 }
 
 void HandBack(const Layouts& layouts, ORXQueryPrnProp& control) {

@@ -3,9 +3,9 @@
 #include <compare>
 #include <cstdint>
 #include <map>
+#include <set>
 
 #include "control/ORXQueryPrnProp.h"
-#include "host/Changes.h"
 #include "host/window/Snapshot.h"
 
 namespace ORXKMPrintProp::host {
@@ -25,8 +25,8 @@ using Layouts = std::map<LayoutKey, Text>;
 /// gives the first its layout and knows none of the others.
 Layouts LayoutsIn(const Snapshot& file);
 
-/// Whether the emptied layout that is told in a change of that table is one that the host hands back.
-bool IsHandedBack(const Snapshot& file, const TableChanges& table, const Change& change);
+/// The rows of the dimension table, by number, whose layouts these are.
+std::set<std::int32_t> RowsWithLayout(const Snapshot& file);
 
 void HandBack(const Layouts& layouts, ORXQueryPrnProp& control);
 

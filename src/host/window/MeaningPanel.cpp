@@ -46,8 +46,7 @@ QTableView* MakeTable(ComparedModel* model, QWidget* parent) {
 
 }  // namespace
 
-MeaningPanel::MeaningPanel(std::function<void()> refresh, QWidget* parent)
-    : QWidget(parent), state_(new QLabel(this)) {
+MeaningPanel::MeaningPanel(std::function<void()> refresh, QWidget* parent) : QWidget(parent), state_(new QLabel(this)) {
   auto* const button = new QPushButton(QStringLiteral("&Refresh"), this);
   button->setObjectName(QStringLiteral("refresh"));
   button->setToolTip(QStringLiteral("Reads the settings back"));

@@ -3,62 +3,17 @@
 #include <algorithm>
 #include <cstdint>
 #include <cstdlib>
-#include <map>
 #include <optional>
 #include <set>
 #include <utility>
 
-#include "host/Terminal.h"
+#include "host/PrintRows.h"
 #include "tables/CellCodecs.h"
-#include "tables/Conversions.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
 
 using namespace ModPrnGen;
-
-Text Raw(const Row& row, TextView column) { return ToText(row.Value(column)); }
-Text Shown(const Row& row, TextView column) { return OneLine(Raw(row, column)); }
-bool Flag(const Row& row, TextView column) { return FlagFromCell(Raw(row, column)); }
-int Number(const Row& row, TextView column) { return ToInteger(row.Value(column)); }
-Text Digits(int number) { return ToText(std::int32_t{number}); }
-
-/// The first of them that says something.
-Text OneOf(const Row& row, std::initializer_list<TextView> columns) {
-  for (const TextView column : columns) {
-    if (Text text = Shown(row, column); !text.empty()) return text;
-  }
-  return {};
-}
-
-using Rows = std::vector<RowRef>;
-
-void SortByPosition(Rows& rows) {
-  std::stable_sort(rows.begin(), rows.end(),
-                   [](const RowRef& a, const RowRef& b) { return Number(*a, u"POSIT") < Number(*b, u"POSIT"); });
-}
-
-/// What prints of each owner, by its name.
-class PrintedRows {
- public:
-  explicit PrintedRows(const TableSnapshot& table) {
-    for (const RowRef& row : table.rows) byOwner_[Raw(*row, u"IOBJNM")].push_back(row);
-  }
-
-  /// @param sharers how many owners have that name: each has brought a copy of the rows.
-  Rows Of(const Text& owner, std::size_t sharers = 1) const {
-    const auto found = byOwner_.find(owner);
-    if (found == byOwner_.end()) return {};
-    Rows rows(found->second.begin(),
-              found->second.begin() + static_cast<std::ptrdiff_t>(found->second.size() / sharers));
-    std::erase_if(rows, [](const RowRef& row) { return Flag(*row, u"HIDDEN"); });
-    SortByPosition(rows);
-    return rows;
-  }
-
- private:
-  std::map<Text, Rows> byOwner_;
-};
 
 /// Where a column has its made-up content from.
 struct Source {
@@ -88,47 +43,39 @@ class Sketcher {
 
  private:
   void Page() {
-    sketch_.title = Shown(general_, u"TITLE");
+    sketch_.title = LineText(general_, u"TITLE");
     sketch_.margins = {Number(general_, u"MARGIN_TOP"), Number(general_, u"MARGIN_BOTTOM"),
                        Number(general_, u"MARGIN_LEFT"), Number(general_, u"MARGIN_RIGHT")};
     sketch_.colored = Flag(general_, u"USE_COLORS");
     sketch_.ruled = !Flag(general_, u"NO_LINES");
-    const Text pages = Shown(general_, u"MAX_PAGES");
-    if (pages != u"0") sketch_.notes.push_back(u"At most " + pages + (pages == u"1" ? u" page" : u" pages"));
-    const bool isAcross = DirectionFromCell(Raw(general_, u"PRINT_DIRECTION")) == PP_PRN_DIR_HORIZONTAL;
+    if (const Text limit = PageLimit(general_); !limit.empty()) sketch_.notes.push_back(u"At most " + limit);
+    const bool isAcross = DirectionFromCell(RawText(general_, u"PRINT_DIRECTION")) == PP_PRN_DIR_HORIZONTAL;
     sketch_.notes.push_back(isAcross ? u"Pages in horizontal order" : u"Pages in vertical order");
   }
 
   void Columns() {
+    Rows characteristics;
     Rows structures;
-    std::map<Text, std::size_t> sharers;
     for (const RowRef& row : tables_.Dimension().rows) {
-      if (Shown(*row, u"IS_STRUCTURE") == u"X") {
-        structures.push_back(row);
-        continue;
-      }
-      ++sharers[Raw(*row, u"IOBJNM")];
-      if (AxisFromCell(Raw(*row, u"AXIS"))) levels_.push_back(row);
+      (IsStructure(*row) ? structures : characteristics).push_back(row);
     }
-    SortByPosition(levels_);
-
-    const PrintedRows attributes(tables_.Attribute());
-    for (std::size_t level = 0; level < levels_.size(); ++level) {
-      const Row& row = *levels_[level];
-      AddTextColumns(row, {.level = level, .name = OneOf(row, {u"IOBJTXT", u"IOBJNM"})});
-      const Text name = Raw(row, u"IOBJNM");
-      for (const RowRef& attribute : attributes.Of(name, sharers[name])) {
+    SortByPosition(characteristics);
+    for (const Owner& owner : OwnersOf(characteristics, tables_.Attribute().rows)) {
+      if (!IsPrinted(*owner.row)) continue;
+      const std::size_t level = levels_.size();
+      levels_.push_back(owner.row);
+      AddTextColumns(*owner.row, {.level = level, .name = FirstText(*owner.row, {u"IOBJTXT", u"IOBJNM"})});
+      for (const RowRef& attribute : owner.printed) {
         AddTextColumns(*attribute,
-                       {.level = level, .isAttribute = true, .name = OneOf(*attribute, {u"ATTRITXT", u"ATTRINM"})});
+                       {.level = level, .isAttribute = true, .name = FirstText(*attribute, {u"ATTRITXT", u"ATTRINM"})});
       }
     }
 
-    const PrintedRows members(tables_.Member());
     std::size_t element = 0;
-    for (const RowRef& structure : structures) {
-      for (const RowRef& row : members.Of(Raw(*structure, u"IOBJNM"))) {
-        SketchColumn column{.title = OneOf(*row, {u"PR_COL1_HEADER", u"CHAVLTXT", u"CHAVL"}),
-                            .what = OneOf(*structure, {u"IOBJTXT", u"IOBJNM"})};
+    for (const Owner& structure : OwnersOf(structures, tables_.Member().rows)) {
+      for (const RowRef& row : structure.printed) {
+        SketchColumn column{.title = FirstText(*row, {u"PR_COL1_HEADER", u"CHAVLTXT", u"CHAVL"}),
+                            .what = FirstText(*structure.row, {u"IOBJTXT", u"IOBJNM"})};
         Place(*row, u"PR_COL1_WIDTH", u"PR_COL1_ALIGN", column);
         column.isNumber = true;
         if (CurrencyPosition() == PP_PRN_CUPOS_HEAD) column.title += u" (EUR)";
@@ -139,16 +86,15 @@ class Sketcher {
 
   static void Place(const Row& row, TextView width, TextView align, SketchColumn& column) {
     column.width = Flag(row, u"PR_AUTO_WIDTH") ? 0 : std::max(Number(row, width), 0);
-    column.align = AlignFromCell(Raw(row, align));
+    column.align = AlignFromCell(RawText(row, align));
   }
 
   void AddTextColumns(const Row& row, Source source) {
-    const auto presentation = PresentationFromCell(Raw(row, u"IOBJPRSNT"));
-    const bool keyFirst = presentation == PP_VALP_KEY || presentation == PP_VALP_KEYTEXT;
-    const bool both = presentation == PP_VALP_KEYTEXT || presentation == PP_VALP_TEXTKEY;
+    const auto [keyFirst, both] = PresentationOf(row);
     const auto add = [&](bool isKey, TextView title, TextView width, TextView align, TextView fix) {
-      SketchColumn column{
-          .title = Shown(row, title), .what = isKey ? Text(u"key") : Text(u"description"), .everyPage = Flag(row, fix)};
+      SketchColumn column{.title = LineText(row, title),
+                          .what = isKey ? Text(u"key") : Text(u"description"),
+                          .everyPage = Flag(row, fix)};
       if (column.title.empty()) column.title = source.name;
       Place(row, width, align, column);
       source.isKey = isKey;
@@ -170,7 +116,7 @@ class Sketcher {
     sources_.push_back(std::move(source));
   }
 
-  PP_CurUnitPosition CurrencyPosition() const { return CurUnitPositionFromCell(Raw(general_, u"CURUNITPOSITION")); }
+  PP_CurUnitPosition CurrencyPosition() const { return CurUnitPositionFromCell(RawText(general_, u"CURUNITPOSITION")); }
 
   /// Enough rows for the break of every characteristic that has one to be seen, and the totals that it closes.
   void Lines() {
@@ -199,7 +145,7 @@ class Sketcher {
       rows_.push_back(std::move(next));
     }
 
-    const bool totalsFirst = SumPositFromCell(Raw(general_, u"SUMPOSIT")) == PP_PRN_SUM_TOPLEFT;
+    const bool totalsFirst = SumPositFromCell(RawText(general_, u"SUMPOSIT")) == PP_PRN_SUM_TOPLEFT;
     if (totalsFirst) AddOverall();
     for (std::size_t row = 0; row < rows_.size(); ++row) {
       const std::size_t changed = rows_[row].changed;
@@ -271,7 +217,7 @@ class Sketcher {
     std::vector<std::size_t> levels(breaking.lower_bound(changed), breaking.end());
     if (!begin) std::reverse(levels.begin(), levels.end());
     for (const std::size_t level : levels) {
-      const auto noSums = NoSumsFromCell(Raw(*levels_[level], u"NOSUMS"));
+      const auto noSums = NoSumsFromCell(RawText(*levels_[level], u"NOSUMS"));
       if (noSums == PP_PRN_NOSUMS_ALWAYS) continue;
       std::size_t first = row;
       std::size_t last = row;
@@ -316,7 +262,7 @@ class Sketcher {
     Text text = Digits(std::abs(number));
     if (text.size() > 3) text.insert(text.size() - 3, 1, u',');
     if (number < 0) {
-      switch (SignPrsntFromCell(Raw(general_, u"SIGNPRSNT"))) {
+      switch (SignPrsntFromCell(RawText(general_, u"SIGNPRSNT"))) {
         case PP_PRN_SIGN_PREFIX:
           text = u"-" + text;
           break;
