@@ -62,6 +62,22 @@ fs::path FollowLinks(const std::string& file) {
   return path;
 }
 
+/// What stands at the end of the links.
+struct Target {
+  /// @throws DocumentError when it can't be looked at, or is protected.
+  explicit Target(const std::string& file) : path(FollowLinks(file)), isThere(::stat(path.c_str(), &old) == 0) {
+    if (!isThere && errno != ENOENT) Fail(file, errno);
+    // A new file could take the place of one that is protected against writing, which is not what its owner wants.
+    if (isThere && ::access(path.c_str(), W_OK) != 0) Fail(file, errno);
+  }
+
+  bool IsRegularOrNew() const { return !isThere || S_ISREG(old.st_mode); }
+
+  fs::path path;
+  struct stat old {};
+  bool isThere;
+};
+
 /// A file that goes away with this object unless it has been moved to its place.
 class TemporaryFile {
  public:
@@ -120,30 +136,38 @@ std::string ReadFile(const std::string& path) {
   }
 }
 
-void ReplaceFile(const std::string& path, std::string_view content) {
-  const fs::path target = FollowLinks(path);
-  struct stat old {};
-  const bool isThere = ::stat(target.c_str(), &old) == 0;
-  if (!isThere && errno != ENOENT) Fail(path, errno);
+FileStamp StampOf(const std::string& path) {
+  struct stat file {};
+  if (::stat(path.c_str(), &file) != 0) return {};
+  constexpr std::int64_t kPerSecond = 1'000'000'000;
+  return {.time = file.st_mtim.tv_sec * kPerSecond + file.st_mtim.tv_nsec, .size = file.st_size};
+}
 
-  if (isThere && !S_ISREG(old.st_mode)) {
-    Descriptor device(::open(target.c_str(), O_WRONLY | O_CLOEXEC));
+void CheckReplaceable(const std::string& path) {
+  const Target target(path);
+  if (S_ISDIR(target.old.st_mode)) Fail(path, EISDIR);
+  const fs::path folder = target.path.has_parent_path() ? target.path.parent_path() : ".";
+  if (target.IsRegularOrNew() && ::access(folder.c_str(), W_OK | X_OK) != 0) Fail(path, errno);
+}
+
+void ReplaceFile(const std::string& path, std::string_view content) {
+  const Target target(path);
+  if (!target.IsRegularOrNew()) {
+    Descriptor device(::open(target.path.c_str(), O_WRONLY | O_CLOEXEC));
     if (!device.IsOpen() || !Write(device.Number(), content) || device.Close() != 0) Fail(path, errno);
     return;
   }
-  // A new file could take the place of one that is protected against writing, which is not what its owner wants.
-  if (isThere && ::access(target.c_str(), W_OK) != 0) Fail(path, errno);
 
   // What others may not read in the old file they must not see in the new one before it has the old permissions.
-  TemporaryFile temporary(target.parent_path(), isThere ? 0600 : 0666);
+  TemporaryFile temporary(target.path.parent_path(), target.isThere ? 0600 : 0666);
   Descriptor& file = temporary.File();
   if (!file.IsOpen() || !Write(file.Number(), content)) Fail(path, errno);
-  if (isThere) {
+  if (target.isThere) {
     // Only the superuser may give a file away; without that it belongs to whoever writes it.
-    if (::fchown(file.Number(), old.st_uid, old.st_gid) != 0 && errno != EPERM) Fail(path, errno);
-    if (::fchmod(file.Number(), old.st_mode & 07777) != 0) Fail(path, errno);
+    if (::fchown(file.Number(), target.old.st_uid, target.old.st_gid) != 0 && errno != EPERM) Fail(path, errno);
+    if (::fchmod(file.Number(), target.old.st_mode & 07777) != 0) Fail(path, errno);
   }
-  if (::fsync(file.Number()) != 0 || file.Close() != 0 || !temporary.MoveTo(target)) Fail(path, errno);
+  if (::fsync(file.Number()) != 0 || file.Close() != 0 || !temporary.MoveTo(target.path)) Fail(path, errno);
 }
 
 }  // namespace ORXKMPrintProp::host

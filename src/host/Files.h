@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,19 @@ std::string InputName(const std::string& path);
 
 /// The whole file, or all of standard input. @throws DocumentError (file and reason)
 std::string ReadFile(const std::string& path);
+
+/// Tells one state of a file from another: when it was written last, and its size. A file that is not there has none.
+struct FileStamp {
+  std::int64_t time = 0;  ///< nanoseconds
+  std::int64_t size = -1;
+
+  bool operator==(const FileStamp&) const = default;
+};
+FileStamp StampOf(const std::string& path);
+
+/// Tells ahead of any work whether `ReplaceFile` has a chance: the folder must be there and take files, or the file be
+/// one that can be written. @throws DocumentError (file and reason)
+void CheckReplaceable(const std::string& path);
 
 /// Puts the content in the place of the file in one step, or makes the file. A file that is there keeps its
 /// permissions and, where the system lets it, its owner; a symbolic link stays, and what it points to is replaced.

@@ -83,7 +83,7 @@ int Run(int argc, char** argv) {
     if (editOptions.out.value_or(editOptions.file) == kStandardStream) {
       throw CLI::ValidationError("-o OUT is needed, with the name of a file to save to");
     }
-    status = Edit(editOptions, std::cerr);
+    status = Edit(editOptions);
   });
 
   ShotOptions shotOptions;

@@ -59,6 +59,7 @@ Net value: Figures right 0 #
 At most 20 pages
 Pages in vertical order
 Columns with a thick line are on each page
+Totals on condition of: Customer
 )");
 }
 
@@ -99,6 +100,8 @@ X (EUR): S right 5 #
 |B20|A10|A10|615|(1,980)|47
 |||B20|2,400|1,250|(340)
 Pages in horizontal order
+No totals of: MIDDLE
+Totals on condition of: OUTER
 )");
 }
 

@@ -6,6 +6,7 @@
 
 #include "host/Terminal.h"
 #include "views/qt/QtText.h"
+#include "views/qt/WidgetView.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
@@ -48,8 +49,8 @@ QVariant ComparedModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::ForegroundRole) return QBrush(kMarkedInk);
   if (isGone) return QStringLiteral("The row does not come back");
   const QString file = qt::ToQString(OneLine(cell.file));
-  return (file.trimmed().isEmpty() ? QStringLiteral("Empty in the file") : QStringLiteral("In the file: ") + file)
-      .toHtmlEscaped();
+  return qt::ToolTipOf(file.trimmed().isEmpty() ? QStringLiteral("Empty in the file")
+                                                : QStringLiteral("In the file: ") + file);
 }
 
 QVariant ComparedModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -1,6 +1,11 @@
 #include "host/window/Display.h"
 
 #include <QByteArray>
+#include <QtGlobal>
+#include <cstdio>
+#include <cstdlib>
+
+#include "host/ExitStatus.h"
 
 namespace ORXKMPrintProp::host {
 
@@ -11,8 +16,23 @@ bool HasDisplay() {
   return false;
 }
 
-void DrawInMemoryWithoutDisplay() {
-  if (!HasDisplay()) qputenv("QT_QPA_PLATFORM", "offscreen");
+void DrawInMemory() {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+void TakeQtMessages(bool warn) {
+  static bool warns = false;
+  static QtMessageHandler former = nullptr;
+  const auto handler = [](QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (type == QtFatalMsg) {
+      std::fputs("prnprop: the display can't be used\n", stderr);
+      std::_Exit(kLoss);
+    }
+    if (warns || type == QtCriticalMsg) former(type, context, message);
+  };
+  warns = warn;
+  const QtMessageHandler replaced = qInstallMessageHandler(handler);
+  if (!former) former = replaced;
 }
 
 }  // namespace ORXKMPrintProp::host

@@ -5,7 +5,12 @@ namespace ORXKMPrintProp::host {
 /// Whether there is something to open windows on: a display, or a platform that the user has named.
 bool HasDisplay();
 
-/// Where there is no display, what is drawn from now on is drawn in memory.
-void DrawInMemoryWithoutDisplay();
+/// Makes Qt draw in memory, unless the user has named a platform.
+void DrawInMemory();
+
+/// Takes over what Qt says. Where it can't use the display it ends the program, which is then told like any failure,
+/// with the status `kLoss`.
+/// @param warn its warnings about the desktop still go to standard error.
+void TakeQtMessages(bool warn);
 
 }  // namespace ORXKMPrintProp::host

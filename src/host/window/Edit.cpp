@@ -1,13 +1,17 @@
 #include "host/window/Edit.h"
 
+#include <unistd.h>
+
 #include <QApplication>
 #include <QIcon>
 #include <QMessageBox>
+#include <QScreen>
 #include <QTimer>
+#include <exception>
 #include <memory>
-#include <ostream>
+#include <utility>
 
-#include "host/ExitStatus.h"
+#include "host/Files.h"
 #include "host/Load.h"
 #include "host/window/Display.h"
 #include "host/window/EditedSettings.h"
@@ -17,14 +21,27 @@
 
 namespace ORXKMPrintProp::host {
 
-int Edit(const EditOptions& options, std::ostream& err) {
+namespace {
+
+/// To somebody who has started the program from the desktop and sees no standard error.
+void Tell(const char* words) {
+  QMessageBox box(QMessageBox::Critical, QStringLiteral("Print settings"), QString::fromUtf8(words));
+  box.setTextFormat(Qt::PlainText);
+  box.exec();
+}
+
+std::unique_ptr<EditedSettings> Load(const EditOptions& options, qt::QtFontPlatform& platform) {
+  if (!options.readOnly || options.out) CheckReplaceable(options.out.value_or(options.file));
   SettingsDocument document = ReadSettings(options.file);
   const MemoryTableRef texts = options.texts ? ReadSettings(*options.texts).texts : document.texts;
-  if (!HasDisplay()) {
-    err << "prnprop: there is no display to open a window on\n";
-    return kLoss;
-  }
+  return std::make_unique<EditedSettings>(std::move(document), options, texts, platform);
+}
 
+}  // namespace
+
+int Edit(const EditOptions& options) {
+  if (!HasDisplay()) throw LoadError("there is no display to open a window on");
+  TakeQtMessages(true);
   int argc = 1;
   char name[] = "prnprop";
   char* argv[] = {name, nullptr};
@@ -33,20 +50,18 @@ int Edit(const EditOptions& options, std::ostream& err) {
   qt::QtFontPlatform platform;
   std::unique_ptr<EditedSettings> settings;
   try {
-    settings = std::make_unique<EditedSettings>(std::move(document), options, texts, platform);
-  } catch (const LoadError& error) {
-    err << "prnprop: " << error.what() << std::endl;
-    QMessageBox box(QMessageBox::Critical, QStringLiteral("Print settings"), QString::fromStdString(error.what()));
-    box.setTextFormat(Qt::PlainText);
-    box.exec();
-    return kLoss;
+    settings = Load(options, platform);
+  } catch (const std::exception& error) {
+    const bool isSeen = ::isatty(STDERR_FILENO) != 0 || QGuiApplication::platformName() == QStringLiteral("offscreen");
+    if (!isSeen) Tell(error.what());
+    throw;
   }
   SettingsWindow window(*settings);
+  window.FitInto(window.screen()->availableSize());
   if (qEnvironmentVariableIsSet("PRNPROP_EXIT_AFTER_FIRST_PAINT")) new ExitAfterFirstPaint(window);
   window.show();
   QTimer::singleShot(0, [] { QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("prnprop"))); });
-  QApplication::exec();
-  return kSuccess;
+  return QApplication::exec();
 }
 
 }  // namespace ORXKMPrintProp::host

@@ -1,15 +1,14 @@
 #pragma once
 
-#include <iosfwd>
-
 namespace ORXKMPrintProp::host {
 
 struct EditOptions;
 
-/// Opens the document in a window, and ends when the user closes it.
-/// @param err gets a line when there is no display, or when the document does not load, which a message box tells too.
-/// @return 0, or 1 in these cases.
-/// @throws DocumentError before there is a window.
-int Edit(const EditOptions& options, std::ostream& err);
+/// Opens the document in a window, and ends when the user closes it. Where nobody sees standard error, a message box
+/// tells first what is thrown here.
+/// @return 0
+/// @throws DocumentError for a document that can't be read, or could not be saved; LoadError for one that does not
+/// load, and where there is no display.
+int Edit(const EditOptions& options);
 
 }  // namespace ORXKMPrintProp::host

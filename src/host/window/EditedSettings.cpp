@@ -26,6 +26,7 @@ EditedSettings::EditedSettings(SettingsDocument document, const EditOptions& opt
     : document_(std::move(document)),
       target_(options.out.value_or(options.file)),
       targetIsBehind_(options.out && *options.out != options.file),
+      targetStamp_(StampOf(target_)),
       file_(SnapshotOf(document_)),
       control_(platform),
       layouts_(LayoutsIn(file_)) {
@@ -40,8 +41,7 @@ EditedSettings::EditedSettings(SettingsDocument document, const EditOptions& opt
   } catch (const RunTimeError& error) {
     Fail(document_, error.Message());
   }
-  saved_ = now_;
-  isChanged_ = false;
+  SetUnchanged();
 }
 
 void EditedSettings::Load() {
@@ -69,14 +69,21 @@ void EditedSettings::Read() {
   // Any of the four reads rewrites all tables.
   control_.ORXGenPropTable();
   now_ = SnapshotOf(document_);
-  isChanged_ = !IsSame(now_, saved_);
+  isChanged_ = !IsReadOnly() && !IsSame(now_, saved_);
+}
+
+void EditedSettings::SetUnchanged() {
+  saved_ = now_;
+  isChanged_ = false;
 }
 
 void EditedSettings::Save() {
   Read();
   ReplaceFile(target_, ToJson(document_));
-  file_ = saved_ = now_;
-  isChanged_ = targetIsBehind_ = false;
+  targetStamp_ = StampOf(target_);
+  file_ = now_;
+  SetUnchanged();
+  targetIsBehind_ = false;
   losses_.clear();
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "control/ORXQueryPrnProp.h"
+#include "host/Files.h"
 #include "host/SettingsDocument.h"
 #include "host/window/Layouts.h"
 #include "host/window/Snapshot.h"
@@ -42,10 +43,16 @@ class EditedSettings {
 
   /// Reads the tables, which commits the page on top. @throws RunTimeError
   void Read();
-  /// Whether the last read gave something else than the first one after the load, or than the last save.
+  /// Whether the last read gave something else than the last one that counts as unchanged. Nobody changes settings
+  /// that are read only.
   bool IsChanged() const { return isChanged_; }
+  /// Takes what was read last as unchanged: so it is after a load, after a save, and where the user has done nothing
+  /// but look, since a page that is committed gets its numbers and codes as the control writes them.
+  void SetUnchanged();
   /// Whether a save would write something that the target does not hold yet.
   bool IsToBeSaved() const { return isChanged_ || targetIsBehind_; }
+  /// Whether somebody else has written the target since it was loaded, or was saved last.
+  bool IsTargetOvertaken() const { return StampOf(target_) != targetStamp_; }
 
   /// Reads the tables and replaces the target. @throws RunTimeError, DocumentError; the target is untouched then.
   void Save();
@@ -61,6 +68,7 @@ class EditedSettings {
   SettingsDocument document_;
   std::string target_;
   bool targetIsBehind_;
+  FileStamp targetStamp_;
   Snapshot file_;
   ORXQueryPrnProp control_;
   Layouts layouts_;

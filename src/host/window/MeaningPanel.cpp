@@ -5,9 +5,11 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
 #include <QVBoxLayout>
+#include <exception>
 #include <utility>
 
 #include "host/window/ComparedModel.h"
@@ -39,6 +41,8 @@ QTableView* MakeTable(ComparedModel* model, QWidget* parent) {
   view->setWordWrap(false);
   constexpr int kMeasuredRows = 50;
   view->horizontalHeader()->setResizeContentsPrecision(kMeasuredRows);
+  constexpr int kMostWidth = 300;
+  view->horizontalHeader()->setMaximumSectionSize(kMostWidth);
   view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() + 6);
   return view;
@@ -46,17 +50,17 @@ QTableView* MakeTable(ComparedModel* model, QWidget* parent) {
 
 }  // namespace
 
-MeaningPanel::MeaningPanel(std::function<void()> refresh, QWidget* parent) : QWidget(parent), state_(new QLabel(this)) {
-  auto* const button = new QPushButton(QStringLiteral("&Refresh"), this);
-  button->setObjectName(QStringLiteral("refresh"));
-  button->setToolTip(QStringLiteral("Reads the settings back"));
-  connect(button, &QPushButton::clicked, this, std::move(refresh));
+MeaningPanel::MeaningPanel(std::function<void()> refresh, QWidget* parent)
+    : QWidget(parent), state_(new QLabel(this)), refresh_(new QPushButton(QStringLiteral("&Refresh"), this)) {
+  refresh_->setObjectName(QStringLiteral("refresh"));
+  refresh_->setToolTip(QStringLiteral("Reads the settings back"));
+  connect(refresh_, &QPushButton::clicked, this, std::move(refresh));
   state_->setObjectName(QStringLiteral("state"));
   state_->setWordWrap(true);
 
   auto* const top = new QHBoxLayout;
   top->addWidget(state_, 1);
-  top->addWidget(button);
+  top->addWidget(refresh_);
   auto* const column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->addLayout(top);
@@ -80,6 +84,11 @@ void MeaningPanel::MakeTabs() {
   isFilled_.assign(models_.size() + 1, false);
   connect(tabs_, &QTabWidget::currentChanged, this, [this] { FillFront(); });
   static_cast<QBoxLayout&>(*layout()).insertWidget(1, tabs_, 1);
+  // What is made late comes last otherwise.
+  QWidget* last = refresh_;
+  const auto isNext = [&](QWidget* widget) { setTabOrder(std::exchange(last, widget), widget); };
+  isNext(tabs_->findChild<QTabBar*>());
+  for (int tab = 0; tab < tabs_->count(); ++tab) isNext(tabs_->widget(tab));
 }
 
 void MeaningPanel::Show(const Snapshot& file, const Snapshot& now) {
@@ -118,6 +127,14 @@ void MeaningPanel::FillFront() {
   const auto tab = static_cast<std::size_t>(tabs_->currentIndex());
   if (isFilled_[tab]) return;
   isFilled_[tab] = true;
+  try {
+    Fill(tab);
+  } catch (const std::exception& error) {
+    state_->setText(QString::fromUtf8(error.what()).toHtmlEscaped());
+  }
+}
+
+void MeaningPanel::Fill(std::size_t tab) {
   if (tab == 0) {
     sketch_->Show(SketchOf(now_));
     return;

@@ -35,8 +35,10 @@ class MeaningPanel : public QWidget {
   void MakeTabs();
   /// What can't be seen is computed when it comes to the front.
   void FillFront();
+  void Fill(std::size_t tab);
 
   QLabel* state_;
+  QPushButton* refresh_;
   QTabWidget* tabs_ = nullptr;  ///< none until the panel has been seen
   PageSketchView* sketch_ = nullptr;
   std::vector<ComparedModel*> models_;

@@ -15,6 +15,9 @@ namespace {
 
 using namespace ModPrnGen;
 
+/// The dialog sets no more; a document may, and each brings lines of its own.
+constexpr std::size_t kMostBreaks = 3;
+
 /// Where a column has its made-up content from.
 struct Source {
   std::size_t level = 0;  ///< the characteristic, or of a number the element, counted from 0
@@ -37,6 +40,8 @@ class Sketcher {
     Page();
     Columns();
     NoteEveryPage();
+    NoteSums(PP_PRN_NOSUMS_ALWAYS, u"No totals of: ");
+    NoteSums(PP_PRN_NOSUMS_CONDITION, u"Totals on condition of: ");
     Lines();
     return std::move(sketch_);
   }
@@ -111,6 +116,16 @@ class Sketcher {
     }
   }
 
+  /// The lines show the totals of a few characteristics only.
+  void NoteSums(PP_NoSums noSums, TextView words) {
+    Text names;
+    for (const RowRef& row : levels_) {
+      if (NoSumsFromCell(RawText(*row, u"NOSUMS")) != noSums) continue;
+      names += (names.empty() ? u"" : u"; ") + FirstText(*row, {u"IOBJTXT", u"IOBJNM"});
+    }
+    if (!names.empty()) sketch_.notes.push_back(Text(words) + names);
+  }
+
   void Add(SketchColumn column, Source source) {
     sketch_.columns.push_back(std::move(column));
     sources_.push_back(std::move(source));
@@ -124,7 +139,12 @@ class Sketcher {
     const std::size_t count = levels_.size();
     std::set<std::size_t> breaking;
     for (std::size_t level = 0; level + 1 < count; ++level) {
-      if (BreakBy(level)) breaking.insert(level);
+      if (!BreakBy(level)) continue;
+      if (breaking.size() == kMostBreaks) {
+        sketch_.notes.push_back(u"There are more breaks than these");
+        break;
+      }
+      breaking.insert(level);
     }
     if (breaking.empty() && count > 1) breaking.insert(0);
 

@@ -70,11 +70,11 @@ void PageSketchView::Measure() {
         }
       }
     }
-    widths_.push_back(width + kGap);
+    // An advance is rounded down, and what is a part of a pixel too long is cut.
+    widths_.push_back(width + kGap + 1);
   }
   const auto margin = [&](std::size_t side) { return std::clamp(sketch_.margins[side], 0, kMostMargin); };
-  const int width = std::max({std::accumulate(widths_.begin(), widths_.end(), 0), kLeastWidth,
-                              bold.horizontalAdvance(ToQString(sketch_.title))});
+  const int width = std::max(std::accumulate(widths_.begin(), widths_.end(), 0), kLeastWidth);
   const auto lines = static_cast<int>(sketch_.lines.size() + 4 + sketch_.notes.size());
   measures_.body = QRect(kGap + margin(2), kGap + margin(0), width + 1, lines * measures_.lineHeight);
   measures_.paper = measures_.body.adjusted(-margin(2), -margin(0), margin(3), margin(1));
@@ -93,8 +93,11 @@ void PageSketchView::paintEvent(QPaintEvent*) {
   int top = body.top();
   painter.setPen(kInk);
   painter.setFont(Bold(font()));
-  painter.drawText(QRect(body.left(), top, body.width(), step), Qt::AlignLeft | Qt::AlignVCenter,
-                   ToQString(sketch_.title));
+  const auto paintLine = [&](const Text& text) {
+    painter.drawText(QRect(body.left(), top, body.width(), step), Qt::AlignLeft | Qt::AlignVCenter,
+                     painter.fontMetrics().elidedText(ToQString(text), Qt::ElideRight, body.width()));
+  };
+  paintLine(sketch_.title);
   top += step + step / 2;
   PaintHeading(painter, top);
   top += 2 * step;
@@ -110,7 +113,7 @@ void PageSketchView::paintEvent(QPaintEvent*) {
   painter.setFont(Small(font()));
   painter.setPen(kFaint);
   for (const Text& note : sketch_.notes) {
-    painter.drawText(QRect(body.left(), top, body.width(), step), Qt::AlignLeft | Qt::AlignVCenter, ToQString(note));
+    paintLine(note);
     top += step;
   }
 }

@@ -7,13 +7,17 @@
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QShortcut>
 #include <QTabBar>
 #include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
 
 #include "host/DocumentError.h"
 #include "host/window/EditedSettings.h"
@@ -33,8 +37,9 @@ QMessageBox::StandardButton Ask(QWidget* window, QMessageBox::Icon icon, const Q
                                 QMessageBox::StandardButtons buttons, QMessageBox::StandardButton first,
                                 const QString& details = {}) {
   QMessageBox box(icon, QStringLiteral("Print settings"), text, buttons, window);
-  box.setTextFormat(Qt::PlainText);
   box.setInformativeText(more);
+  // The box has no say over the format of that one.
+  for (auto* const label : box.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
   if (!details.isEmpty()) box.setDetailedText(details);
   box.setDefaultButton(first);
   return static_cast<QMessageBox::StandardButton>(box.exec());
@@ -51,7 +56,7 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
   setWindowTitle(file + QStringLiteral("[*]") + (settings.IsReadOnly() ? QStringLiteral(" (read-only)") : QString()) +
                  QStringLiteral(" - Print settings"));
   auto* const across = new QHBoxLayout;
-  across->addWidget(view_, 0, Qt::AlignTop);
+  across->addWidget(view_, 0, Qt::AlignTop | Qt::AlignLeft);
   across->addWidget(panel_, 1);
   auto* const down = new QVBoxLayout(this);
   down->addLayout(across, 1);
@@ -68,23 +73,24 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
   WatchInput();
   panel_->Show(settings_.File(), settings_.Now());
   ShowState();
-  resize(sizeHint().expandedTo(QSize(view_->width() * 9 / 5, 0)));
+  unfoldedWidth_ = view_->width() * 9 / 5;
+  resize(sizeHint().expandedTo(QSize(unfoldedWidth_, 0)));
+}
+
+void SettingsWindow::FitInto(const QSize& room) {
+  room_ = room;
+  if (minimumSizeHint().width() > room.width()) preview_->setChecked(false);
+  resize(size().boundedTo(room));
 }
 
 QWidget* SettingsWindow::MakeButtons() {
   auto* const bar = new QWidget(this);
-  auto* const preview = new QPushButton(QStringLiteral("&Preview"), bar);
-  preview->setObjectName(QStringLiteral("preview"));
-  preview->setCheckable(true);
-  preview->setChecked(true);
-  preview->setToolTip(QStringLiteral("Shows beside the dialog what the settings mean"));
-  connect(preview, &QPushButton::toggled, this, [this](bool on) {
-    const int room = panel_->width() + layout()->spacing();
-    const int wanted = width() + (on ? room : -room);
-    panel_->setVisible(on);
-    layout()->activate();
-    if (!isMaximized() && !isFullScreen()) resize(wanted, height());
-  });
+  preview_ = new QPushButton(QStringLiteral("&Preview"), bar);
+  preview_->setObjectName(QStringLiteral("preview"));
+  preview_->setCheckable(true);
+  preview_->setChecked(true);
+  preview_->setToolTip(QStringLiteral("Shows beside the dialog what the settings mean"));
+  connect(preview_, &QPushButton::toggled, this, &SettingsWindow::Fold);
 
   auto* const buttons =
       new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, bar);
@@ -94,14 +100,26 @@ QWidget* SettingsWindow::MakeButtons() {
   connect(apply_, &QPushButton::clicked, this, [this] { Save(); });
   new QShortcut(QKeySequence::Save, this, [this] { Save(); });
   new QShortcut(QKeySequence::Refresh, this, [this] { Read(); });
-  new QShortcut(QKeySequence::Cancel, this, [this] { close(); });
+  new QShortcut(QKeySequence::Cancel, this, [this] {
+    // A drag is to come to its end.
+    if (QApplication::mouseButtons() == Qt::NoButton) close();
+  });
 
   auto* const row = new QHBoxLayout(bar);
   row->setContentsMargins(0, 0, 0, 0);
-  row->addWidget(preview);
+  row->addWidget(preview_);
   row->addStretch();
   row->addWidget(buttons);
   return bar;
+}
+
+void SettingsWindow::Fold(bool unfold) {
+  if (!unfold && !isMaximized() && !isFullScreen()) unfoldedWidth_ = width();
+  panel_->setVisible(unfold);
+  layout()->activate();
+  if (isMaximized() || isFullScreen()) return;
+  const int wanted = unfold ? std::max(width(), unfoldedWidth_) : minimumSizeHint().width();
+  resize(std::min(wanted, room_.width()), height());
 }
 
 void SettingsWindow::WatchInput() {
@@ -113,35 +131,53 @@ void SettingsWindow::WatchInput() {
     if (combo->objectName() == QStringLiteral("cmbAttrChar")) continue;
     connect(combo, &QComboBox::activated, this, [this] { MarkEdited(); });
   }
-  for (auto* const button : view_->findChildren<QAbstractButton*>()) {
-    if (button->objectName().startsWith(QStringLiteral("cmdPrintLayout"))) continue;
-    connect(button, &QAbstractButton::clicked, this, [this] { MarkEdited(); });
+  for (auto* const check : view_->findChildren<QCheckBox*>()) {
+    connect(check, &QCheckBox::clicked, this, [this] { MarkEdited(); });
   }
-  for (auto* const list : view_->findChildren<QListView*>()) {
-    if (!list->objectName().startsWith(QStringLiteral("lstPrint"))) continue;
-    list->installEventFilter(this);
-    list->viewport()->installEventFilter(this);
+  for (auto* const widget : view_->findChildren<QWidget*>(QRegularExpression(QStringLiteral("^(lstPrint|cmd.*To)")))) {
+    widget->installEventFilter(this);
+    if (auto* const list = qobject_cast<QListView*>(widget)) list->viewport()->installEventFilter(this);
   }
   for (auto* const tabs : view_->findChildren<QTabBar*>()) {
     connect(tabs, &QTabBar::currentChanged, this, [this] { ReadLater(); });
   }
 }
 
-/// The print order is changed by a drag, or by a key with Alt.
+/// A drag, a key and a button may change what prints, and in which order, or may not.
 bool SettingsWindow::eventFilter(QObject* watched, QEvent* event) {
-  if (!settings_.IsReadOnly()) {
-    if (event->type() == QEvent::MouseMove && static_cast<QMouseEvent*>(event)->buttons() == Qt::LeftButton) {
-      MarkEdited();
-    }
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->modifiers() == Qt::AltModifier) {
-      MarkEdited();
-    }
+  const bool begins = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress;
+  const bool ends = event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyRelease;
+  if (begins) printOrder_ = PrintOrder();
+  if (begins || ends) {
+    const auto compare = [this] {
+      const auto before = std::exchange(printOrder_, PrintOrder());
+      if (before != printOrder_) MarkEdited();
+    };
+    QMetaObject::invokeMethod(this, compare, Qt::QueuedConnection);
   }
   return QWidget::eventFilter(watched, event);
 }
 
+/// What stands in the print lists.
+std::vector<std::int32_t> SettingsWindow::PrintOrder() const {
+  std::vector<std::int32_t> order;
+  for (std::int16_t page = 1; page <= 3; ++page) {
+    const auto& list = settings_.Control().GetDialog().Get<ListBox>(u"lstPrint", page);
+    for (std::int16_t i = 0; i < list.ListCount(); ++i) order.push_back(list.ItemData(i));
+    order.push_back(-1);
+  }
+  return order;
+}
+
+void SettingsWindow::keyPressEvent(QKeyEvent* event) {
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (isEnter && !(event->modifiers() & ~Qt::KeypadModifier)) return Accept();
+  QWidget::keyPressEvent(event);
+}
+
 void SettingsWindow::MarkEdited() {
-  isEdited_ = true;
+  if (settings_.IsReadOnly()) return;
+  isEdited_ = isTouched_ = true;
   ShowState();
 }
 
@@ -153,6 +189,8 @@ bool SettingsWindow::Read() {
     return false;
   }
   isEdited_ = false;
+  printOrder_ = PrintOrder();
+  if (!isTouched_) settings_.SetUnchanged();
   panel_->Show(settings_.File(), settings_.Now());
   ShowState();
   return true;
@@ -182,7 +220,7 @@ void SettingsWindow::Accept() {
 bool SettingsWindow::Save() {
   if (!Read()) return false;
   if (!settings_.IsToBeSaved()) return true;
-  if (!AcceptsLosses()) return false;
+  if (!AcceptsLosses() || !AcceptsOvertaking()) return false;
   try {
     settings_.Save();
   } catch (const DocumentError& error) {
@@ -192,9 +230,17 @@ bool SettingsWindow::Save() {
     Tell(QStringLiteral("The settings could not be saved."), ToQString(error.Message()));
     return false;
   }
+  isTouched_ = false;
   panel_->Show(settings_.File(), settings_.Now());
   ShowState();
   return true;
+}
+
+bool SettingsWindow::AcceptsOvertaking() {
+  if (!settings_.IsTargetOvertaken()) return true;
+  return Ask(this, QMessageBox::Warning, QStringLiteral("The file has changed since it was opened."),
+             QStringLiteral("Replace %1 all the same?").arg(QString::fromStdString(settings_.Target())),
+             QMessageBox::Save | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Save;
 }
 
 bool SettingsWindow::AcceptsLosses() {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QWidget>
+#include <cstdint>
+#include <vector>
 
 class QPushButton;
 
@@ -25,13 +27,20 @@ class SettingsWindow : public QWidget {
   /// @param settings must outlive the window.
   explicit SettingsWindow(EditedSettings& settings, QWidget* parent = nullptr);
 
+  /// Keeps the window within that, also when the panel unfolds; where there is room for the dialog alone, the panel
+  /// folds.
+  void FitInto(const QSize& room);
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   QWidget* MakeButtons();
+  void Fold(bool unfold);
   void WatchInput();
+  std::vector<std::int32_t> PrintOrder() const;
   void MarkEdited();
   /// Reads now, or when the user's action has come to its end. @return whether the tables could be read.
   bool Read();
@@ -42,6 +51,7 @@ class SettingsWindow : public QWidget {
   /// @return whether the target holds the settings now.
   bool Save();
   bool AcceptsLosses();
+  bool AcceptsOvertaking();
   bool MayClose();
   void EditLayoutOf(int buttonId, const QString& characteristic);
   void Tell(const QString& what, const QString& why);
@@ -49,8 +59,13 @@ class SettingsWindow : public QWidget {
   EditedSettings& settings_;
   qt::PrnPropView* view_;
   MeaningPanel* panel_;
+  QPushButton* preview_ = nullptr;
   QPushButton* apply_ = nullptr;
-  bool isEdited_ = false;  ///< by the user, since the last read
+  int unfoldedWidth_ = 0;
+  QSize room_{QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
+  std::vector<std::int32_t> printOrder_;  ///< when an input that could change it began
+  bool isEdited_ = false;                 ///< by the user, since the last read
+  bool isTouched_ = false;                ///< the same since the last save
   bool isDone_ = false;
 };
 

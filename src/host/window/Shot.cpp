@@ -66,7 +66,8 @@ void Shot(const ShotOptions& options, std::ostream& out) {
   SettingsDocument document = ReadSettings(options.file);
   const MemoryTableRef texts = options.texts ? ReadSettings(*options.texts).texts : document.texts;
 
-  DrawInMemoryWithoutDisplay();
+  DrawInMemory();
+  TakeQtMessages(false);
   int argc = 1;
   char name[] = "prnprop";
   char* argv[] = {name, nullptr};
