@@ -76,7 +76,7 @@ void PageSketchView::Measure() {
   const auto margin = [&](std::size_t side) { return std::clamp(sketch_.margins[side], 0, kMostMargin); };
   const int width = std::max(std::accumulate(widths_.begin(), widths_.end(), 0), kLeastWidth);
   const auto lines = static_cast<int>(sketch_.lines.size() + 4 + sketch_.notes.size());
-  measures_.body = QRect(kGap + margin(2), kGap + margin(0), width + 1, lines * measures_.lineHeight);
+  measures_.body = QRect(kGap + margin(2), kGap + margin(0), width + 1, lines * measures_.lineHeight + kThick);
   measures_.paper = measures_.body.adjusted(-margin(2), -margin(0), margin(3), margin(1));
   setFixedSize(measures_.paper.size() + QSize(2 * kGap, 2 * kGap));
 }
@@ -100,7 +100,7 @@ void PageSketchView::paintEvent(QPaintEvent*) {
   paintLine(sketch_.title);
   top += step + step / 2;
   PaintHeading(painter, top);
-  top += 2 * step;
+  top += 2 * step + kThick;
   for (const SketchLine& line : sketch_.lines) {
     if (line.cells.empty()) {
       PaintBreak(painter, line.kind, top);
@@ -123,7 +123,7 @@ void PageSketchView::PaintHeading(QPainter& painter, int top) const {
   int left = measures_.body.left();
   for (std::size_t i = 0; i < sketch_.columns.size(); ++i) {
     const SketchColumn& column = sketch_.columns[i];
-    const QRect box(left, top, widths_[i], 2 * step);
+    const QRect box(left, top, widths_[i], 2 * step + kThick);
     if (sketch_.colored) painter.fillRect(box, kHeading);
     const QRect inner = box.adjusted(kGap / 2, 0, -kGap / 2, 0);
     const auto paint = [&](const QFont& font, const QColor& color, const QString& text, int row) {
