@@ -236,6 +236,7 @@ TEST_F(ViewTest, AHandDoesWhatTheScriptDoes) {
     if (state.contains("widget") && state["widget"] != "ORXQueryPrnProp") byScript += Line(state);
   }
   EXPECT_EQ(byHand, byScript);
+  Play("tstPrint", {{"", "0"}});
 }
 
 TEST_F(ViewTest, TheMouseDragsAndToggles) {
