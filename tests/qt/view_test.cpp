@@ -434,13 +434,13 @@ TEST_F(ViewTest, TheTabKeyGoesFromWidgetToWidgetInTheirOrder) {
 
 TEST_F(ViewTest, AMessageWaitsForItsButton) {
   Load("a b c d e f g h i j -x -y");
-  QTimer::singleShot(100, [&] {
+  Do("click lstAvail(1) 1");
+  QTimer::singleShot(0, [&] {
     auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
     if (!box) return;
     heard += " " + (box->windowTitle() + QStringLiteral(": ") + box->text()).toStdString();
     QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
   });
-  Do("click lstAvail(1) 1");
   Play("cmdLeftToRight(1)", {{"press", " Error: You may only use up to ten print characteristics"}});
   Play("lstAvail(1)", {{"", "x:11 >*y:12"}});
   EXPECT_EQ(dialog.Get<ListBox>(u"lstPrint", 1).ListCount(), 10);

@@ -15,13 +15,13 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <deque>
 #include <functional>
 
 #include "control/SharedValues.h"
 #include "host/Files.h"
 #include "host/Load.h"
 #include "host/window/EditedSettings.h"
-#include "views/qt/PrnPropView.h"
 #include "views/qt/QtFontPlatform.h"
 
 namespace ORXKMPrintProp::host::test {
@@ -33,8 +33,21 @@ class SettingsWindowTest : public testing::Test {
     gPrnProp.reset();
     gTextTable.reset();
     ReplaceFile(file, before);
+    QObject::connect(&timer, &QTimer::timeout, [this] {
+      auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      if (!dialog) return;
+      if (answers.empty()) {
+        ADD_FAILURE() << "a question that was not expected";
+        dialog->reject();
+        return;
+      }
+      const auto answer = answers.front();
+      answers.pop_front();
+      answer(*dialog);
+    });
+    timer.start(5);
   }
-  ~SettingsWindowTest() override { EXPECT_EQ(waiting, 0) << "a question was expected that did not come"; }
+  ~SettingsWindowTest() override { EXPECT_TRUE(answers.empty()) << "a question was expected that did not come"; }
 
   std::string Path(const char* name) const { return folder.filePath(QLatin1String(name)).toStdString(); }
 
@@ -66,22 +79,9 @@ class SettingsWindowTest : public testing::Test {
     return state;
   }
 
-  /// Does that with the dialog or message box that opens next.
-  template <class Box>
-  void Next(std::function<void(Box&)> action) {
-    ++waiting;
-    auto* const timer = new QTimer(window.get());
-    QObject::connect(timer, &QTimer::timeout, [this, timer, action] {
-      auto* const box = dynamic_cast<Box*>(QApplication::activeModalWidget());
-      if (!box) return;
-      timer->stop();
-      --waiting;
-      action(*box);
-    });
-    timer->start(5);
-  }
   void Answer(QMessageBox::StandardButton button, const std::string& question) {
-    Next<QMessageBox>([button, question](QMessageBox& box) {
+    answers.push_back([button, question](QDialog& dialog) {
+      auto& box = dynamic_cast<QMessageBox&>(dialog);
       EXPECT_EQ((box.text() + u'\n' + box.informativeText()).toStdString(), question);
       QTest::mouseClick(box.button(button), Qt::LeftButton);
     });
@@ -94,7 +94,9 @@ class SettingsWindowTest : public testing::Test {
   qt::QtFontPlatform platform;
   std::unique_ptr<EditedSettings> settings;
   std::unique_ptr<SettingsWindow> window;
-  int waiting = 0;
+  /// What is done with the dialogs and message boxes that open, one after the other.
+  std::deque<std::function<void(QDialog&)>> answers;
+  QTimer timer;
 };
 
 TEST_F(SettingsWindowTest, WhatASaveLosesIsToldBeforeTheFirstAndLayoutsAreHandedBack) {
@@ -192,7 +194,7 @@ TEST_F(SettingsWindowTest, AWriteThatFailsKeepsTheWindowAndAnotherTargetLeavesTh
 TEST_F(SettingsWindowTest, ALayoutIsEditedAsPlainText) {
   Open();
   const auto edit = [this](const QString& expected, const QString& typed, QDialogButtonBox::StandardButton end) {
-    Next<QDialog>([=](QDialog& dialog) {
+    answers.push_back([=](QDialog& dialog) {
       auto& text = *dialog.findChild<QPlainTextEdit*>();
       EXPECT_EQ(text.toPlainText(), expected);
       text.selectAll();
@@ -262,7 +264,7 @@ TEST_F(SettingsWindowTest, AChangeOfTheTabOrTheOrderReadsBack) {
 TEST_F(SettingsWindowTest, AReadOnlyWindowChangesNothing) {
   Open({.readOnly = true});
   Type("!");
-  Next<QDialog>([](QDialog& dialog) {
+  answers.push_back([](QDialog& dialog) {
     EXPECT_TRUE(dialog.findChild<QPlainTextEdit*>()->isReadOnly());
     dialog.reject();
   });
