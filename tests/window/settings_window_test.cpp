@@ -10,18 +10,18 @@
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <deque>
 #include <functional>
 
 #include "control/SharedValues.h"
+#include "host/Files.h"
 #include "host/Load.h"
-#include "host/temporary_folder.h"
 #include "host/window/EditedSettings.h"
-#include "views/qt/PrnPropView.h"
 #include "views/qt/QtFontPlatform.h"
 
 namespace ORXKMPrintProp::host::test {
@@ -32,14 +32,24 @@ class SettingsWindowTest : public testing::Test {
   SettingsWindowTest() {
     gPrnProp.reset();
     gTextTable.reset();
-    file = folder.Write("a.json", ReadFileOf(PRNPROP_EXAMPLES "/small.json"));
+    ReplaceFile(file, before);
+    QObject::connect(&timer, &QTimer::timeout, [this] {
+      auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+      if (!dialog) return;
+      if (answers.empty()) {
+        ADD_FAILURE() << "a question that was not expected";
+        dialog->reject();
+        return;
+      }
+      const auto answer = answers.front();
+      answers.pop_front();
+      answer(*dialog);
+    });
+    timer.start(5);
   }
-  ~SettingsWindowTest() override { EXPECT_EQ(waiting, 0) << "a question was expected that did not come"; }
+  ~SettingsWindowTest() override { EXPECT_TRUE(answers.empty()) << "a question was expected that did not come"; }
 
-  static std::string ReadFileOf(const std::string& path) {
-    std::ifstream stream(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
-  }
+  std::string Path(const char* name) const { return folder.filePath(QLatin1String(name)).toStdString(); }
 
   void Open(EditOptions options = {}) {
     options.file = file;
@@ -54,160 +64,150 @@ class SettingsWindowTest : public testing::Test {
   W& Find(const char* name) {
     return *window->findChild<W*>(QLatin1String(name));
   }
-  QPushButton& Button(QDialogButtonBox::StandardButton button) {
-    return *window->findChild<QDialogButtonBox*>()->button(button);
+  void Type(const char* keys) { QTest::keyClicks(&Find<QLineEdit>("txtGenPrnTitle"), QLatin1String(keys)); }
+  void Press(const char* button) { QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton); }
+  void Press(QDialogButtonBox::StandardButton button) {
+    QTest::mouseClick(window->findChild<QDialogButtonBox*>()->button(button), Qt::LeftButton);
   }
-  QLineEdit& Title() { return Find<QLineEdit>("txtGenPrnTitle"); }
-  bool IsStale() { return Find<QLabel>("state").text().contains(QStringLiteral("Older")); }
 
-  /// Does that with the dialog or message box that opens next.
-  template <class Box>
-  void Next(std::function<void(Box&)> action) {
-    ++waiting;
-    auto* const timer = new QTimer(window.get());
-    QObject::connect(timer, &QTimer::timeout, [this, timer, action] {
-      auto* const box = dynamic_cast<Box*>(QApplication::activeModalWidget());
-      if (!box) return;
-      timer->stop();
-      --waiting;
-      action(*box);
-    });
-    timer->start(5);
+  /// What is seen of the window: open or closed, modified, Apply can be pressed, the panel is older than a change.
+  std::string State() {
+    std::string state = window->isVisible() ? "open" : "closed";
+    if (window->isWindowModified()) state += " modified";
+    if (window->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Apply)->isEnabled()) state += " apply";
+    if (Find<QLabel>("state").text().contains(QStringLiteral("Older"))) state += " older";
+    return state;
   }
-  void Answer(QMessageBox::StandardButton button) {
-    Next<QMessageBox>([this, button](QMessageBox& box) {
-      asked = box.text() + u'\n' + box.informativeText();
+
+  void Answer(QMessageBox::StandardButton button, const std::string& question) {
+    answers.push_back([button, question](QDialog& dialog) {
+      auto& box = dynamic_cast<QMessageBox&>(dialog);
+      EXPECT_EQ((box.text() + u'\n' + box.informativeText()).toStdString(), question);
       QTest::mouseClick(box.button(button), Qt::LeftButton);
     });
   }
+  std::string Changed() const { return "The settings have changed.\nSave them in " + file + "?"; }
 
-  TemporaryFolder folder;
-  std::string file;
+  const QTemporaryDir folder;
+  std::string before = ReadFile(PRNPROP_EXAMPLES "/small.json");
+  const std::string file = Path("a.json");
   qt::QtFontPlatform platform;
   std::unique_ptr<EditedSettings> settings;
   std::unique_ptr<SettingsWindow> window;
-  QString asked;
-  int waiting = 0;
+  /// What is done with the dialogs and message boxes that open, one after the other.
+  std::deque<std::function<void(QDialog&)>> answers;
+  QTimer timer;
 };
 
-TEST_F(SettingsWindowTest, OkWritesWhatAReadBackGivesAfterTheSameEdits) {
+TEST_F(SettingsWindowTest, WhatASaveLosesIsToldBeforeTheFirstAndLayoutsAreHandedBack) {
+  const std::string characteristic = R"({"POSIT":1,"AXIS":"Y","PR_COL1_WIDTH":1,"PR_COL2_WIDTH":1,"STRT_LVL":0,)";
+  ReplaceFile(file, R"({"general":[{"TITLE":"Sales","MARGIN_TOP":1,"MARGIN_BOTTOM":2,"MARGIN_LEFT":3,
+      "MARGIN_RIGHT":4,"HEADER_LAYOUT":"head","LASTPAGE_LAYOUT":"end"}],"dimension":[)" +
+                        characteristic + R"("IOBJNM":"A","PR_SUM_LAYOUT":"<sum>\r\n of A"},)" + characteristic +
+                        R"("IOBJNM":"A","PR_SUM_LAYOUT":"two","COLOR":"red"},)" + characteristic +
+                        R"("IOBJNM":"B","PR_SUM_LAYOUT":"sum of B"},
+      {"IS_STRUCTURE":"X","IOBJTXT":"nameless","POSIT":1}]})");
+  before = ReadFile(file);
+  SettingsDocument expected = ReadSettings(file);
   Open();
-  Title().clear();
-  QTest::keyClicks(&Title(), QStringLiteral("Costs"));
-  QTest::mouseClick(&Button(QDialogButtonBox::Ok), Qt::LeftButton);
-  EXPECT_FALSE(window->isVisible());
-  window.reset();
-  settings.reset();
+  EXPECT_EQ(State(), "open");
+  Type("!");
+  const std::string losses =
+      "3 things that the file says can't be kept.\n"
+      "dimension, row 2, column PR_SUM_LAYOUT: only the first characteristic of a name keeps its layout\n"
+      "dimension, row 2, column COLOR: the control does not write this column\n"
+      "dimension, row 4: a structure without a name does not exist";
+  Answer(QMessageBox::Cancel, losses);
+  Press(QDialogButtonBox::Apply);
+  EXPECT_EQ(State(), "open modified apply");
+  EXPECT_EQ(ReadFile(file), before);
+  Answer(QMessageBox::Save, losses);
+  Press(QDialogButtonBox::Apply);
+  EXPECT_EQ(State(), "open");
+  Type("?");
+  Press(QDialogButtonBox::Ok);
+  EXPECT_EQ(State(), "closed") << "it is told once";
 
-  SettingsDocument expected = ReadSettings(PRNPROP_EXAMPLES "/small.json");
-  expected.general->Rows(1)->Value(u"TITLE", Text(u"Costs"));
+  expected.general->Rows(1)->Value(u"TITLE", Text(u"Sales!?"));
   LoadAndReadBack(expected);
-  EXPECT_EQ(folder.Read("a.json"), ToJson(expected));
-}
-
-TEST_F(SettingsWindowTest, NothingIsAskedOrWrittenWhenNothingHasChanged) {
-  const std::string before = folder.Read("a.json");
-  Open();
-  QTest::mouseClick(&Button(QDialogButtonBox::Cancel), Qt::LeftButton);
-  EXPECT_FALSE(window->isVisible());
-  Open();
-  QTest::keyClicks(&Title(), QStringLiteral("x"));
-  QTest::keyClick(&Title(), Qt::Key_Backspace);
-  EXPECT_TRUE(window->isWindowModified()) << "until a read tells better";
-  EXPECT_TRUE(window->close());
-  Open();
-  QTest::mouseClick(&Button(QDialogButtonBox::Ok), Qt::LeftButton);
-  EXPECT_FALSE(window->isVisible());
-  EXPECT_EQ(folder.Read("a.json"), before);
+  expected.general->Rows(1)->Value(u"HEADER_LAYOUT", Text(u"head"));
+  expected.general->Rows(1)->Value(u"LASTPAGE_LAYOUT", Text(u"end"));
+  expected.dimension->Rows(1)->Value(u"PR_SUM_LAYOUT", Text(u"<sum>\r\n of A"));
+  expected.dimension->Rows(3)->Value(u"PR_SUM_LAYOUT", Text(u"sum of B"));
+  EXPECT_EQ(ReadFile(file), ToJson(expected));
 }
 
 TEST_F(SettingsWindowTest, ClosingAsksWhenSomethingHasChanged) {
-  const std::string before = folder.Read("a.json");
   Open();
-  EXPECT_FALSE(window->isWindowModified());
-  EXPECT_FALSE(Button(QDialogButtonBox::Apply).isEnabled());
-  QTest::keyClicks(&Title(), QStringLiteral("!"));
-  EXPECT_TRUE(window->isWindowModified());
-  Answer(QMessageBox::Cancel);
-  QTest::mouseClick(&Button(QDialogButtonBox::Cancel), Qt::LeftButton);
-  EXPECT_TRUE(window->isVisible());
-  EXPECT_EQ(asked.toStdString(), "The settings have changed.\nSave them in " + file + "?");
-  Answer(QMessageBox::Discard);
+  Press(QDialogButtonBox::Cancel);
+  EXPECT_EQ(State(), "closed");
+  Open();
+  Type("x\b");
+  EXPECT_EQ(State(), "open modified apply older") << "until a read tells better";
   EXPECT_TRUE(window->close());
-  EXPECT_EQ(folder.Read("a.json"), before);
+  Open();
+  Press(QDialogButtonBox::Ok);
+  EXPECT_EQ(State(), "closed");
 
   Open();
-  QTest::keyClicks(&Title(), QStringLiteral("!"));
-  Answer(QMessageBox::Save);
+  Type("!");
+  Answer(QMessageBox::Cancel, Changed());
+  Press(QDialogButtonBox::Cancel);
+  EXPECT_EQ(State(), "open modified apply");
+  Answer(QMessageBox::Discard, Changed());
   EXPECT_TRUE(window->close());
-  EXPECT_NE(folder.Read("a.json").find("Orders by region!"), std::string::npos);
-}
-
-TEST_F(SettingsWindowTest, ApplySavesAndTheWindowGoesOn) {
-  Open({.out = folder.Path("b.json")});
-  EXPECT_TRUE(Button(QDialogButtonBox::Apply).isEnabled()) << "there is no such file yet";
-  QTest::keyClicks(&Title(), QStringLiteral("!"));
-  QTest::mouseClick(&Button(QDialogButtonBox::Apply), Qt::LeftButton);
-  EXPECT_NE(folder.Read("b.json").find("Orders by region!"), std::string::npos);
-  EXPECT_EQ(folder.Read("a.json"), ReadFileOf(PRNPROP_EXAMPLES "/small.json"));
-  EXPECT_FALSE(window->isWindowModified());
-  EXPECT_FALSE(Button(QDialogButtonBox::Apply).isEnabled());
-  EXPECT_TRUE(window->close());
-}
-
-TEST_F(SettingsWindowTest, LossIsToldBeforeTheFirstSaveAndCanBeRefused) {
-  std::string document = ReadFileOf(file);
-  document.insert(document.find("\"IOBJNM\": \"REGION\""), "\"COLOR\": \"red\", ");
-  folder.Write("a.json", document);
+  EXPECT_EQ(ReadFile(file), before);
   Open();
-  QTest::keyClicks(&Title(), QStringLiteral("!"));
-  Answer(QMessageBox::Cancel);
-  QTest::mouseClick(&Button(QDialogButtonBox::Apply), Qt::LeftButton);
-  EXPECT_EQ(asked.toStdString(),
-            "One thing that the file says can't be kept.\n"
-            "dimension, row 1, column COLOR: the control does not write this column");
-  EXPECT_EQ(folder.Read("a.json"), document);
-  EXPECT_TRUE(window->isWindowModified());
-  Answer(QMessageBox::Save);
-  QTest::mouseClick(&Button(QDialogButtonBox::Apply), Qt::LeftButton);
-  EXPECT_EQ(folder.Read("a.json").find("\"COLOR\""), std::string::npos);
-  QTest::keyClicks(&Title(), QStringLiteral("!"));
-  QTest::mouseClick(&Button(QDialogButtonBox::Ok), Qt::LeftButton);
-  EXPECT_FALSE(window->isVisible()) << "it is told once";
+  Type("!");
+  Answer(QMessageBox::Save, Changed());
+  EXPECT_TRUE(window->close());
+  EXPECT_NE(ReadFile(file).find("Orders by region!"), std::string::npos);
 }
 
-TEST_F(SettingsWindowTest, AWriteThatFailsKeepsTheOldFileAndTheWindow) {
-  Open({.out = folder.Path("no/b.json")});
-  const std::string before = folder.Read("a.json");
-  QTest::keyClicks(&Title(), QStringLiteral("!"));
-  Answer(QMessageBox::Ok);
-  QTest::mouseClick(&Button(QDialogButtonBox::Ok), Qt::LeftButton);
-  EXPECT_EQ(asked.toStdString(),
-            "The settings could not be saved.\n" + folder.Path("no/b.json") + ": No such file or directory");
-  EXPECT_TRUE(window->isVisible());
-  EXPECT_TRUE(window->isWindowModified());
-  EXPECT_EQ(folder.Read("a.json"), before);
-  Answer(QMessageBox::Discard);
+TEST_F(SettingsWindowTest, AWriteThatFailsKeepsTheWindowAndAnotherTargetLeavesTheFile) {
+  const std::string nowhere = Path("no/b.json");
+  Open({.out = nowhere});
+  Type("!");
+  Answer(QMessageBox::Ok, "The settings could not be saved.\n" + nowhere + ": No such file or directory");
+  Press(QDialogButtonBox::Ok);
+  EXPECT_EQ(State(), "open modified apply");
+  EXPECT_EQ(ReadFile(file), before);
+  Answer(QMessageBox::Discard, "The settings have changed.\nSave them in " + nowhere + "?");
   EXPECT_TRUE(window->close());
+
+  before.insert(before.find("\"IOBJNM\": \"REGION\""), "\"COLOR\": \"red\", ");
+  ReplaceFile(file, before);
+  Open({.out = Path("b.json")});
+  EXPECT_EQ(State(), "open apply") << "there is no such file yet";
+  Answer(QMessageBox::Save,
+         "One thing that the file says can't be kept.\n"
+         "dimension, row 1, column COLOR: the control does not write this column");
+  Press(QDialogButtonBox::Apply);
+  EXPECT_EQ(State(), "open");
+  EXPECT_TRUE(window->close());
+  EXPECT_EQ(ReadFile(file), before);
+  SettingsDocument expected = ReadSettings(PRNPROP_EXAMPLES "/small.json");
+  LoadAndReadBack(expected);
+  EXPECT_EQ(ReadFile(Path("b.json")), ToJson(expected));
 }
 
 TEST_F(SettingsWindowTest, ALayoutIsEditedAsPlainText) {
   Open();
   const auto edit = [this](const QString& expected, const QString& typed, QDialogButtonBox::StandardButton end) {
-    Next<QDialog>([=](QDialog& dialog) {
+    answers.push_back([=](QDialog& dialog) {
       auto& text = *dialog.findChild<QPlainTextEdit*>();
       EXPECT_EQ(text.toPlainText(), expected);
       text.selectAll();
       text.insertPlainText(typed);
       QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(end), Qt::LeftButton);
     });
-    QTest::mouseClick(&Find<QPushButton>("cmdPrintLayout(1)"), Qt::LeftButton);
+    Press("cmdPrintLayout(1)");
   };
   edit({}, QStringLiteral("thrown away"), QDialogButtonBox::Cancel);
-  EXPECT_FALSE(window->isWindowModified());
+  EXPECT_EQ(State(), "open");
   edit({}, QStringLiteral("<b>&head\u00a0\u00fc"), QDialogButtonBox::Ok);
-  EXPECT_TRUE(window->isWindowModified());
-  QTest::mouseClick(&Button(QDialogButtonBox::Apply), Qt::LeftButton);
+  EXPECT_EQ(State(), "open modified apply older");
+  Press(QDialogButtonBox::Apply);
   EXPECT_EQ(std::get<Text>(ReadSettings(file).general->Rows(1)->Value(u"HEADER_LAYOUT")), u"<b>&head\u00a0\u00fc");
   edit(QStringLiteral("<b>&head \u00fc"), {}, QDialogButtonBox::Cancel);
 }
@@ -218,69 +218,58 @@ TEST_F(SettingsWindowTest, ThePanelMarksCellsThatDifferAndSaysWhenItIsOlder) {
   auto& tabs = *window->findChild<QTabWidget*>();
   tabs.setCurrentIndex(1);
   const QAbstractItemModel& model = *static_cast<QTableView&>(*tabs.currentWidget()).model();
-  const auto marked = [&] {
-    QString text;
+  const auto state = [&] {
+    QString text = QString::fromStdString(State());
     for (int column = 0; column < model.columnCount(); ++column) {
       const QModelIndex cell = model.index(0, column);
       if (!cell.data(Qt::BackgroundRole).isValid()) continue;
-      text += model.headerData(column, Qt::Horizontal).toString() + u'=' + cell.data().toString() + u'|' +
-              cell.data(Qt::ToolTipRole).toString() + u'\n';
+      text += u'\n' + model.headerData(column, Qt::Horizontal).toString() + u'=' + cell.data().toString() + u'|' +
+              cell.data(Qt::ToolTipRole).toString();
     }
     return text.toStdString();
   };
-  EXPECT_EQ(marked(), "");
-  EXPECT_FALSE(IsStale());
-  QTest::keyClicks(&Title(), QStringLiteral("!"));
-  EXPECT_TRUE(IsStale());
-  EXPECT_EQ(marked(), "") << "typing reads nothing";
-  QTest::mouseClick(&Find<QPushButton>("refresh"), Qt::LeftButton);
-  EXPECT_FALSE(IsStale());
-  EXPECT_EQ(marked(), "TITLE=Orders by region!|In the file: Orders by region\n");
-  QTest::mouseClick(&Button(QDialogButtonBox::Apply), Qt::LeftButton);
-  EXPECT_EQ(marked(), "");
+  EXPECT_EQ(state(), "open");
+  Type("!");
+  EXPECT_EQ(state(), "open modified apply older") << "typing reads nothing";
+  Press("refresh");
+  EXPECT_EQ(state(), "open modified apply\nTITLE=Orders by region!|In the file: Orders by region");
+  Press(QDialogButtonBox::Apply);
+  EXPECT_EQ(state(), "open");
+
+  const int width = window->width();
+  Press("preview");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window->width() < width; })) << "the window folds to the dialog";
+  EXPECT_FALSE(Find<QLabel>("state").isVisible());
+  Press("preview");
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window->width() == width; }));
 }
 
 TEST_F(SettingsWindowTest, AChangeOfTheTabOrTheOrderReadsBack) {
   Open();
-  auto& dialogTabs = *window->findChild<qt::PrnPropView*>()->findChild<QTabBar*>();
-  QTest::keyClicks(&Title(), QStringLiteral("!"));
-  QTest::keyClick(&Title(), Qt::Key_PageDown, Qt::ControlModifier);
-  ASSERT_EQ(dialogTabs.currentIndex(), 1);
-  EXPECT_TRUE(IsStale());
+  Type("!");
+  QTest::keyClick(&Find<QLineEdit>("txtGenPrnTitle"), Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(State(), "open modified apply older");
   QCoreApplication::processEvents();
-  EXPECT_FALSE(IsStale());
-  EXPECT_TRUE(window->isWindowModified());
-  // Entered by the keyboard, the page was filled before it was read.
-  auto& width = Find<QLineEdit>("txtCharColWidth1");
-  EXPECT_EQ(width.text(), QStringLiteral("24"));
-  QTest::mouseClick(&Find<QPushButton>("cmdRightToLeft(1)"), Qt::LeftButton);
-  EXPECT_TRUE(IsStale());
+  EXPECT_EQ(State(), "open modified apply");
+  EXPECT_EQ(Find<QLineEdit>("txtCharColWidth1").text(), QStringLiteral("24")) << "the page was filled before the read";
+  Press("cmdRightToLeft(1)");
+  EXPECT_EQ(State(), "open modified apply older");
   QCoreApplication::processEvents();
-  EXPECT_FALSE(IsStale());
+  EXPECT_EQ(State(), "open modified apply");
   EXPECT_EQ(std::get<Text>(settings->Now().Dimension().rows.at(0)->Value(u"AXIS")), u" ");
-  Answer(QMessageBox::Discard);
+  Answer(QMessageBox::Discard, Changed());
   EXPECT_TRUE(window->close());
-}
-
-TEST_F(SettingsWindowTest, TheWindowFoldsToTheDialogAndBack) {
-  Open();
-  const int width = window->width();
-  QTest::mouseClick(&Find<QPushButton>("preview"), Qt::LeftButton);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return window->width() < width; }));
-  EXPECT_FALSE(Find<QLabel>("state").isVisible());
-  QTest::mouseClick(&Find<QPushButton>("preview"), Qt::LeftButton);
-  EXPECT_TRUE(QTest::qWaitFor([&] { return window->width() == width; }));
 }
 
 TEST_F(SettingsWindowTest, AReadOnlyWindowChangesNothing) {
   Open({.readOnly = true});
-  QTest::keyClicks(&Title(), QStringLiteral("!"));
-  Next<QDialog>([](QDialog& dialog) {
+  Type("!");
+  answers.push_back([](QDialog& dialog) {
     EXPECT_TRUE(dialog.findChild<QPlainTextEdit*>()->isReadOnly());
     dialog.reject();
   });
-  QTest::mouseClick(&Find<QPushButton>("cmdPrintLayout(0)"), Qt::LeftButton);
-  EXPECT_FALSE(window->isWindowModified());
+  Press("cmdPrintLayout(0)");
+  EXPECT_EQ(State(), "open");
   EXPECT_TRUE(window->close());
 }
 

@@ -1,0 +1,73 @@
+#include <gtest/gtest.h>
+
+#include "host/Files.h"
+#include "host/Load.h"
+#include "host/Utf8.h"
+#include "host/window/ComparedTable.h"
+#include "host/window/PageSketch.h"
+
+namespace ORXKMPrintProp::host::test {
+namespace {
+
+/// The whole description, a line for each part of it.
+std::string TextOf(const PageSketch& sketch) {
+  static const char* const alignments[] = {"left", "right", "centered"};
+  static const char* const breaks[] = {"-- cover page", "-- page", "-- block"};
+  std::string text = ToUtf8(sketch.title) + "\nmargins";
+  for (const int margin : sketch.margins) text += " " + std::to_string(margin);
+  text += std::string(sketch.colored ? ", colored" : "") + (sketch.ruled ? ", ruled" : "") + "\n";
+  for (const SketchColumn& column : sketch.columns) {
+    text += ToUtf8(column.title) + ": " + ToUtf8(column.what) + " " + alignments[column.align] + " " +
+            std::to_string(column.width) + (column.everyPage ? " each page" : "") + (column.isNumber ? " #" : "") +
+            "\n";
+  }
+  for (const SketchLine& line : sketch.lines) {
+    if (line.cells.empty()) text += breaks[static_cast<int>(line.kind)];
+    if (line.kind == SketchLineKind::Totals) text += "=";
+    for (const Text& cell : line.cells) text += "|" + ToUtf8(cell);
+    text += "\n";
+  }
+  for (const Text& note : sketch.notes) text += ToUtf8(note) + "\n";
+  return text;
+}
+
+TEST(PageSketchTest, DrawsWhatTheSettingsSay) {
+  const std::string folder = PRNPROP_SKETCHES "/";
+  const std::pair<const char*, std::string> rows[] = {
+      {"small", PRNPROP_EXAMPLES "/small.json"},  // columns, breaks, totals on top
+      {"repeated", folder + "repeated.json"},     // numbers and repeated texts as the settings say, in print order
+      {"below", folder + "below.json"},           // totals below close their groups from the inside
+      {"nothing", folder + "nothing.json"},
+  };
+  for (const auto& [name, file] : rows) {
+    const SettingsDocument document = ReadSettings(file);
+    LoadAndReadBack(document);
+    EXPECT_EQ(TextOf(SketchOf(SnapshotOf(document))), ReadFile(folder + name + ".txt")) << name;
+  }
+}
+
+TEST(ComparedTableTest, RowsStandBesideTheirOwnRowOfTheFile) {
+  const auto rowsOf = [](const std::string& rows) {
+    return SnapshotOf(ParseSettings(R"({"member":[)" + rows + "]}", "rows")).Member();
+  };
+  const ComparedTable table(rowsOf(R"({"CHAVL":"b","POSIT":"1"},{"CHAVL":"gone"},{"CHAVL":"a","POSIT":2,"HIDDEN":" "},)"
+                                   R"({"CHAVL":"b","POSIT":5})"),
+                            rowsOf(R"({"CHAVL":"a","POSIT":3},{"CHAVL":"b","POSIT":1},{"CHAVL":"b","POSIT":6},)"
+                                   R"({"CHAVL":"new"})"),
+                            {u"CHAVL"});
+  std::string told;
+  for (std::size_t row = 0; row < table.RowCount(); ++row) {
+    if (table.IsGone(row)) told += "gone ";
+    for (std::size_t column = 0; column < table.Columns().size(); ++column) {
+      const auto cell = table.At(row, column);
+      if (cell.differs) told += ToUtf8(cell.file) + "->";
+      if (cell.differs || !cell.now.empty()) told += ToUtf8(cell.now) + " ";
+    }
+    told += "\n";
+  }
+  // POSIT is written behind CHAVL.
+  EXPECT_EQ(told, "a 2->3 \nb 1 \nb 5->6 \n->new \ngone gone-> \n");
+}
+
+}  // namespace
+}  // namespace ORXKMPrintProp::host::test
