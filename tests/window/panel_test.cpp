@@ -37,6 +37,7 @@ TEST(PageSketchTest, DrawsWhatTheSettingsSay) {
       {"small", PRNPROP_EXAMPLES "/small.json"},  // columns, breaks, totals on top
       {"repeated", folder + "repeated.json"},     // numbers and repeated texts as the settings say, in print order
       {"below", folder + "below.json"},           // totals below close their groups from the inside
+      {"many", folder + "many.json"},             // more breaks than are drawn
       {"nothing", folder + "nothing.json"},
   };
   for (const auto& [name, file] : rows) {

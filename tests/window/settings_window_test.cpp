@@ -7,6 +7,7 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -82,6 +83,7 @@ class SettingsWindowTest : public testing::Test {
   void Answer(QMessageBox::StandardButton button, const std::string& question) {
     answers.push_back([button, question](QDialog& dialog) {
       auto& box = dynamic_cast<QMessageBox&>(dialog);
+      for (const auto* const label : box.findChildren<QLabel*>()) EXPECT_EQ(label->textFormat(), Qt::PlainText);
       EXPECT_EQ((box.text() + u'\n' + box.informativeText()).toStdString(), question);
       QTest::mouseClick(box.button(button), Qt::LeftButton);
     });
@@ -164,6 +166,45 @@ TEST_F(SettingsWindowTest, ClosingAsksWhenSomethingHasChanged) {
   EXPECT_NE(ReadFile(file).find("Orders by region!"), std::string::npos);
 }
 
+TEST_F(SettingsWindowTest, WhoeverOnlyLooksChangesNothing) {
+  // The commit of a page would write a 1, and no width beside an automatic one.
+  const std::string name = "\"IOBJNM\": \"REGION\"";
+  for (const auto& [from, to] :
+       {std::pair(R"("POSIT": 1)", R"("POSIT": 0)"), std::pair(R"("PR_AUTO_WIDTH": " ")", R"("PR_AUTO_WIDTH": "X")")}) {
+    before.replace(before.find(from, before.find(name)), std::string_view(from).size(), to);
+  }
+  ReplaceFile(file, before);
+  for (const bool readOnly : {false, true}) {
+    Open({.readOnly = readOnly});
+    for (int tab = 0; tab < 4; ++tab) {
+      QTest::keyClick(&Find<QWidget>("tstPrint"), Qt::Key_PageDown, Qt::ControlModifier);
+      QCoreApplication::processEvents();
+    }
+    QTest::keyClick(&Find<QListView>("lstPrint(1)"), Qt::Key_Down);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(State(), "open");
+    Press(QDialogButtonBox::Ok);
+    EXPECT_EQ(ReadFile(file), before);
+  }
+}
+
+TEST_F(SettingsWindowTest, AFileThatSomebodyElseHasWrittenIsNotReplacedUnasked) {
+  Open();
+  Type("!");
+  ReplaceFile(file, before += "\n");
+  const std::string question = "The file has changed since it was opened.\nReplace " + file + " all the same?";
+  Answer(QMessageBox::Cancel, question);
+  Press(QDialogButtonBox::Ok);
+  EXPECT_EQ(State(), "open modified apply");
+  EXPECT_EQ(ReadFile(file), before);
+  Answer(QMessageBox::Save, question);
+  Press(QDialogButtonBox::Apply);
+  EXPECT_NE(ReadFile(file), before);
+  Type("?");
+  Press(QDialogButtonBox::Ok);
+  EXPECT_EQ(State(), "closed");
+}
+
 TEST_F(SettingsWindowTest, AWriteThatFailsKeepsTheWindowAndAnotherTargetLeavesTheFile) {
   const std::string nowhere = Path("no/b.json");
   Open({.out = nowhere});
@@ -242,6 +283,13 @@ TEST_F(SettingsWindowTest, ThePanelMarksCellsThatDifferAndSaysWhenItIsOlder) {
   EXPECT_FALSE(Find<QLabel>("state").isVisible());
   Press("preview");
   EXPECT_TRUE(QTest::qWaitFor([&] { return window->width() == width; }));
+  Press("preview");
+  window->resize(width, window->height());
+  Press("preview");
+  EXPECT_EQ(window->width(), width) << "there was room already";
+  window->FitInto({width - 300, 2000});
+  EXPECT_FALSE(Find<QLabel>("state").isVisible());
+  EXPECT_LE(window->width(), width - 300);
 }
 
 TEST_F(SettingsWindowTest, AChangeOfTheTabOrTheOrderReadsBack) {
@@ -252,13 +300,25 @@ TEST_F(SettingsWindowTest, AChangeOfTheTabOrTheOrderReadsBack) {
   QCoreApplication::processEvents();
   EXPECT_EQ(State(), "open modified apply");
   EXPECT_EQ(Find<QLineEdit>("txtCharColWidth1").text(), QStringLiteral("24")) << "the page was filled before the read";
+  Press(QDialogButtonBox::Apply);
+  QTest::keyClick(&Find<QListView>("lstPrint(1)"), Qt::Key_Home);
+  QTest::keyClick(&Find<QListView>("lstPrint(1)"), Qt::Key_Down, Qt::AltModifier);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(State(), "open modified apply");
   Press("cmdRightToLeft(1)");
   EXPECT_EQ(State(), "open modified apply older");
   QCoreApplication::processEvents();
   EXPECT_EQ(State(), "open modified apply");
   EXPECT_EQ(std::get<Text>(settings->Now().Dimension().rows.at(0)->Value(u"AXIS")), u" ");
+  Press(QDialogButtonBox::Apply);
+
+  Press("cmdLeftToRight(1)");
+  EXPECT_EQ(State(), "open") << "nothing is selected there";
+  QTest::keyClick(&Find<QListView>("lstPrint(1)"), Qt::Key_PageUp, Qt::ControlModifier);
+  Type("?");
   Answer(QMessageBox::Discard, Changed());
-  EXPECT_TRUE(window->close());
+  QTest::keyClick(&Find<QLineEdit>("txtGenPrnTitle"), Qt::Key_Escape);
+  EXPECT_FALSE(window->isVisible());
 }
 
 TEST_F(SettingsWindowTest, AReadOnlyWindowChangesNothing) {
