@@ -7,6 +7,7 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -257,6 +258,23 @@ TEST_F(SettingsWindowTest, AChangeOfTheTabOrTheOrderReadsBack) {
   QCoreApplication::processEvents();
   EXPECT_EQ(State(), "open modified apply");
   EXPECT_EQ(std::get<Text>(settings->Now().Dimension().rows.at(0)->Value(u"AXIS")), u" ");
+
+  // Of the order of attributes the window hears by the user's hand alone.
+  auto& attributes = Find<QListView>("lstPrint(2)");
+  const auto drag = [&] {
+    QTest::mousePress(attributes.viewport(), Qt::LeftButton, {}, {5, 5});
+    QTest::mouseMove(attributes.viewport(), {5, 20});
+    QTest::mouseRelease(attributes.viewport(), Qt::LeftButton, {}, {5, 20});
+  };
+  const auto key = [&] { QTest::keyClick(&attributes, Qt::Key_Up, Qt::AltModifier); };
+  QTest::keyClick(&Find<QListView>("lstPrint(1)"), Qt::Key_PageDown, Qt::ControlModifier);
+  QCoreApplication::processEvents();
+  for (const std::function<void()>& reorder : {std::function<void()>(drag), std::function<void()>(key)}) {
+    reorder();
+    EXPECT_EQ(State(), "open modified apply older");
+    Press("refresh");
+    EXPECT_EQ(State(), "open modified apply");
+  }
   Answer(QMessageBox::Discard, Changed());
   EXPECT_TRUE(window->close());
 }
