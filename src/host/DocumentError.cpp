@@ -1,7 +1,5 @@
 #include "host/DocumentError.h"
 
-#include <utility>
-
 #include "host/Terminal.h"
 
 namespace ORXKMPrintProp::host {
@@ -16,7 +14,7 @@ std::string Line(const DocumentError::Place& place, const std::string& reason) {
 
 }  // namespace
 
-DocumentError::DocumentError(Place place, std::string reason)
-    : std::runtime_error(Line(place, reason)), place_(std::move(place)), reason_(std::move(reason)) {}
+DocumentError::DocumentError(const Place& place, const std::string& reason)
+    : std::runtime_error(Line(place, reason)) {}
 
 }  // namespace ORXKMPrintProp::host

@@ -16,14 +16,7 @@ class DocumentError : public std::runtime_error {
     std::string column = {};  ///< empty for none
   };
 
-  DocumentError(Place place, std::string reason);
-
-  const Place& Where() const noexcept { return place_; }
-  const std::string& Reason() const noexcept { return reason_; }
-
- private:
-  Place place_;
-  std::string reason_;
+  DocumentError(const Place& place, const std::string& reason);
 };
 
 }  // namespace ORXKMPrintProp::host
