@@ -58,106 +58,71 @@ TEST(Codecs, ReadAndWriteEveryCodeAndFallBackOnTheirDefaults) {
               {{0, u" "}, {1, u"C"}, {2, u"U"}, {9, u"U"}});
 }
 
-TEST(Conversions, IntegerReadsWholeNumbersOnly) {
-  const std::vector<std::pair<Variant, std::string>> rows{
-      {Variant(), "type"},
-      {true, "-1"},
-      {false, "0"},
-      {std::int16_t{-5}, "-5"},
-      {std::int32_t{32767}, "32767"},
-      {std::int32_t{32768}, "overflow"},
-      {std::int32_t{-32769}, "overflow"},
-      {0.5, "0"},
-      {1.5, "2"},
-      {-2.5, "-2"},
-      {-0.51, "-1"},
-      {32767.4, "32767"},
-      {32767.5, "overflow"},
-      {-32768.5, "-32768"},
-      {std::numeric_limits<double>::quiet_NaN(), "overflow"},
-      {std::numeric_limits<double>::infinity(), "overflow"},
-      {ObjectRef(), "type"},
-      {u"", "type"},
-      {u"  ", "type"},
-      {u" 12  ", "12"},
-      {u"+7", "7"},
-      {u"-7.5", "-8"},
-      {u".5", "0"},
-      {u"6.", "6"},
-      {u".", "type"},
-      {u"-", "type"},
-      {u"1e3", "1000"},
-      {u"15E-1", "2"},
-      {u"1e", "type"},
-      {u"1 2", "type"},
-      {u"- 1", "type"},
-      {u"1,5", "type"},
-      {u"\t1", "type"},
-      {u"0x10", "type"},
-      {u"inf", "type"},
-      {u"12a", "type"},
-      {u"\u0661", "type"},  // an Arabic digit
-      {u"40000", "overflow"},
-      {u"1e999", "overflow"},
-      {u"1e99999999999999999999", "overflow"},
-      {u"1e-999", "0"},
-      {u"-1e-99999999999999999999", "0"},
-      {u"0e999", "0"},
+/// In every case what is read as a number, and the same read from the head of the text.
+TEST(Conversions, ReadWholeNumbersAndThoseAtTheHeadOfATextOnly) {
+  const struct {
+    const char *cell, *integer, *leading;
+  } rows[] = {
+      {"", "type", ""},
+      {"True", "-1", ""},
+      {"False", "0", ""},
+      {"32767", "32767", ""},
+      {"32768", "overflow", ""},
+      {"-32769", "overflow", ""},
+      {"0.5", "0", ""},
+      {"1.5", "2", ""},
+      {"-2.5", "-2", ""},
+      {"-0.51", "-1", ""},
+      {"32767.5", "overflow", ""},
+      {"-32768.5", "-32768", ""},
+      {"''", "type", "0"},
+      {"'  '", "type", "0"},
+      {"' 12  '", "12", "12"},
+      {"'+7'", "7", "7"},
+      {"'-7.5'", "-8", "-8"},
+      {"'.5'", "0", "0"},
+      {"'6.'", "6", "6"},
+      {"'.'", "type", "0"},
+      {"'-'", "type", "0"},
+      {"'1e3'", "1000", "1000"},
+      {"'15E-1'", "2", "2"},
+      {"'1e'", "type", "1"},
+      {"'1e+'", "type", "1"},
+      {"'1e2e3'", "type", "100"},
+      {"'1 2'", "type", "12"},
+      {"'- 1'", "type", "-1"},
+      {"'1,5'", "type", "1"},
+      {"'3.5.7'", "type", "4"},
+      {"'\t1'", "type", "0"},
+      {"'0x10'", "type", "0"},
+      {"'inf'", "type", "0"},
+      {"'12a'", "type", "12"},
+      {"'40000'", "overflow", "overflow"},
+      {"'1e999'", "overflow", "overflow"},
+      {"'1e99999999999999999999'", "overflow", "overflow"},
+      {"'1e-999'", "0", "0"},
+      {"'-1e-99999999999999999999'", "0", "0"},
+      {"'0e999'", "0", "0"},
   };
-  for (const auto& [value, expected] : rows) {
-    EXPECT_EQ(Outcome([&, &value = value] { return std::to_string(ToInteger(value)); }), expected) << ToString(value);
+  for (const auto& row : rows) {
+    const Variant cell = VariantFrom(row.cell);
+    EXPECT_EQ(Outcome([&] { return std::to_string(ToInteger(cell)); }), row.integer) << row.cell;
+    if (const Text* const text = std::get_if<Text>(&cell)) {
+      EXPECT_EQ(Outcome([&] { return std::to_string(LeadingNumber(*text)); }), row.leading) << row.cell;
+    }
   }
 }
 
-TEST(Conversions, LeadingNumberReadsWhatStandsAtTheHead) {
-  const std::vector<std::pair<TextView, std::string>> rows{
-      {u"", "0"},
-      {u"abc", "0"},
-      {u"20 pages", "20"},
-      {u" 1 2 x", "12"},
-      {u"-1", "-1"},
-      {u"- 1", "-1"},
-      {u"+3", "3"},
-      {u"2.5", "2"},
-      {u"3.5.7", "4"},
-      {u".5", "0"},
-      {u"-", "0"},
-      {u"1e2", "100"},
-      {u"1e2e3", "100"},
-      {u"1e", "1"},
-      {u"1e+", "1"},
-      {u"1 e 2", "100"},
-      {u"12,5", "12"},
-      {u"x12", "0"},
-      {u"7\u00e4", "7"},
-      {u"\u00e47", "0"},
-      {u"32767", "32767"},
-      {u"32768", "overflow"},
-      {u"99999999999999999999", "overflow"},
-      {u"1e-999", "0"},
-  };
-  for (const auto& [text, expected] : rows) {
-    EXPECT_EQ(Outcome([&, text = text] { return std::to_string(LeadingNumber(text)); }), expected) << ToAscii(text);
-  }
-}
-
-TEST(Conversions, TextOfACellThatIsNone) {
-  const std::vector<std::pair<Variant, std::string>> rows{
-      {Variant(), ""},
-      {true, "True"},
-      {false, "False"},
-      {std::int16_t{-3}, "-3"},
-      {std::int32_t{100000}, "100000"},
-      {0.1, "0.1"},
-      {-1e20, "-100000000000000000000"},
-      {1.5e-7, "0.00000015"},
-      {100000.0, "100000"},
-      {u" x ", " x "},
-      {ObjectRef(), "type"},
-  };
-  for (const auto& [value, expected] : rows) {
-    EXPECT_EQ(Outcome([&, &value = value] { return ToAscii(ToText(Variant(value))); }), expected);
-  }
+TEST(Conversions, TakeCellsThatNoTextOfOursShows) {
+  const auto integer = [](const Variant& cell) { return Outcome([&] { return std::to_string(ToInteger(cell)); }); };
+  const auto text = [](Variant cell) { return Outcome([&] { return ToAscii(ToText(std::move(cell))); }); };
+  EXPECT_EQ(integer(std::int16_t{-5}) + integer(std::numeric_limits<double>::quiet_NaN()) +
+                integer(std::numeric_limits<double>::infinity()) + integer(ObjectRef()) + integer(u"\u0661"),
+            "-5overflowoverflowtypetype");
+  EXPECT_EQ(LeadingNumber(u"7\u00e4") + LeadingNumber(u"\u00e47"), 7);
+  EXPECT_EQ(text({}) + "," + text(true) + "," + text(false) + "," + text(std::int16_t{-3}) + "," + text(100000) + "," +
+                text(0.1) + "," + text(-1e20) + "," + text(1.5e-7) + "," + text(u" x ") + "," + text(ObjectRef()),
+            ",True,False,-3,100000,0.1,-100000000000000000000,0.00000015, x ,type");
 }
 
 TEST(CollectionOfItems, KeepsNumbersAndKeysTogether) {
@@ -193,29 +158,24 @@ TEST(TableInMemory, AnswersTheWholeContract) {
   RowAt(*table, 2)->Value(u"VALUE", std::int32_t{5});
   EXPECT_EQ(ToString(*table), "KEY='a'\nKEY='b' VALUE=5\nKEY='c'\n");
 
-  const auto failing = {
-      Outcome([&] { return ToString(RowAt(*table, 1)->Value(u"key")); }),
-      Outcome([&] {
-        AddRow(*table)->Value(u"", u"x");
-        return std::string();
-      }),
-      Outcome([&] { return std::to_string(RowAt(*table, 0)->RowNumber()); }),
-      Outcome([&] { return std::to_string(RowAt(*table, 5)->RowNumber()); }),
-      Outcome([&] { return ToString(table->Columns(u"NONE")->Index()); }),
-      Outcome([&] {
-        RowsOf(*table)->Item(u"a");
-        return std::string();
-      }),
-      Outcome([&] {
-        table->Columns()->KeyColumn(std::int32_t{3});
-        return std::string();
-      }),
-      Outcome([&] {
-        MemoryTable::Create({u"A", u"A"});
-        return std::string();
-      }),
-  };
-  for (const std::string& outcome : failing) EXPECT_EQ(outcome, "table");
+  const std::function<void()> failing[] = {[&] { RowAt(*table, 1)->Value(u"key"); },
+                                           [&] { AddRow(*table)->Value(u"", u"x"); },
+                                           [&] { RowAt(*table, 0); },
+                                           [&] { RowAt(*table, 5); },
+                                           [&] { table->Columns(u"NONE"); },
+                                           [&] { RowsOf(*table)->Item(u"a"); },
+                                           [&] { table->Columns()->KeyColumn(std::int32_t{3}); },
+                                           [&] {
+                                             MemoryTable::Create({u"A", u"A"});
+                                           }};
+  for (const auto& action : failing) {
+    EXPECT_EQ(Outcome([&] {
+                action();
+                return "";
+              }),
+              "table")
+        << &action - failing;
+  }
 
   table->Columns()->KeyColumn(table->Columns(u"KEY")->Index());
   EXPECT_EQ(RowsOf(*table)->Item(u"c")->RowNumber(), 3);
