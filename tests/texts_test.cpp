@@ -28,21 +28,19 @@ TEST_F(LookupTextTest, ReplacesPlaceholders) {
     const char* text;
     std::vector<Variant> values;
     const char* result;
-  } rows[] = {
-      {"Page &1 of &2", {u"D"}, "Page  of "},
-      {"&1&2", {u"D", u"A", u"B"}, "A&2"},
-      {"&1 &2", {u"D", u"A", u"B"}, "A B"},
-      {"&12", {u"D"}, "2"},
-      {"&", {u"D"}, "D"},
-      {"&File", {u"D"}, "Dile"},
-      {"&-1", {u"D"}, "1"},
-      {"& 1", {u"D", u"A"}, "A1"},
-      {"&.5x", {u"D", u"A"}, "D5x"},
-      {"&1.", {u"D", u"&2", u"B"}, "&2."},
-      {"a&2&1b", {u"D", u"A", u""}, "a&1b"},
-      {"&1-&3", {u"D", std::int16_t{5}, u"B", Variant()}, "5-"},
-      {"x&1", {u"D", ObjectRef()}, "x"},
-  };
+  } rows[] = {{"Page &1 of &2", {u"D"}, "Page  of "},
+              {"&1&2", {u"D", u"A", u"B"}, "A&2"},
+              {"&1 &2", {u"D", u"A", u"B"}, "A B"},
+              {"&12", {u"D"}, "2"},
+              {"&", {u"D"}, "D"},
+              {"&File", {u"D"}, "Dile"},
+              {"&-1", {u"D"}, "1"},
+              {"& 1", {u"D", u"A"}, "A1"},
+              {"&.5x", {u"D", u"A"}, "D5x"},
+              {"&1.", {u"D", u"&2", u"B"}, "&2."},
+              {"a&2&1b", {u"D", u"A", u""}, "a&1b"},
+              {"&1-&3", {u"D", std::int16_t{5}, u"B", Variant()}, "5-"},
+              {"x&1", {u"D", ObjectRef()}, "x"}};
   for (const auto& row : rows) {
     UseTexts(std::string("TARGETID='k' CAPTION='") + row.text + "'");
     EXPECT_EQ(ToAscii(LookupText(u"k", row.values)), row.result) << row.text;

@@ -202,15 +202,15 @@ Refusal Stage::DoTo(Widget& widget, const std::string& verb, const std::string& 
   if (verb == "pick") return dynamic_cast<ComboBox&>(widget).UserPick(entries.at(0));
 
   auto& list = dynamic_cast<ListBox&>(widget);
-  const std::int16_t button = verb == "rclick" ? ListBox::kRightButton : ListBox::kLeftButton;
   std::size_t place = 0;
   if (verb != "move" && verb != "up") {
-    if (const Refusal refusal = list.UserMouseDown(entries.at(place++), button); refusal != Refusal::None) {
+    if (const Refusal refusal = list.UserMouseDown(entries.at(place++), ListBox::kLeftButton);
+        refusal != Refusal::None) {
       return refusal;
     }
   }
   for (; place < entries.size(); ++place) list.UserMouseMove(entries[place]);
-  if (verb != "move" && verb != "down") list.UserMouseUp(button);
+  if (verb != "move" && verb != "down") list.UserMouseUp(ListBox::kLeftButton);
   return Refusal::None;
 }
 

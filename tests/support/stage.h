@@ -18,7 +18,7 @@ namespace ORXKMPrintProp::test {
 /// widgets as the layout does, `lstPrint(1)`:
 ///
 ///     tab 1, pick COMBO 2, toggle CHECK, press BUTTON, key BOX x, edit BOX new text
-///     click LIST 0 (with more entries a drag), down LIST 0, move LIST 1, up LIST, rclick LIST 0
+///     click LIST 0 (with more entries a drag), down LIST 0, move LIST 1, up LIST
 ///     readonly on, load (the tables of `next`), read TABLE (what the host gets), see LINE (of the state)
 class Stage : private ORXQueryPrnPropEvents, private View {
  public:

@@ -97,6 +97,7 @@ std::shared_ptr<MemoryTable> TableFrom(Kind kind, const std::string& rows) {
   std::vector<Cells> lines;
   std::istringstream in(rows);
   for (std::string line; std::getline(in, line);) {
+    if (line.empty()) continue;
     lines.push_back(CellsFrom(line));
     for (const auto& [column, cell] : lines.back()) {
       if (std::find(columns.begin(), columns.end(), Wide(column)) == columns.end()) columns.push_back(Wide(column));
