@@ -111,16 +111,15 @@ TEST(Control, StoresLayoutsWhereTheButtonSays) {
             "dimension:\nIOBJNM='A'\nIOBJNM='B' PR_SUM_LAYOUT='totals'\nIOBJNM='B'\nmember:\nattribute:\n");
 }
 
-/// Calls line by line; those on the cells of one row stand on one line, without the values.
+/// The calls in a line; of those on the cells of one row, which stand together, the first and the last.
 std::string Told(const std::vector<std::string>& calls) {
-  std::string text, row;
-  for (const std::string& call : calls) {
-    const std::size_t cell = call.find(".Value(");
-    const std::size_t end = call.find(')', cell);
-    const std::string on = cell == std::string::npos ? "" : call.substr(0, cell) + call.substr(end + 1, 1);
-    if (on.empty() || on != row) text += (text.empty() ? "" : "\n") + (on.empty() ? call : on);
-    if (!on.empty()) text += " " + call.substr(cell + 7, end - cell - 7);
-    row = on;
+  std::string text;
+  for (std::size_t i = 0; i < calls.size(); ++i) {
+    const auto rowOf = [&](std::size_t k) {
+      return k < calls.size() ? calls[k].substr(0, calls[k].find(".Value(")) : "";
+    };
+    const bool inside = i > 0 && rowOf(i) != calls[i] && rowOf(i - 1) == rowOf(i) && rowOf(i + 1) == rowOf(i);
+    if (!inside) text += (text.empty() ? "" : " ") + calls[i];
   }
   return text;
 }
@@ -132,56 +131,40 @@ TEST(Control, MakesTheTextTablesKeyItsKeyColumn) {
   EXPECT_EQ(watch->calls.size(), 4u + 2 * 164u) << "and one look-up for each text";
   watch->calls.resize(6);
   EXPECT_EQ(Told(watch->calls),
-            "texts.Columns(TARGETID)\ntexts.TARGETID.Index\ntexts.Columns\ntexts.Columns.KeyColumn=1\n"
-            "texts.Rows\ntexts.Rows.Item(ID_PRN_GENERAL)");
+            "texts.Columns(TARGETID) texts.TARGETID.Index texts.Columns texts.Columns.KeyColumn=1 texts.Rows "
+            "texts.Rows.Item(ID_PRN_GENERAL)");
   EXPECT_EQ(FailureOf([&] { control.ORXControlTexts(MemoryTable::Create({u"CAPTION"})); }),
             static_cast<int>(ErrorKind::Table));
   gTextTable.reset();
 }
 
-TEST(Control, CallsTheTablesInTheOrderOfTheirColumns) {
+TEST(Control, CallsTheTablesInTheirOrder) {
   const Settings settings("IS_STRUCTURE='X' IOBJNM='S'\nIOBJNM='A'", "IOBJNM='A' ATTRINM='1'\nIOBJNM='C'",
                           "IOBJNM='T'\nIOBJNM='S' CHAVL='1'");
   const auto watch = std::make_shared<Watch>();
   ORXQueryPrnProp control;
   control.ORXSetPrnTables(Watched("gen", settings.gen, watch), Watched("dim", settings.dim, watch),
                           Watched("mem", settings.mem, watch), Watched("atr", settings.atr, watch));
-  const std::string columns =
-      " IOBJPRSNT PR_COL1_FIX PR_COL2_FIX PR_AUTO_WIDTH PR_COL1_WIDTH PR_COL2_WIDTH PR_COL1_ALIGN PR_COL2_ALIGN "
-      "PR_COL1_HEADER";
   EXPECT_EQ(Told(watch->calls),
-            "gen.RowCount\ngen.Rows(1)\ngen[1] TITLE PRINT_DIRECTION MAX_PAGES HIDE_ZERO USE_COLORS MARGIN_TOP "
-            "MARGIN_BOTTOM MARGIN_LEFT MARGIN_RIGHT SUMPOSIT NOMULTTXT SIGNPRSNT NO_LINES CURUNITPOSITION\n"
-            "dim.Rows\ndim.Rows.Enumerate\ndim.Next\ndim[1] IS_STRUCTURE\ndim[1].RowNumber\n"
-            "dim.Next\ndim[2] IS_STRUCTURE IOBJNM IOBJTXT POSIT AXIS" +
-                columns +
-                " PR_PAGE_BREAK PR_BREAK_AREA PR_QUERY_BREAK STRT_LVL HRY_ACTIVE HIENM VERSION DATETO NOSUMS\n"
-                "atr.RowCount\natr.RowCount\natr.Rows(1)\natr[1] IOBJNM\natr.Rows(2)\natr[2] IOBJNM\n"
-                "dim[2] IOBJNM IOBJNM\natr.Rows(1)\natr[1] ATTRINM ATTRITXT POSIT HIDDEN" +
-                columns +
-                "\natr.RowCount\natr.Rows(2)\natr[2] IOBJNM\n"
-                "dim.Next\ndim.Rows(1)\ndim[1] IOBJNM IOBJTXT POSIT IOBJNM\n"
-                "mem.Rows\nmem.Rows.Enumerate\nmem.Next\nmem[1] IOBJNM\nmem.Next\nmem[2] IOBJNM CHAVL CHAVLTXT POSIT "
-                "HIDDEN PR_AUTO_WIDTH PR_COL1_WIDTH PR_COL1_ALIGN PR_COL1_HEADER\nmem.Next\n"
-                "gen.Rows\ngen.Rows.RemoveAll");
+            "gen.RowCount gen.Rows(1) gen[1].Value(TITLE) gen[1].Value(CURUNITPOSITION) "
+            "dim.Rows dim.Rows.Enumerate dim.Next dim[1].Value(IS_STRUCTURE) dim[1].RowNumber "
+            "dim.Next dim[2].Value(IS_STRUCTURE) dim[2].Value(NOSUMS) atr.RowCount atr.RowCount "
+            "atr.Rows(1) atr[1].Value(IOBJNM) atr.Rows(2) atr[2].Value(IOBJNM) dim[2].Value(IOBJNM) "
+            "dim[2].Value(IOBJNM) atr.Rows(1) atr[1].Value(ATTRINM) atr[1].Value(PR_COL1_HEADER) "
+            "atr.RowCount atr.Rows(2) atr[2].Value(IOBJNM) dim.Next "
+            "dim.Rows(1) dim[1].Value(IOBJNM) dim[1].Value(IOBJNM) mem.Rows mem.Rows.Enumerate "
+            "mem.Next mem[1].Value(IOBJNM) mem.Next mem[2].Value(IOBJNM) mem[2].Value(PR_COL1_HEADER) mem.Next "
+            "gen.Rows gen.Rows.RemoveAll");
   watch->calls.clear();
   control.ORXDimTable();
   EXPECT_EQ(Told(watch->calls),
-            "gen.Rows\ngen.Rows.RemoveAll\ndim.Rows\ndim.Rows.RemoveAll\nmem.Rows\nmem.Rows.RemoveAll\n"
-            "atr.Rows\natr.Rows.RemoveAll\n"
-            "gen.Rows\ngen.Rows.Add\ngen[1]= TITLE PRINT_DIRECTION MAX_PAGES HIDE_ZERO USE_COLORS FRONTPAGE_LAYOUT "
-            "HEADER_LAYOUT FOOTER_LAYOUT LASTPAGE_LAYOUT MARGIN_TOP MARGIN_BOTTOM MARGIN_LEFT MARGIN_RIGHT SUMPOSIT "
-            "NOMULTTXT SIGNPRSNT NO_LINES CURUNITPOSITION\n"
-            "dim.Rows\ndim.Rows.Add\ndim[1]= IOBJNM IOBJTXT POSIT AXIS" +
-                columns +
-                " PR_COL2_HEADER PR_PAGE_BREAK PR_BREAK_AREA PR_QUERY_BREAK STRT_LVL HRY_ACTIVE PR_HRY_PRSNT "
-                "PR_SUM_LAYOUT HIENM VERSION DATETO NOSUMS\n"
-                "atr.Rows\natr.Rows.Add\natr[1]= IOBJNM ATTRITXT ATTRINM POSIT HIDDEN" +
-                columns +
-                " PR_COL2_HEADER\n"
-                "dim.Rows\ndim.Rows.Add\ndim[2]= AXIS IS_STRUCTURE IOBJNM IOBJTXT POSIT\n"
-                "mem.Rows\nmem.Rows.Add\nmem[1]= IOBJNM CHAVL CHAVLTXT POSIT HIDDEN PR_AUTO_WIDTH PR_COL1_WIDTH "
-                "PR_COL1_ALIGN PR_COL1_HEADER PR_COL2_HEADER");
+            "gen.Rows gen.Rows.RemoveAll dim.Rows dim.Rows.RemoveAll mem.Rows mem.Rows.RemoveAll atr.Rows "
+            "atr.Rows.RemoveAll "
+            "gen.Rows gen.Rows.Add gen[1].Value(TITLE)='T' gen[1].Value(CURUNITPOSITION)='N' "
+            "dim.Rows dim.Rows.Add dim[1].Value(IOBJNM)='A' dim[1].Value(NOSUMS)=' ' "
+            "atr.Rows atr.Rows.Add atr[1].Value(IOBJNM)='A' atr[1].Value(PR_COL2_HEADER)='' "
+            "dim.Rows dim.Rows.Add dim[2].Value(AXIS)='X' dim[2].Value(POSIT)=0 "
+            "mem.Rows mem.Rows.Add mem[1].Value(IOBJNM)='S' mem[1].Value(PR_COL2_HEADER)=''");
 }
 
 }  // namespace

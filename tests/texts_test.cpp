@@ -24,26 +24,23 @@ class LookupTextTest : public testing::Test {
 };
 
 TEST_F(LookupTextTest, ReplacesPlaceholders) {
-  const struct {
-    const char* text;
-    std::vector<Variant> values;
-    const char* result;
-  } rows[] = {{"Page &1 of &2", {u"D"}, "Page  of "},
-              {"&1&2", {u"D", u"A", u"B"}, "A&2"},
-              {"&1 &2", {u"D", u"A", u"B"}, "A B"},
-              {"&12", {u"D"}, "2"},
-              {"&", {u"D"}, "D"},
-              {"&File", {u"D"}, "Dile"},
-              {"&-1", {u"D"}, "1"},
-              {"& 1", {u"D", u"A"}, "A1"},
-              {"&.5x", {u"D", u"A"}, "D5x"},
-              {"&1.", {u"D", u"&2", u"B"}, "&2."},
-              {"a&2&1b", {u"D", u"A", u""}, "a&1b"},
-              {"&1-&3", {u"D", std::int16_t{5}, u"B", Variant()}, "5-"},
-              {"x&1", {u"D", ObjectRef()}, "x"}};
-  for (const auto& row : rows) {
-    UseTexts(std::string("TARGETID='k' CAPTION='") + row.text + "'");
-    EXPECT_EQ(ToAscii(LookupText(u"k", row.values)), row.result) << row.text;
+  const std::vector<Variant> values{u"D", u"A", u"B", Variant(), ObjectRef(), u"&2", std::int16_t{5}};
+  const std::vector<std::pair<std::string, std::string>> rows{{"Page &1 of &9", "Page A of "},
+                                                              {"&1&2", "A&2"},
+                                                              {"&1 &2", "A B"},
+                                                              {"&12", "2"},
+                                                              {"&", "D"},
+                                                              {"&File", "Dile"},
+                                                              {"&-1", "1"},
+                                                              {"& 1", "A1"},
+                                                              {"&.5x", "D5x"},
+                                                              {"&5.", "&2."},
+                                                              {"a&3&1b", "a&1b"},
+                                                              {"&6-&3", "5-"},
+                                                              {"x&4", "x"}};
+  for (const auto& [text, expected] : rows) {
+    UseTexts("TARGETID='k' CAPTION='" + text + "'");
+    EXPECT_EQ(ToAscii(LookupText(u"k", values)), expected) << text;
   }
 }
 
@@ -79,23 +76,19 @@ class NotingPlatform : public RBDoubleByteCS::FontPlatform {
  public:
   explicit NotingPlatform(Text face) : face_(std::move(face)) {}
 
-  Window GetActiveWindow() override { return Note("window", &calls); }
-  Context GetContext(Window window) override { return Note(window == &calls ? "context" : "wrong window", this); }
+  Window GetActiveWindow() override { return &calls; }
+  Context GetContext(Window window) override { return window == &calls ? this : nullptr; }
   Text GetTextFace(Context context, std::size_t length) override {
-    Note(context == this ? "face " + std::to_string(length) : "wrong context", nullptr);
+    calls += (context == this ? "face " : "wrong context ") + std::to_string(length) + ";";
     return face_;
   }
   void ReleaseContext(Window window, Context context) override {
-    Note(window == &calls && context == this ? "release" : "wrong release", nullptr);
+    calls += window == &calls && context == this ? "release;" : "wrong release;";
   }
 
   std::string calls;
 
  private:
-  void* Note(const std::string& call, void* result) {
-    calls += call + ";";
-    return result;
-  }
   Text face_;
 };
 
@@ -114,7 +107,7 @@ TEST(DialogFont, IsThePlatformsFaceUpToItsNulAskedForOnce) {
         EXPECT_EQ(std::tuple(font.Name, font.Size, font.Weight), std::tuple(expected, 8.25, 400));
       }
     }
-    EXPECT_EQ(platform.calls, "window;context;face 80;release;");
+    EXPECT_EQ(platform.calls, "face 80;release;");
   }
   RBDoubleByteCS::FontPlatform withoutView;
   RBDoubleByteCS::GetDefaultDialogFont(withoutView);
