@@ -71,19 +71,9 @@ TEST(Order, FollowsTransfersAndDragsWithTheBreaks) {
   const struct {
     const char *what, *characteristics, *steps, *heard, *lists, *breaks, *committed;
   } rows[] = {
-      {"flags out of order", "aP b cQ d e", "see model", "", "[] [*a b c d e]", "[0 a b >c d] [>0 d] [>0 d]",
-       "a1 b2 c3Q d4 e5"},
-      {"the last of two flags, with nothing below", "a bQ c dQ e", "see model", "", "[] [*a b c d e]",
-       "[0 a b c >d] [>0] [>0]", "a1 b2 c3 d4Q e5"},
-      {"two flags of one, hidden ones", "a b-A cQP d e-", "see model", "", "[b e] [*a c d]", "[0 a >c] [>0] [>0]",
-       "a1 b- c2Q d3 e-"},
       {"flags of the last one", "a bQPA", "see model", "", "[] [*a b]", "[>0 a] [>0 a] [>0 a]", "a1 b2"},
       {"an earlier cover page resets what lies below", "a bQ cP dA e", "pick cmbCharQueryBreak 1", "",
        "[] [*a b c d e]", "[0 >a b c d] [>0 b c d] [>0 b c d]", "a1Q b2 c3 d4 e5"},
-      {"the last that is offered leaves nothing below", "a bQ cP dA e", "pick cmbCharQueryBreak 4", "",
-       "[] [*a b c d e]", "[0 a b c >d] [>0] [>0]", "a1 b2 c3 d4Q e5"},
-      {"a page break narrows the block", "a b c d e", "pick cmbCharPageBreak 2", "", "[] [*a b c d e]",
-       "[>0 a b c d] [0 a >b c d] [>0 c d]", "a1 b2P c3 d4 e5"},
       {"a transfer resets them, with a block at the last", "a bQ cP dA e m-",
        "click lstAvail(1) 0; press cmdLeftToRight(1)", "order;", "[] [*a b c d e m]",
        "[>0 a b c d e] [>0 a b c d e] [0 a b c d >e]", "a1 b2 c3 d4 e5A m6"},
@@ -151,23 +141,6 @@ click lstAvail(1) 0; press cmdLeftToRight(1)
 click lstAvail(1) 0; press cmdLeftToRight(1)
   Error: You may only use up to ten print characteristics
   lists 1: [>*k:11] [*a:1 b:2 c:3 d:4 e:5 f:6 g:7 h:8 i:9 j:10]
-)"},
-             {"positions of a load order the list and stand once in a selector",
-              Settings("IOBJNM='a' IOBJTXT='a' AXIS='Y' POSIT=7\nIOBJNM='h' IOBJTXT='h' POSIT=9\n"
-                       "IOBJNM='b' IOBJTXT='b' AXIS='Y' POSIT=-1\nIOBJNM='c' IOBJTXT='c' AXIS='Y' POSIT=7\n"
-                       "IOBJNM='B' IOBJTXT='B' POSIT=1\n"
-                       "IOBJNM='d' IOBJTXT='d' AXIS='Y' POSIT=8 PR_QUERY_BREAK='X'"),
-              R"(see lists 1; see lists 2; see breaks; see model
-  lists 1: [h:2 B:5] [*b:3 a:1 c:4 d:6]
-  lists 2: [>b:3 a:1 d:6] [] []
-  breaks: [><None>:-1 b:3 a:1] [><None>:-1 b:3 a:1] [><None>:-1 b:3 a:1]
-  model: a7 h-9 b-1 c7 B-1 d8Q
-read general
-  TITLE='T'
-tab 1; read general
-  TITLE='T'
-  breaks: [><None>:-1 b:3 a:1 c:4] [><None>:-1 b:3 a:1 c:4] [><None>:-1 b:3 a:1 c:4]
-  model: a2 h- b1 c3 B- d4
 )"}});
 }
 
@@ -235,17 +208,6 @@ click lstPrint(1) 1; press cmdPrintLayout(4)
   event: layout 4 'B'
   frame 1: ('' 2 0 0 '30' 0 0 '' 0) {(0 '40' 1)} Key {Description}
   lists 1: ([] #1 #1) [a:1 >*b:2]
-click lstPrint(1) 1; click lstPrint(1) 0
-  frame 1: ('T' 0 1 1 '' 0 1 '3' 1 2 '' 1) Key Description
-  lists 1: ([] #1 #1) [>*a:1 b:2]
-readonly off
-  breaks: [><None>:-1 a:1] [><None>:-1 a:1] [><None>:-1 a:1]
-  frame 1: 'T' 0 1 1 '' 0 1 '3' 1 2 '' 1 Key Description
-  frame 3: '' -1 0 ''
-  general: 'T' 1 '0' 0 0 0 0 0 2 0 '0' '0' '0' '0'
-  lists 1: [] [>*a:1 b:2]
-  lists 2: [>a:1 b:2] [] []
-  lists 3: [] [] []
 )"}});
 }
 
