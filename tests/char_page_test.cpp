@@ -186,11 +186,10 @@ read dimension
     PR_COL1_HEADER='x' PR_COL2_HEADER='x' HIENM='H' NOSUMS='U'
   IOBJNM='B' IOBJTXT='b' POSIT=2 AXIS='Y' IOBJPRSNT='2' PR_COL2_FIX='X' PR_COL1_WIDTH=30 PR_COL2_WIDTH=40 STRT_LVL=5
 )"},
-             {"read-only, the user may look but not touch", Settings(kTwo), R"(tab 1; toggle chkCharColAutoWidth
-  frame 1: 'T' 0 1 1 ('') 0 1 '3' 1 2 ('') 1 Key Description
+             {"read-only, the user may look but not touch", Settings(kTwo), R"(tab 1
 readonly on
   breaks: ([><None>:-1 a:1] [><None>:-1 a:1] [><None>:-1 a:1])
-  frame 1: ('T' 0 1 1 '' 0 1 '3' 1 2 '' 1) Key Description
+  frame 1: ('T' 0 1 0 '10' 0 1 '3' 1 2 '20' 1) Key Description
   frame 3: ('' -1 0 '')
   general: ('T' 1 '0' 0 0 0 0 0 2 0 '0' '0' '0' '0')
   lists 1: ([] #1 #1) [*a:1 b:2]
@@ -209,6 +208,12 @@ click lstPrint(1) 1; press cmdPrintLayout(4)
   frame 1: ('' 2 0 0 '30' 0 0 '' 0) {(0 '40' 1)} Key {Description}
   lists 1: ([] #1 #1) [a:1 >*b:2]
 )"}});
+  Stage stage{Settings(kTwo)};
+  EXPECT_EQ(stage.After("tab 1; toggle chkCharColAutoWidth; readonly on; readonly off", {"frame 1", "lists 1"}),
+            "'T' 0 1 1 '' 0 1 '3' 1 2 '' 1 Key Description / [] [*a b]")
+      << "widths too, until the frame is shown again";
+  EXPECT_EQ(stage.After("click lstPrint(1) 0; click lstPrint(1) 1; readonly on; readonly off", {"frame 1"}),
+            "'' 2 0 0 '30' 0 (0 '') 0 {0 '40' 1} Key {Description}");
 }
 
 TEST(HostInAnEvent, MayCallAnythingBack) {

@@ -98,6 +98,7 @@ TEST(Control, StoresLayoutsWhereTheButtonSays) {
               {std::int16_t{4}, u"b", u"of nobody"},
               {std::int32_t{5}, u"A", u"x", kIndex},
               {4.4, u"A", u"x", kIndex},
+              {true, u"A", u"x", kIndex},
               {u"four", u"A", u"x", kType},
               {std::int32_t{40000}, u"A", u"x", kIndex}};
   for (const auto& row : rows) {

@@ -48,25 +48,15 @@ std::string LineOf(const LayoutRow& row) {
 
 /// What a widget shows; of the labels, those that follow the presentation, and of the buttons, the disabled ones.
 std::string FieldOf(const Widget& widget, bool asList) {
-  const LayoutRow& row = widget.Row();
-  switch (row.kind) {
-    case WidgetKind::TextBox:
-      return "'" + ToAscii(dynamic_cast<const TextBox&>(widget).GetText()) + "'";
-    case WidgetKind::CheckBox:
-      return std::to_string(dynamic_cast<const CheckBox&>(widget).Value());
-    case WidgetKind::ListBox:
-      return "[" + StateOf(dynamic_cast<const ListBox&>(widget)) + "]";
-    case WidgetKind::ComboBox: {
-      const auto& combo = dynamic_cast<const ComboBox&>(widget);
-      return asList ? "[" + StateOf(combo) + "]" : std::to_string(combo.ListIndex());
-    }
-    case WidgetKind::CommandButton:
-      return widget.Enabled() ? "" : "#" + std::to_string(row.name.index);
-    case WidgetKind::Label:
-      return row.name.name.ends_with(u"Col1") || row.name.name.ends_with(u"Col2") ? ToAscii(widget.Caption()) : "";
-    default:
-      return "";
+  const WidgetName& name = widget.Row().name;
+  if (const auto* const box = dynamic_cast<const TextBox*>(&widget)) return "'" + ToAscii(box->GetText()) + "'";
+  if (const auto* const check = dynamic_cast<const CheckBox*>(&widget)) return std::to_string(check->Value());
+  if (const auto* const list = dynamic_cast<const ListBox*>(&widget)) return "[" + StateOf(*list) + "]";
+  if (const auto* const combo = dynamic_cast<const ComboBox*>(&widget)) {
+    return asList ? "[" + StateOf(*combo) + "]" : std::to_string(combo->ListIndex());
   }
+  if (dynamic_cast<const CommandButton*>(&widget)) return widget.Enabled() ? "" : "#" + std::to_string(name.index);
+  return name.name.ends_with(u"Col1") || name.name.ends_with(u"Col2") ? ToAscii(widget.Caption()) : "";
 }
 
 }  // namespace
