@@ -72,9 +72,7 @@ TEST(Control, RefusesATableThatIsNoneOrHollow) {
       if (table && which == &Settings::mem) continue;  // not asked without a structure
       EXPECT_EQ(FailureOf([&] { tables.LoadInto(control); }), kObject);
     }
-    if (!table) {
-      EXPECT_EQ(gPrnProp, root) << "nothing is changed";
-    }
+    EXPECT_EQ(gPrnProp == root, !table) << "a table that is none changes nothing";
   }
   EXPECT_EQ(control.ORXDimTable(), settings.dim);
   EXPECT_EQ(other.gen->RowCount(), 1);
@@ -121,8 +119,9 @@ TEST(Control, MakesTheTextTablesKeyItsKeyColumn) {
   EXPECT_EQ(watch->calls,
             (std::vector<std::string>{"texts.Columns(TARGETID)", "texts.TARGETID.Index", "texts.Columns",
                                       "texts.Columns.KeyColumn=1", "texts.Rows", "texts.Rows.Item(ID_PRN_GENERAL)"}));
-  EXPECT_EQ(FailureOf([&] { control.ORXControlTexts(MemoryTable::Create({u"CAPTION"})); }),
-            static_cast<int>(ErrorKind::Table));
+  const TableRef former = gTextTable;
+  EXPECT_THROW(control.ORXControlTexts(MemoryTable::Create({u"CAPTION"})), RunTimeError);
+  EXPECT_EQ(gTextTable, former) << "the former texts stay in use";
   gTextTable.reset();
 }
 

@@ -163,11 +163,15 @@ void Stage::Do(const std::string& step) {
     if (!next.LoadInto(control)) Tell("false");
   } else if (verb == "read") {
     control.ORXDimTable();
-    std::istringstream rows(name == "general"     ? BriefOf(Kind::General, *settings.gen)
-                            : name == "dimension" ? BriefOf(Kind::Dimension, *settings.dim)
-                            : name == "member"    ? BriefOf(Kind::Member, *settings.mem)
-                                                  : BriefOf(Kind::Attribute, *settings.atr));
-    for (std::string row; std::getline(rows, row);) Tell(row);
+    std::istringstream rows(settings.Brief());
+    std::string table;
+    for (std::string row; std::getline(rows, row);) {
+      if (row.ends_with(':')) {
+        table = row;
+      } else if (table == name + ":") {
+        Tell(row);
+      }
+    }
   } else if (verb == "see") {
     const std::string line = name + (rest.empty() ? "" : " " + rest);
     Tell(line + ": " + State()[line]);
@@ -177,7 +181,7 @@ void Stage::Do(const std::string& step) {
       if (DoTo(*widget, verb, rest) != Refusal::None) Tell("refused");
       return;
     }
-    Tell("no widget " + name);
+    ADD_FAILURE() << "no such step: " << step;
   }
 }
 
@@ -216,13 +220,12 @@ std::string Characteristics(const std::string& words) {
   std::string rows;
   int position = 0;
   for (std::string word; in >> word;) {
-    const auto has = [&](char flag) { return word.find(flag) != std::string::npos; };
-    const std::string name = word.substr(0, word.find_first_of("QPA-"));
-    rows += "IOBJNM='" + name + "' IOBJTXT='" + name + "'";
-    if (!has('-')) rows += " AXIS='Y' POSIT=" + std::to_string(++position);
-    if (has('Q')) rows += " PR_QUERY_BREAK='X'";
-    if (has('P')) rows += " PR_PAGE_BREAK='X'";
-    if (has('A')) rows += " PR_BREAK_AREA='X'";
+    const std::string name = "'" + word.substr(0, word.find_first_of("QPA-")) + "'";
+    rows += "IOBJNM=" + name + " IOBJTXT=" + name;
+    if (word.find('-') == std::string::npos) rows += " AXIS='Y' POSIT=" + std::to_string(++position);
+    for (const auto& [letter, column] : {std::pair{'Q', "QUERY_BREAK"}, {'P', "PAGE_BREAK"}, {'A', "BREAK_AREA"}}) {
+      if (word.find(letter) != std::string::npos) rows += std::string(" PR_") + column + "='X'";
+    }
     rows += "\n";
   }
   return rows;
