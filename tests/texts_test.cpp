@@ -2,10 +2,10 @@
 
 #include <vector>
 
+#include "pages/Dialog.h"
 #include "support/table_text.h"
 #include "support/watched_table.h"
 #include "tables/RunTimeError.h"
-#include "texts/DefaultFont.h"
 #include "texts/LookupText.h"
 
 namespace ORXKMPrintProp::test {
@@ -24,47 +24,38 @@ class LookupTextTest : public testing::Test {
 };
 
 TEST_F(LookupTextTest, ReplacesPlaceholders) {
-  const struct {
-    Text text;
-    std::vector<Variant> values;
-    Text result;
-  } rows[] = {
-      {u"Page &1 of &2", {u"D"}, u"Page  of "},
-      {u"&1&2", {u"D", u"A", u"B"}, u"A&2"},
-      {u"&1 &2", {u"D", u"A", u"B"}, u"A B"},
-      {u"&12", {u"D"}, u"2"},
-      {u"&0", {u"D"}, u"D"},
-      {u"&", {u"D"}, u"D"},
-      {u"&File", {u"D"}, u"Dile"},
-      {u"&-1", {u"D"}, u"1"},
-      {u"& 1", {u"D", u"A"}, u"A1"},
-      {u"&.5x", {u"D", u"A"}, u"D5x"},
-      {u"&1.", {u"D", u"&2", u"B"}, u"&2."},
-      {u"a&2&1b", {u"D", u"A", u""}, u"a&1b"},
-      {u"&1&", {u"D", u"A"}, u"A&"},
-      {u"&&&", {u"D"}, u"D&"},
-      {u"&1-&3", {u"D", std::int16_t{5}, u"B", Variant()}, u"5-"},
-      {u"x&1", {u"D", ObjectRef()}, u"x"},
-      {u"none", {u"D"}, u"none"},
+  const std::vector<Variant> values{u"D", u"A", u"B", Variant(), ObjectRef(), u"&2", std::int16_t{5}};
+  const std::vector<std::pair<std::string, std::string>> rows{
+      {"Page &1 of &9", "Page A of "},
+      {"&1&2", "A&2"},
+      {"&1 &2", "A B"},
+      {"&12", "2"},
+      {"&", "D"},
+      {"&File", "Dile"},
+      {"&-1", "1"},
+      {"& 1", "A1"},
+      {"&.5x", "D5x"},
+      {"&5.", "&2."},
+      {"a&3&1b", "a&1b"},
+      {"&6-&3", "5-"},
+      {"x&4", "x"},
   };
-  for (const auto& row : rows) {
-    const auto texts = TableFrom(Kind::Texts, "TARGETID='k'");
-    texts->Rows(1)->Value(u"CAPTION", row.text);
-    texts->Columns()->KeyColumn(std::int32_t{1});
-    gTextTable = texts;
-    EXPECT_EQ(ToAscii(LookupText(u"k", row.values)), ToAscii(row.result)) << ToAscii(row.text);
+  for (const auto& [text, expected] : rows) {
+    UseTexts("TARGETID='k' CAPTION='" + text + "'");
+    EXPECT_EQ(ToAscii(LookupText(u"k", values)), expected) << text;
   }
 }
 
 TEST_F(LookupTextTest, TakesTheTableWhereItHasTheKeyAndTheDefaultElse) {
-  EXPECT_EQ(LookupText(u"k", u"D"), u"D");
-  EXPECT_EQ(LookupText(u"k", u"D&1"), u"D");
+  const char16_t* const keys[] = {u"k", u"empty", u"number", u"none", u"K"};
+  const auto texts = [&] {
+    std::string all;
+    for (const auto* const key : keys) all += ToAscii(LookupText(key, u"D&1")) + "|";
+    return all;
+  };
+  EXPECT_EQ(texts(), "D|D|D|D|D|");
   UseTexts("TARGETID='k' CAPTION='text'\nTARGETID='empty' CAPTION=''\nTARGETID='number' CAPTION=7\nTARGETID='none'");
-  EXPECT_EQ(LookupText(u"k", u"D"), u"text");
-  EXPECT_EQ(LookupText(u"empty", u"D"), u"");
-  EXPECT_EQ(LookupText(u"number", u"D"), u"7");
-  EXPECT_EQ(LookupText(u"none", u"D"), u"");
-  EXPECT_EQ(LookupText(u"K", u"D"), u"D");
+  EXPECT_EQ(texts(), "text||7||D|");
   EXPECT_THROW(LookupText(u"k", std::vector<Variant>()), RunTimeError);
 }
 
@@ -77,11 +68,9 @@ TEST_F(LookupTextTest, ToleratesAFailingLookUpButNotAFailingCell) {
     watch->failAt = k;
     return ToAscii(LookupText(u"k", u"D"));
   };
-  EXPECT_EQ(failingAt(1), "D") << watch->calls.back();
-  EXPECT_EQ(failingAt(2), "D") << watch->calls.back();
+  EXPECT_EQ(failingAt(1) + failingAt(2) + failingAt(0), "DDtext");
   EXPECT_THROW(failingAt(3), RunTimeError);
   EXPECT_EQ(watch->calls, (std::vector<std::string>{"texts.Rows", "texts.Rows.Item(k)", "texts[1].Value(CAPTION)"}));
-  EXPECT_EQ(failingAt(0), "text");
 }
 
 /// Notes what it is asked, and has a face name of its own.
@@ -89,37 +78,38 @@ class NotingPlatform : public RBDoubleByteCS::FontPlatform {
  public:
   explicit NotingPlatform(Text face) : face_(std::move(face)) {}
 
-  Window GetActiveWindow() override { return Note("window", &calls); }
-  Context GetContext(Window window) override { return Note(window == &calls ? "context" : "wrong window", this); }
+  Window GetActiveWindow() override { return &calls; }
+  Context GetContext(Window window) override { return window == &calls ? this : nullptr; }
   Text GetTextFace(Context context, std::size_t length) override {
-    Note(context == this ? "face " + std::to_string(length) : "wrong context", nullptr);
+    calls += (context == this ? "face " : "wrong context ") + std::to_string(length) + ";";
     return face_;
   }
   void ReleaseContext(Window window, Context context) override {
-    Note(window == &calls && context == this ? "release" : "wrong release", nullptr);
+    calls += window == &calls && context == this ? "release;" : "wrong release;";
   }
 
   std::string calls;
 
  private:
-  void* Note(const std::string& call, void* result) {
-    calls += call + ";";
-    return result;
-  }
   Text face_;
 };
 
-TEST(DefaultFont, IsThePlatformsFaceUpToItsNul) {
+TEST(DialogFont, IsThePlatformsFaceUpToItsNulAskedForOnce) {
   const Text nul(1, u'\0');
   const std::pair<Text, Text> rows[] = {
-      {u"Face" + nul + u"rest" + nul, u"Face"}, {u" Face " + nul, u" Face "}, {nul + u"Face", u""}, {u"Face", u"Face"},
-      {Text(79, u'x') + nul, Text(79, u'x')},
-  };
+      {u"Face" + nul + u"rest" + nul, u"Face"}, {u" Face " + nul, u" Face "}, {u"Face", u"Face"}};
   for (const auto& [face, expected] : rows) {
+    gDefaultFontName.clear();
     NotingPlatform platform(face);
-    RBDoubleByteCS::GetDefaultDialogFont(platform);
-    EXPECT_EQ(gDefaultFontName, expected);
-    EXPECT_EQ(platform.calls, "window;context;face 80;release;");
+    for (int control = 0; control < 2; ++control) {
+      Dialog dialog;
+      dialog.ApplyDialogFont(platform);
+      for (const auto& widget : dialog.Controls()) {
+        const Font& font = widget->GetFont();
+        EXPECT_EQ(std::tuple(font.Name, font.Size, font.Weight), std::tuple(expected, 8.25, 400));
+      }
+    }
+    EXPECT_EQ(platform.calls, "face 80;release;");
   }
   RBDoubleByteCS::FontPlatform withoutView;
   RBDoubleByteCS::GetDefaultDialogFont(withoutView);

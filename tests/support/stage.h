@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -11,98 +12,58 @@
 namespace ORXKMPrintProp::test {
 
 /// A control with settings in it, a user in front of it and a host behind it.
+///
+/// What they do is played from a transcript: a line holds steps, and the lines behind it, indented by two blanks, say
+/// all that these change in the dialog and the model, and what host and user hear. Steps stand apart by "; " and name
+/// widgets as the layout does, `lstPrint(1)`:
+///
+///     tab 1, pick COMBO 2, toggle CHECK, press BUTTON, key BOX x, edit BOX new text
+///     click LIST 0 (with more entries a drag), down LIST 0, move LIST 1, up LIST
+///     readonly on, load (the tables of `next`), read TABLE (what the host gets), see LINE (of the state)
 class Stage : private ORXQueryPrnPropEvents, private View {
  public:
-  explicit Stage(Settings settings = Settings()) : settings(std::move(settings)) {
-    control.Connect(*this);
-    control.GetDialog().SetView(this);
-    if (this->settings.gen->RowCount() > 0) this->settings.LoadInto(control);
-  }
-  ~Stage() override { control.GetDialog().SetView(nullptr); }
+  explicit Stage(Settings settings = Settings());
+  ~Stage() override;
 
-  ListBox& List(TextView name, std::int16_t index = WidgetName::kNoIndex) {
-    return Dialog_().Get<ListBox>(name, index);
-  }
-  ComboBox& Combo(TextView name) { return Dialog_().Get<ComboBox>(name); }
-  TextBox& Box(TextView name) { return Dialog_().Get<TextBox>(name); }
-  CheckBox& Check(TextView name) { return Dialog_().Get<CheckBox>(name); }
-  CommandButton& Button(TextView name, std::int16_t index) { return Dialog_().Get<CommandButton>(name, index); }
-  Dialog& Dialog_() { return control.GetDialog(); }
+  /// Carries the steps out. @return the transcript with what happens now behind each step.
+  std::string Play(const std::string& transcript);
 
-  void Tab(std::int16_t tab) { Dialog_().TabStrip().UserPick(tab); }
-  void Click(ListBox& list, std::int16_t entry) { Drag(list, {entry}); }
-  /// Button down on the first entry, the pointer over the others in turn, button up.
-  void Drag(ListBox& list, const std::vector<std::int16_t>& entries) {
-    list.UserMouseDown(entries[0], ListBox::kLeftButton);
-    for (std::size_t i = 1; i < entries.size(); ++i) list.UserMouseMove(entries[i]);
-    list.UserMouseUp(ListBox::kLeftButton);
-  }
-  void Press(TextView button, std::int16_t index) { Button(button, index).UserPress(); }
+  /// The same without the transcript. @return these lines of the state then, without item numbers and with 0 for the
+  /// entry <None>.
+  std::string After(const std::string& steps, const std::vector<std::string>& lines);
 
-  /// "available | printed" of the page with that number.
-  std::string Lists(std::int16_t tab) {
-    return StateOf(List(u"lstAvail", tab)) + " | " + StateOf(List(u"lstPrint", tab));
-  }
-  /// The three group-change selectors from top to bottom.
-  std::string Breaks() {
-    return StateOf(Combo(u"cmbCharQueryBreak")) + " / " + StateOf(Combo(u"cmbCharPageBreak")) + " / " +
-           StateOf(Combo(u"cmbCharBreakArea"));
-  }
-  /// The names of the widgets that begin so and are enabled, or visible, without what they begin with.
-  std::string EnabledOf(TextView begin) {
-    return Those(begin, [](const Widget& w) { return w.Enabled(); });
-  }
-  std::string HiddenOf(TextView begin) {
-    return Those(begin, [](const Widget& w) { return !w.Visible(); });
-  }
-
-  /// What the host reads now, in brief. The page on top is committed by that.
-  std::string Read() {
-    control.ORXDimTable();
-    return settings.Brief();
-  }
-  std::string ReadDimension() {
-    control.ORXDimTable();
-    return BriefOf(Kind::Dimension, *settings.dim);
-  }
-  /// What has come to the host and the user since it was last asked.
-  std::string Events() { return std::exchange(events_, ""); }
+  /// By name: "general" and "frame 1" to "frame 3", fields in the order of the layout, "(...)" the disabled and "{...}"
+  /// the hidden ones; "lists 1" to "lists 3"; "breaks", the three selectors; "pointer"; "model", items with position,
+  /// "-" where hidden, the letters of breaks and what they own: `a1Q(p2 q-)`.
+  std::map<std::string, std::string> State();
 
   Settings settings;
+  Settings next;
   ORXQueryPrnProp control;
   std::function<void()> onOrderChanged = [] {};
-  std::function<void()> onPrintLayoutGet = [] {};
   std::function<void()> onMessage = [] {};
 
  private:
-  void ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) override {
-    events_ += "layout " + std::to_string(ButtonID) + " '" + ToAscii(CharIObjName) + "';";
-    onPrintLayoutGet();
-  }
-  void ORXOrderChanged() override {
-    events_ += "order;";
-    onOrderChanged();
-  }
-  void MsgBox(const Text& text, const Text& title) override {
-    events_ += ToAscii(title) + ": " + ToAscii(text) + ";";
-    onMessage();
-  }
+  void ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) override;
+  void ORXOrderChanged() override;
+  void MsgBox(const Text& text, const Text& title) override;
 
-  template <class Condition>
-  std::string Those(TextView begin, Condition condition) {
-    std::string names;
-    for (const auto& widget : Dialog_().Controls()) {
-      const WidgetName& name = widget->Row().name;
-      if (!name.name.substr(3).starts_with(begin) || !condition(*widget)) continue;
-      const WidgetKind kind = widget->Row().kind;
-      if (kind == WidgetKind::Label || kind == WidgetKind::Frame) continue;
-      names += (names.empty() ? "" : " ") + ToAscii(name.name.substr(3 + begin.size()));
-    }
-    return names;
-  }
+  void DoAll(const std::string& steps);
+  void Do(const std::string& step);
+  Refusal DoTo(Widget& widget, const std::string& verb, const std::string& rest);
+  void Tell(std::string line);
 
-  std::string events_;
+  std::string told_;
 };
+
+struct Scene {
+  const char* what;
+  Settings settings;
+  std::string transcript;
+};
+
+/// Each on a stage of its own.
+void ExpectAll(const std::initializer_list<Scene>& scenes);
 
 /// Dimension rows of print characteristics, in their order: `a b c` with the flags of each behind it, Q, P, A for
 /// the breaks, - for a hidden one.

@@ -1,7 +1,6 @@
 #include "support/table_text.h"
 
 #include <algorithm>
-#include <map>
 #include <sstream>
 #include <stdexcept>
 
@@ -11,53 +10,30 @@
 namespace ORXKMPrintProp::test {
 namespace {
 
-struct KindColumns {
-  std::vector<std::string> columns;
-  std::vector<std::string> integers;
-  std::string unset;  ///< what the control writes for an item about which nothing is set
-};
-
-std::vector<std::string> Words(const std::string& text) {
-  std::istringstream in(text);
-  std::vector<std::string> words;
-  for (std::string word; in >> word;) words.push_back(word);
-  return words;
-}
-
-const KindColumns& ColumnsOf(Kind kind) {
-  static const std::map<Kind, KindColumns> kinds{
-      {Kind::General,
-       {Words("TITLE PRINT_DIRECTION MAX_PAGES HIDE_ZERO USE_COLORS FRONTPAGE_LAYOUT HEADER_LAYOUT FOOTER_LAYOUT "
-              "LASTPAGE_LAYOUT MARGIN_TOP MARGIN_BOTTOM MARGIN_LEFT MARGIN_RIGHT SUMPOSIT NOMULTTXT SIGNPRSNT NO_LINES "
-              "CURUNITPOSITION"),
-        Words("MARGIN_TOP MARGIN_BOTTOM MARGIN_LEFT MARGIN_RIGHT"),
-        "TITLE='' PRINT_DIRECTION='V' MAX_PAGES='0' HIDE_ZERO=' ' USE_COLORS=' ' FRONTPAGE_LAYOUT='' "
-        "HEADER_LAYOUT='' FOOTER_LAYOUT='' LASTPAGE_LAYOUT='' MARGIN_TOP=0 MARGIN_BOTTOM=0 MARGIN_LEFT=0 "
-        "MARGIN_RIGHT=0 SUMPOSIT='2' NOMULTTXT=' ' SIGNPRSNT='1' NO_LINES=' ' CURUNITPOSITION='N'"}},
-      {Kind::Dimension,
-       {Words("IOBJNM IOBJTXT POSIT AXIS IOBJPRSNT PR_COL1_FIX PR_COL2_FIX PR_AUTO_WIDTH PR_COL1_WIDTH PR_COL2_WIDTH "
-              "PR_COL1_ALIGN PR_COL2_ALIGN PR_COL1_HEADER PR_COL2_HEADER PR_PAGE_BREAK PR_BREAK_AREA PR_QUERY_BREAK "
-              "STRT_LVL HRY_ACTIVE PR_HRY_PRSNT PR_SUM_LAYOUT HIENM VERSION DATETO NOSUMS IS_STRUCTURE"),
-        Words("POSIT PR_COL1_WIDTH PR_COL2_WIDTH STRT_LVL"),
-        "IOBJTXT='' POSIT=0 AXIS=' ' IOBJPRSNT='1' PR_COL1_FIX=' ' PR_COL2_FIX=' ' PR_AUTO_WIDTH=' ' "
-        "PR_COL1_WIDTH=0 PR_COL2_WIDTH=0 PR_COL1_ALIGN='L' PR_COL2_ALIGN='L' PR_COL1_HEADER='' PR_COL2_HEADER='' "
-        "PR_PAGE_BREAK=' ' PR_BREAK_AREA=' ' PR_QUERY_BREAK=' ' STRT_LVL=0 HRY_ACTIVE=' ' PR_HRY_PRSNT='*' "
-        "PR_SUM_LAYOUT='' HIENM='' VERSION='' DATETO='' NOSUMS=' '"}},
-      {Kind::Member,
-       {Words("IOBJNM CHAVL CHAVLTXT POSIT HIDDEN PR_AUTO_WIDTH PR_COL1_WIDTH PR_COL1_ALIGN PR_COL1_HEADER "
-              "PR_COL2_HEADER"),
-        Words("POSIT PR_COL1_WIDTH"),
-        "CHAVLTXT='' POSIT=0 HIDDEN=' ' PR_AUTO_WIDTH=' ' PR_COL1_WIDTH=0 PR_COL1_ALIGN='L' PR_COL1_HEADER='' "
-        "PR_COL2_HEADER=''"}},
-      {Kind::Attribute,
-       {Words("IOBJNM ATTRITXT ATTRINM POSIT HIDDEN IOBJPRSNT PR_COL1_FIX PR_COL2_FIX PR_AUTO_WIDTH PR_COL1_WIDTH "
-              "PR_COL2_WIDTH PR_COL1_ALIGN PR_COL2_ALIGN PR_COL1_HEADER PR_COL2_HEADER"),
-        Words("POSIT PR_COL1_WIDTH PR_COL2_WIDTH"),
-        "ATTRITXT='' POSIT=0 HIDDEN=' ' IOBJPRSNT='1' PR_COL1_FIX=' ' PR_COL2_FIX=' ' PR_AUTO_WIDTH=' ' "
-        "PR_COL1_WIDTH=0 PR_COL2_WIDTH=0 PR_COL1_ALIGN='L' PR_COL2_ALIGN='L' PR_COL1_HEADER='' PR_COL2_HEADER=''"}},
-      {Kind::Texts, {Words("TARGETID CAPTION"), {}, ""}},
-  };
-  return kinds.at(kind);
+/// The columns of a kind, each with what the control writes for an item about which nothing is set; the name of an
+/// item has no such cell.
+const char* UnsetOf(Kind kind) {
+  switch (kind) {
+    case Kind::General:
+      return "TITLE='' PRINT_DIRECTION='V' MAX_PAGES='0' HIDE_ZERO=' ' USE_COLORS=' ' FRONTPAGE_LAYOUT='' "
+             "HEADER_LAYOUT='' FOOTER_LAYOUT='' LASTPAGE_LAYOUT='' MARGIN_TOP=0 MARGIN_BOTTOM=0 MARGIN_LEFT=0 "
+             "MARGIN_RIGHT=0 SUMPOSIT='2' NOMULTTXT=' ' SIGNPRSNT='1' NO_LINES=' ' CURUNITPOSITION='N'";
+    case Kind::Dimension:
+      return "IOBJNM= IOBJTXT='' POSIT=0 AXIS=' ' IOBJPRSNT='1' PR_COL1_FIX=' ' PR_COL2_FIX=' ' PR_AUTO_WIDTH=' ' "
+             "PR_COL1_WIDTH=0 PR_COL2_WIDTH=0 PR_COL1_ALIGN='L' PR_COL2_ALIGN='L' PR_COL1_HEADER='' "
+             "PR_COL2_HEADER='' PR_PAGE_BREAK=' ' PR_BREAK_AREA=' ' PR_QUERY_BREAK=' ' STRT_LVL=0 HRY_ACTIVE=' ' "
+             "PR_HRY_PRSNT='*' PR_SUM_LAYOUT='' HIENM='' VERSION='' DATETO='' NOSUMS=' ' IS_STRUCTURE=";
+    case Kind::Member:
+      return "IOBJNM= CHAVL= CHAVLTXT='' POSIT=0 HIDDEN=' ' PR_AUTO_WIDTH=' ' PR_COL1_WIDTH=0 PR_COL1_ALIGN='L' "
+             "PR_COL1_HEADER='' PR_COL2_HEADER=''";
+    case Kind::Attribute:
+      return "IOBJNM= ATTRITXT='' ATTRINM= POSIT=0 HIDDEN=' ' IOBJPRSNT='1' PR_COL1_FIX=' ' PR_COL2_FIX=' ' "
+             "PR_AUTO_WIDTH=' ' PR_COL1_WIDTH=0 PR_COL2_WIDTH=0 PR_COL1_ALIGN='L' PR_COL2_ALIGN='L' "
+             "PR_COL1_HEADER='' PR_COL2_HEADER=''";
+    case Kind::Texts:
+      return "TARGETID= CAPTION=";
+  }
+  return "";
 }
 
 using Cells = std::vector<std::pair<std::string, std::string>>;
@@ -68,7 +44,7 @@ Cells CellsFrom(const std::string& line) {
   while ((at = line.find_first_not_of(' ', at)) != std::string::npos) {
     const std::size_t equals = line.find('=', at);
     if (equals == std::string::npos) throw std::invalid_argument("no cell: " + line.substr(at));
-    const bool quoted = line.at(equals + 1) == '\'';
+    const bool quoted = line.compare(equals + 1, 1, "'") == 0;
     const std::size_t last = quoted ? line.find('\'', equals + 2) + 1 : std::min(line.find(' ', equals), line.size());
     cells.emplace_back(line.substr(at, equals - at), line.substr(equals + 1, last - equals - 1));
     at = last;
@@ -115,12 +91,13 @@ Variant VariantFrom(const std::string& text) {
 }
 
 std::shared_ptr<MemoryTable> TableFrom(Kind kind, const std::string& rows) {
-  std::vector<Cells> lines;
+  const Cells unset = CellsFrom(UnsetOf(kind));
   std::vector<Text> columns;
-  for (const std::string& column : ColumnsOf(kind).columns) columns.push_back(Wide(column));
+  for (const auto& [column, cell] : unset) columns.push_back(Wide(column));
+  std::vector<Cells> lines;
   std::istringstream in(rows);
   for (std::string line; std::getline(in, line);) {
-    if (line.find_first_not_of(' ') == std::string::npos) continue;
+    if (line.empty()) continue;
     lines.push_back(CellsFrom(line));
     for (const auto& [column, cell] : lines.back()) {
       if (std::find(columns.begin(), columns.end(), Wide(column)) == columns.end()) columns.push_back(Wide(column));
@@ -129,7 +106,9 @@ std::shared_ptr<MemoryTable> TableFrom(Kind kind, const std::string& rows) {
   auto table = MemoryTable::Create(columns);
   for (const Cells& cells : lines) {
     const RowRef row = AddRow(*table);
-    for (const std::string& column : ColumnsOf(kind).integers) row->Value(Wide(column), std::int32_t{0});
+    for (const auto& [column, cell] : unset) {
+      if (cell == "0") row->Value(Wide(column), std::int32_t{0});
+    }
     for (const auto& [column, cell] : cells) row->Value(Wide(column), VariantFrom(cell));
   }
   return table;
@@ -137,6 +116,6 @@ std::shared_ptr<MemoryTable> TableFrom(Kind kind, const std::string& rows) {
 
 std::string ToString(Table& table) { return TableText(table, {}); }
 
-std::string BriefOf(Kind kind, Table& table) { return TableText(table, CellsFrom(ColumnsOf(kind).unset)); }
+std::string BriefOf(Kind kind, Table& table) { return TableText(table, CellsFrom(UnsetOf(kind))); }
 
 }  // namespace ORXKMPrintProp::test

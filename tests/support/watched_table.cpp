@@ -8,131 +8,85 @@
 namespace ORXKMPrintProp::test {
 namespace {
 
-/// A part of a table beside the watch that hears of it.
+/// A part of a table that tells a watch of every operation and then goes on to the part itself.
 template <class Part>
-struct Seen {
-  std::string name;
-  std::shared_ptr<Part> part;
-  std::shared_ptr<Watch> watch;
-
-  void Note(const std::string& call) const { watch->Note(name + call); }
-};
-
-class WatchedRow : public Row {
+class Seen : public Part {
  public:
-  explicit WatchedRow(Seen<Row> seen) : seen_(std::move(seen)) {}
-  Variant Value(TextView column) const override {
-    seen_.Note(".Value(" + ToAscii(column) + ")");
-    return seen_.part->Value(column);
-  }
-  void Value(TextView column, Variant value) override {
-    seen_.Note(".Value(" + ToAscii(column) + ")=" + ToString(value));
-    seen_.part->Value(column, std::move(value));
-  }
-  std::int32_t RowNumber() const override {
-    seen_.Note(".RowNumber");
-    return seen_.part->RowNumber();
+  Seen(std::string name, std::shared_ptr<Part> part, std::shared_ptr<Watch> watch)
+      : name_(std::move(name)), part_(std::move(part)), watch_(std::move(watch)) {}
+
+ protected:
+  Part& On(const std::string& call) const {
+    watch_->Note(name_ + call);
+    return *part_;
   }
 
- private:
-  Seen<Row> seen_;
+  template <class Watching, class Other>
+  std::shared_ptr<Watching> See(std::shared_ptr<Other> other, const std::string& suffix = "") const {
+    return std::make_shared<Watching>(name_ + suffix, std::move(other), watch_);
+  }
+
+  RowRef SeeRow(const RowRef& row) const;
+
+  std::string name_;
+  std::shared_ptr<Part> part_;
+  std::shared_ptr<Watch> watch_;
+};
+
+class WatchedRow : public Seen<Row> {
+ public:
+  using Seen::Seen;
+  Variant Value(TextView column) const override { return On(".Value(" + ToAscii(column) + ")").Value(column); }
+  void Value(TextView column, Variant value) override {
+    On(".Value(" + ToAscii(column) + ")=" + ToString(value)).Value(column, std::move(value));
+  }
+  std::int32_t RowNumber() const override { return On(".RowNumber").RowNumber(); }
 };
 
 template <class Part>
-RowRef WatchedRowOf(const Seen<Part>& seen, const RowRef& row) {
-  if (!row) return nullptr;
-  return std::make_shared<WatchedRow>(
-      Seen<Row>{seen.name + "[" + std::to_string(row->RowNumber()) + "]", row, seen.watch});
+RowRef Seen<Part>::SeeRow(const RowRef& row) const {
+  return row ? See<WatchedRow>(row, "[" + std::to_string(row->RowNumber()) + "]") : nullptr;
 }
 
-class WatchedEnumerator : public RowEnumerator {
+class WatchedEnumerator : public Seen<RowEnumerator> {
  public:
-  explicit WatchedEnumerator(Seen<RowEnumerator> seen) : seen_(std::move(seen)) {}
-  RowRef Next() override {
-    seen_.Note(".Next");
-    return WatchedRowOf(seen_, seen_.part->Next());
-  }
-
- private:
-  Seen<RowEnumerator> seen_;
+  using Seen::Seen;
+  RowRef Next() override { return SeeRow(On(".Next").Next()); }
 };
 
-class WatchedRowList : public RowList {
+class WatchedRowList : public Seen<RowList> {
  public:
-  explicit WatchedRowList(Seen<RowList> seen) : seen_(std::move(seen)) {}
-  RowRef Add() override {
-    seen_.Note(".Rows.Add");
-    return WatchedRowOf(seen_, seen_.part->Add());
-  }
-  void RemoveAll() override {
-    seen_.Note(".Rows.RemoveAll");
-    seen_.part->RemoveAll();
-  }
-  RowRef Item(const Text& key) override {
-    seen_.Note(".Rows.Item(" + ToAscii(key) + ")");
-    return WatchedRowOf(seen_, seen_.part->Item(key));
-  }
+  using Seen::Seen;
+  RowRef Add() override { return SeeRow(On(".Rows.Add").Add()); }
+  void RemoveAll() override { On(".Rows.RemoveAll").RemoveAll(); }
+  RowRef Item(const Text& key) override { return SeeRow(On(".Rows.Item(" + ToAscii(key) + ")").Item(key)); }
   std::unique_ptr<RowEnumerator> Enumerate() override {
-    seen_.Note(".Rows.Enumerate");
-    return std::make_unique<WatchedEnumerator>(
-        Seen<RowEnumerator>{seen_.name, std::shared_ptr<RowEnumerator>(seen_.part->Enumerate()), seen_.watch});
+    return std::make_unique<WatchedEnumerator>(name_, On(".Rows.Enumerate").Enumerate(), watch_);
   }
-
- private:
-  Seen<RowList> seen_;
 };
 
-class WatchedColumn : public Column {
+class WatchedColumn : public Seen<Column> {
  public:
-  explicit WatchedColumn(Seen<Column> seen) : seen_(std::move(seen)) {}
-  Variant Index() const override {
-    seen_.Note(".Index");
-    return seen_.part->Index();
-  }
-
- private:
-  Seen<Column> seen_;
+  using Seen::Seen;
+  Variant Index() const override { return On(".Index").Index(); }
 };
 
-class WatchedColumnList : public ColumnList {
+class WatchedColumnList : public Seen<ColumnList> {
  public:
-  explicit WatchedColumnList(Seen<ColumnList> seen) : seen_(std::move(seen)) {}
-  void KeyColumn(const Variant& index) override {
-    seen_.Note(".Columns.KeyColumn=" + ToString(index));
-    seen_.part->KeyColumn(index);
-  }
-
- private:
-  Seen<ColumnList> seen_;
+  using Seen::Seen;
+  void KeyColumn(const Variant& index) override { On(".Columns.KeyColumn=" + ToString(index)).KeyColumn(index); }
 };
 
-class WatchedTable : public Table {
+class WatchedTable : public Seen<Table> {
  public:
-  explicit WatchedTable(Seen<Table> seen) : seen_(std::move(seen)) {}
-  std::int32_t RowCount() override {
-    seen_.Note(".RowCount");
-    return seen_.part->RowCount();
-  }
-  RowListRef Rows() override {
-    seen_.Note(".Rows");
-    return std::make_shared<WatchedRowList>(Seen<RowList>{seen_.name, seen_.part->Rows(), seen_.watch});
-  }
-  RowRef Rows(std::int32_t number) override {
-    seen_.Note(".Rows(" + std::to_string(number) + ")");
-    return WatchedRowOf(seen_, seen_.part->Rows(number));
-  }
-  ColumnListRef Columns() override {
-    seen_.Note(".Columns");
-    return std::make_shared<WatchedColumnList>(Seen<ColumnList>{seen_.name, seen_.part->Columns(), seen_.watch});
-  }
+  using Seen::Seen;
+  std::int32_t RowCount() override { return On(".RowCount").RowCount(); }
+  RowListRef Rows() override { return See<WatchedRowList>(On(".Rows").Rows()); }
+  RowRef Rows(std::int32_t number) override { return SeeRow(On(".Rows(" + std::to_string(number) + ")").Rows(number)); }
+  ColumnListRef Columns() override { return See<WatchedColumnList>(On(".Columns").Columns()); }
   ColumnRef Columns(TextView name) override {
-    seen_.Note(".Columns(" + ToAscii(name) + ")");
-    return std::make_shared<WatchedColumn>(
-        Seen<Column>{seen_.name + "." + ToAscii(name), seen_.part->Columns(name), seen_.watch});
+    return See<WatchedColumn>(On(".Columns(" + ToAscii(name) + ")").Columns(name), "." + ToAscii(name));
   }
-
- private:
-  Seen<Table> seen_;
 };
 
 }  // namespace
@@ -143,7 +97,7 @@ void Watch::Note(const std::string& call) {
 }
 
 TableRef Watched(std::string name, TableRef table, std::shared_ptr<Watch> watch) {
-  return std::make_shared<WatchedTable>(Seen<Table>{std::move(name), std::move(table), std::move(watch)});
+  return std::make_shared<WatchedTable>(std::move(name), std::move(table), std::move(watch));
 }
 
 }  // namespace ORXKMPrintProp::test
