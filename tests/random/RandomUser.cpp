@@ -186,14 +186,13 @@ Refusal RandomUser::Use(Widget& widget, const std::string& name) {
   const std::int16_t button = random_.OneIn(9) ? ListBox::kRightButton : ListBox::kLeftButton;
   const int steps = random_.OneIn(3) ? random_.Below(4) : 0;
   const std::int16_t entry = Entry(list);
-  const std::size_t line = script_.size();
   const std::string word = button == ListBox::kRightButton ? "rclick " : steps > 0 ? "drag " : "click ";
   Log(word + name + " " + std::to_string(entry));
   const Refusal refusal = list.UserMouseDown(entry, button);
   if (refusal != Refusal::None) return refusal;
   for (int i = 0; i < steps; ++i) {
     const std::int16_t to = Entry(list);
-    script_[line] += " " + std::to_string(to);
+    Log("# over " + std::to_string(to));
     list.UserMouseMove(to);
     if (random_.OneIn(12)) HostActs("# button down: ");
   }
@@ -209,7 +208,7 @@ void RandomUser::MaybeHostActs(const std::string& when) {
 }
 
 void RandomUser::HostActs(const std::string& when) {
-  const std::size_t line = script_.size();
+  when_ = when;
   ++hostCalls_;
   try {
     const int choice = tables_ ? random_.Below(20) : 0;
@@ -231,7 +230,7 @@ void RandomUser::HostActs(const std::string& when) {
   } catch (const std::exception& error) {
     Fail(std::string("errors: ") + error.what());
   }
-  if (script_.size() > line) script_[line].insert(0, when);
+  when_.clear();
 }
 
 void RandomUser::Load() {

@@ -21,7 +21,7 @@ class RandomUser : private View, private ORXQueryPrnPropEvents {
   /// Acts once. @return what is wrong then; empty when all is well.
   std::string Act();
   /// What has been done, a line each, in the notation of scripts; what has no word there as a comment.
-  const std::vector<std::string>& Script() const { return script_; }
+  const std::string& Script() const { return script_; }
 
  private:
   struct Order {
@@ -59,7 +59,7 @@ class RandomUser : private View, private ORXQueryPrnPropEvents {
   /// What the model would write but for the order, for the items that the pages show and for the General page on top:
   /// a commit leaves it alone.
   std::string Unshown();
-  void Log(const std::string& words) { script_.push_back(words); }
+  void Log(const std::string& words) { script_ += "\n" + when_ + words; }
 
   void EntriesCleared(EntryWidget& widget) override;
   void MsgBox(const Text& text, const Text& title) override;
@@ -75,7 +75,8 @@ class RandomUser : private View, private ORXQueryPrnPropEvents {
   int hostCalls_ = 0;
   int depth_ = 0;  ///< of events in which the host acts
   std::string failure_;
-  std::vector<std::string> script_;
+  std::string when_;  ///< ahead of what is logged: where in another action it happens
+  std::string script_;
 };
 
 }  // namespace ORXKMPrintProp::test
