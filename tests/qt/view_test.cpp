@@ -382,6 +382,9 @@ TEST_F(ViewTest, AnEntryOfAComboBoxIsPickedByMouseKeyboardAndWheel) {
   Glass("cmbGenSignPrsnt").setFocus();
   turn();
   Play("cmbGenSignPrsnt", {{"", "-X X- >(X)"}});
+  Play("cmbGenSignPrsnt", {{"key Ctrl+PgDown", "-X X- >(X)"}});
+  Do("tab 0");
+  EXPECT_EQ(gPrnProp->SignPrsnt(), PP_PRN_SIGN_BRACES) << "the page that is left is stored";
   combo.Click = [] { throw std::runtime_error("refused"); };
   Play("cmbGenSignPrsnt", {{"key Up", "-X >X- (X) failed: refused"}});
   combo.Click = [&] { combo.Clear(); };
@@ -495,7 +498,13 @@ QString CaptionOf(const QWidget& glass) {
 TEST_F(ViewTest, EveryCaptionIsReadableInFull) {
   Load("a");
   const auto& tabs = *view.findChild<QTabBar*>();
-  for (const auto& texts : {TableRef(), TableRef(host::ReadSettings(PRNPROP_EXAMPLES "/german.json").texts)}) {
+  const std::pair<const char*, TableRef> looks[] = {
+      {"fusion", nullptr},
+      {"windows", nullptr},
+      {"fusion", host::ReadSettings(PRNPROP_EXAMPLES "/german.json").texts},
+  };
+  for (const auto& [style, texts] : looks) {
+    QApplication::setStyle(QLatin1String(style));
     if (texts) control.ORXControlTexts(texts);
     for (const auto& widget : dialog.Controls()) {
       if (widget->Caption().empty()) continue;

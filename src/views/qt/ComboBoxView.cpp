@@ -1,6 +1,7 @@
 #include "views/qt/ComboBoxView.h"
 
 #include <QAbstractItemView>
+#include <QKeyEvent>
 #include <QStyleOptionComboBox>
 #include <QWheelEvent>
 
@@ -41,6 +42,15 @@ void ComboBoxView::showPopup() {
   view()->setMinimumWidth(view()->sizeHintForColumn(0) +
                           style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this));
   QComboBox::showPopup();
+}
+
+void ComboBoxView::keyPressEvent(QKeyEvent* event) {
+  // With Ctrl the page keys change the page of the dialog, not the entry.
+  if (event->modifiers() & Qt::ControlModifier) {
+    event->ignore();
+  } else {
+    QComboBox::keyPressEvent(event);
+  }
 }
 
 void ComboBoxView::wheelEvent(QWheelEvent* event) {

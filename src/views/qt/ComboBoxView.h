@@ -17,6 +17,7 @@ class ComboBoxView : public ViewOf<QComboBox, ComboBox> {
   void showPopup() override;
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 
  private:

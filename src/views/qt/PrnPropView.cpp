@@ -158,6 +158,14 @@ QWidget& PrnPropView::ParentOf(const LayoutRow& row) {
   return parent.Row().kind == WidgetKind::SSTab ? tabs_->Page(row.page) : ViewFor(parent).Glass();
 }
 
+/// Another style may leave another room for the captions.
+void PrnPropView::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() != QEvent::StyleChange || names_.empty()) return;
+  wasOnTop_ = {};
+  Changed(control_.GetDialog().TabStrip());
+}
+
 void PrnPropView::keyPressEvent(QKeyEvent* event) {
   struct TabKey {
     int key;

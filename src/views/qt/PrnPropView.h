@@ -41,6 +41,7 @@ class PrnPropView : public QWidget, private View {
   void failed(const QString& message);
 
  protected:
+  void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
