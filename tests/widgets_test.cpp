@@ -20,7 +20,7 @@ class WidgetsTest : public testing::Test {
     dialog.TabStrip().Tab(3);
   }
 
-  /// All four, and what has been heard since the last time.
+  /// The lists and the combo box, and what has been heard since the last time.
   std::string State() {
     return StateOf(multi) + " | " + StateOf(single) + " | " + StateOf(combo) + " | " + std::exchange(events, "");
   }

@@ -163,15 +163,11 @@ void Stage::Do(const std::string& step) {
     if (!next.LoadInto(control)) Tell("false");
   } else if (verb == "read") {
     control.ORXDimTable();
-    std::istringstream rows(settings.Brief());
-    std::string table;
-    for (std::string row; std::getline(rows, row);) {
-      if (row.ends_with(':')) {
-        table = row;
-      } else if (table == name + ":") {
-        Tell(row);
-      }
-    }
+    std::istringstream rows(name == "general"     ? BriefOf(Kind::General, *settings.gen)
+                            : name == "dimension" ? BriefOf(Kind::Dimension, *settings.dim)
+                            : name == "member"    ? BriefOf(Kind::Member, *settings.mem)
+                                                  : BriefOf(Kind::Attribute, *settings.atr));
+    for (std::string row; std::getline(rows, row);) Tell(row);
   } else if (verb == "see") {
     const std::string line = name + (rest.empty() ? "" : " " + rest);
     Tell(line + ": " + State()[line]);
