@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "control/SharedValues.h"
+#include "host/Files.h"
 #include "support/loaded.h"
 #include "support/watched_table.h"
 #include "tables/RunTimeError.h"
@@ -108,6 +109,23 @@ TEST(Control, StoresLayoutsWhereTheButtonSays) {
             "general:\nTITLE='T' FRONTPAGE_LAYOUT='top' HEADER_LAYOUT='head' FOOTER_LAYOUT='foot' "
             "LASTPAGE_LAYOUT='end'\n"
             "dimension:\nIOBJNM='A'\nIOBJNM='B' PR_SUM_LAYOUT='totals'\nIOBJNM='B'\nmember:\nattribute:\n");
+}
+
+/// The calls of a load and, below a blank line, of a read-back stand in table_calls.txt.
+TEST(Control, CallsTheTablesInTheOrderOfTheirColumns) {
+  const Settings settings("IS_STRUCTURE='X' IOBJNM='S' POSIT=1\nIOBJNM='A'\nIOBJNM='B'",
+                          "IOBJNM='B' ATTRINM='1'\nIOBJNM='B' ATTRINM='2'\nIOBJNM='C'",
+                          "IOBJNM='T'\nIOBJNM='S' CHAVL='1'");
+  const auto watch = std::make_shared<Watch>();
+  ORXQueryPrnProp control;
+  const TableRef dim = Watched("dim", settings.dim, watch);
+  control.ORXSetPrnTables(Watched("gen", settings.gen, watch), dim, Watched("mem", settings.mem, watch),
+                          Watched("atr", settings.atr, watch));
+  watch->calls.emplace_back();
+  EXPECT_EQ(control.ORXDimTable(), dim);
+  std::string calls;
+  for (const std::string& call : watch->calls) calls += call + "\n";
+  EXPECT_EQ(calls, host::ReadFile(PRNPROP_TABLE_CALLS));
 }
 
 TEST(Control, MakesTheTextTablesKeyItsKeyColumn) {
