@@ -24,6 +24,10 @@ key txtGenPrnTitle x; toggle chkGenShowNoZeros; toggle chkGenUseColors; toggle c
   TITLE=' Sales x' MAX_PAGES='7' USE_COLORS='X' MARGIN_TOP=1 MARGIN_BOTTOM=2 MARGIN_LEFT=-3 MARGIN_RIGHT=2
     NOMULTTXT='X' SIGNPRSNT='2' NO_LINES='X'
   general: ' Sales x' 1 '7' 0 1 1 1 0 2 1 '1' '2' '-3' '2'
+edit txtGenMarginTop 9; edit txtGenMarginBottom 10; edit txtGenMarginLeft 8; toggle chkGenNoMultTexts; read general
+  TITLE=' Sales x' MAX_PAGES='7' USE_COLORS='X' MARGIN_TOP=9 MARGIN_BOTTOM=10 MARGIN_LEFT=8 MARGIN_RIGHT=2
+    SIGNPRSNT='2' NO_LINES='X'
+  general: ' Sales x' 1 '7' 0 0 1 1 0 2 1 '9' '10' '8' '2'
 )"}});
 }
 
@@ -76,6 +80,15 @@ click lstPrint(2) 1 0; pick cmbAttrChar 0; pick cmbAttrChar 1
 click lstAvail(2) 1; press cmdLeftToRight(2)
   lists 2: [b:3 >a:1] [q:2] [>*p:1 r:3 s:4]
   model: a2(p1 q- r2 s3) h-(u3) b1(t-)
+edit txtAttrColTitle new; toggle chkAttrColEachPage1; read attribute
+  IOBJNM='A' ATTRITXT='p' ATTRINM='1' POSIT=1 IOBJPRSNT='0' PR_COL1_FIX='X' PR_COL1_WIDTH=11 PR_COL2_WIDTH=12
+    PR_COL1_HEADER='new' PR_COL2_HEADER='new'
+  IOBJNM='A' ATTRITXT='q' ATTRINM='2' HIDDEN='X'
+  IOBJNM='A' ATTRITXT='r' ATTRINM='3' POSIT=2 IOBJPRSNT='2' PR_AUTO_WIDTH='X' PR_COL1_HEADER='R' PR_COL2_HEADER='R'
+  IOBJNM='A' ATTRITXT='s' ATTRINM='4' POSIT=3
+  IOBJNM='H' ATTRITXT='u' ATTRINM='6' POSIT=3
+  IOBJNM='B' ATTRITXT='t' ATTRINM='5' HIDDEN='X'
+  frame 2: 'new' 0 0 0 '11' 1 0 '12' 0 Key Description
 )"},
              {"none is printed", Settings(Characteristics("a- b-"), "IOBJNM='a' ATTRINM='1' ATTRITXT='p'"),
               R"(tab 2; see frame 2; see lists 2
@@ -109,11 +122,15 @@ click lstPrint(3) 0 1; click lstStrStructures 1; click lstAvail(3) 0; press cmdL
   frame 3: ('' -1 0 '')
   lists 3: [one:1 >*two:2] [] [x:1]
   model: one(p1 q2 r-) two(x1)
-read member
+click lstPrint(3) 0; click lstStrStructures 1
+  frame 3: '' 0 0 '0'
+  lists 3: [one:1 >*two:2] [] [>*x:1]
+edit txtStrColTitle X; read member
   IOBJNM='S1' CHAVL='1' CHAVLTXT='p' POSIT=1 PR_COL1_WIDTH=15 PR_COL1_ALIGN='R' PR_COL1_HEADER='P' PR_COL2_HEADER='P'
   IOBJNM='S1' CHAVL='3' CHAVLTXT='q' POSIT=2 PR_AUTO_WIDTH='X'
   IOBJNM='S1' CHAVL='4' CHAVLTXT='r' HIDDEN='X'
-  IOBJNM='S2' CHAVL='2' CHAVLTXT='x' POSIT=1
+  IOBJNM='S2' CHAVL='2' CHAVLTXT='x' POSIT=1 PR_COL1_HEADER='X' PR_COL2_HEADER='X'
+  frame 3: 'X' 0 0 '0'
 )"},
              {"none", Settings(), R"(tab 3; see frame 3; see lists 3
   frame 3: '' -1 0 ''
