@@ -214,6 +214,10 @@ click lstPrint(1) 1; press cmdPrintLayout(4)
       << "widths too, until the frame is shown again";
   EXPECT_EQ(stage.After("click lstPrint(1) 0; click lstPrint(1) 1; readonly on; readonly off", {"frame 1"}),
             "'' 2 0 0 '30' 0 (0 '') 0 {0 '40' 1} Key {Description}");
+  stage.next = Settings("IOBJNM='C' IOBJTXT='c' AXIS='Y' HIENM='H' HRY_ACTIVE='X' STRT_LVL=7");
+  EXPECT_EQ(stage.After("click lstPrint(1) 1; click lstPrint(1) 0; load", {"frame 1"}),
+            "'' 1 0 0 '0' 0 1 '7' 0 {0 '0' 0} Description {Description}")
+      << "the hierarchy of one characteristic after that of another";
 }
 
 TEST(HostInAnEvent, MayCallAnythingBack) {
