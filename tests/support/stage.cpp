@@ -61,11 +61,12 @@ std::string FieldOf(const Widget& widget, bool asList) {
 
 }  // namespace
 
-Stage::Stage(Settings given) : settings(std::move(given)) {
+Stage::Stage() {
   control.Connect(*this);
   control.GetDialog().SetView(this);
-  if (settings.gen->RowCount() > 0) settings.LoadInto(control);
 }
+
+Stage::Stage(const Settings& settings) : Stage() { hasLoaded_ = settings.LoadInto(control); }
 
 Stage::~Stage() { control.GetDialog().SetView(nullptr); }
 
@@ -76,8 +77,10 @@ std::string Stage::Play(const std::string& transcript) {
   for (std::string line; std::getline(in, line);) {
     if (line.starts_with("  ")) continue;
     played += line + "\n";
+    const bool isFirstLoad = !hasLoaded_;
     DoAll(line);
     const auto now = State();
+    if (isFirstLoad && hasLoaded_) before = now;
     for (const auto& [name, text] : now) {
       if (before[name] != text) Tell(name + ": " + text);
     }
@@ -160,14 +163,13 @@ void Stage::Do(const std::string& step) {
   } else if (verb == "readonly") {
     control.ORXSetReadOnly(name == "on");
   } else if (verb == "load") {
-    if (!next.LoadInto(control)) Tell("false");
+    Load();
+  } else if (verb == "general" || verb == "dimension" || verb == "attribute" || verb == "member") {
+    rows_[verb] += step.substr(verb.size() + 1) + "\n";
+  } else if (verb == "characteristics") {
+    rows_["dimension"] += Characteristics(step.substr(verb.size()));
   } else if (verb == "read") {
-    control.ORXDimTable();
-    std::istringstream rows(name == "general"     ? BriefOf(Kind::General, *settings.gen)
-                            : name == "dimension" ? BriefOf(Kind::Dimension, *settings.dim)
-                            : name == "member"    ? BriefOf(Kind::Member, *settings.mem)
-                                                  : BriefOf(Kind::Attribute, *settings.atr));
-    for (std::string row; std::getline(rows, row);) Tell(row);
+    Read(name);
   } else if (verb == "see") {
     const std::string line = name + (rest.empty() ? "" : " " + rest);
     Tell(line + ": " + State()[line]);
@@ -178,6 +180,30 @@ void Stage::Do(const std::string& step) {
       return;
     }
     ADD_FAILURE() << "no such step: " << step;
+  }
+}
+
+void Stage::Load() {
+  auto rows = std::exchange(rows_, {});
+  const std::string general = rows.contains("general") ? rows["general"] : "TITLE='T'";
+  if (!Settings(rows["dimension"], rows["attribute"], rows["member"], general).LoadInto(control)) Tell("false");
+  hasLoaded_ = true;
+}
+
+void Stage::Read(const std::string& name) {
+  static constexpr struct {
+    const char* name;
+    Kind kind;
+    TableRef (ORXQueryPrnProp::*read)();
+  } kTables[] = {{"general", Kind::General, &ORXQueryPrnProp::ORXGenPropTable},
+                 {"dimension", Kind::Dimension, &ORXQueryPrnProp::ORXDimTable},
+                 {"attribute", Kind::Attribute, &ORXQueryPrnProp::ORXAtrTable},
+                 {"member", Kind::Member, &ORXQueryPrnProp::ORXMemTable}};
+  for (const auto& table : kTables) {
+    if (table.name != name) continue;
+    const TableRef read = (control.*table.read)();
+    std::istringstream rows(read ? BriefOf(table.kind, *read) : "none");
+    for (std::string row; std::getline(rows, row);) Tell(row);
   }
 }
 
@@ -202,13 +228,6 @@ Refusal Stage::DoTo(Widget& widget, const std::string& verb, const std::string& 
   for (; place < entries.size(); ++place) list.UserMouseMove(entries[place]);
   if (verb != "move" && verb != "down") list.UserMouseUp(ListBox::kLeftButton);
   return Refusal::None;
-}
-
-void ExpectAll(const std::initializer_list<Scene>& scenes) {
-  for (const Scene& scene : scenes) {
-    Stage stage{scene.settings};
-    EXPECT_EQ(stage.Play(scene.transcript), scene.transcript) << scene.what;
-  }
 }
 
 std::string Characteristics(const std::string& words) {

@@ -14,15 +14,18 @@ namespace ORXKMPrintProp::test {
 /// A control with settings in it, a user in front of it and a host behind it.
 ///
 /// What they do is played from a transcript: a line holds steps, and the lines behind it, indented by two blanks, say
-/// all that these change in the dialog and the model, and what host and user hear. Steps stand apart by "; " and name
-/// widgets as the layout does, `lstPrint(1)`:
+/// all that these change in the dialog and the model, and what host and user hear; of the first load nothing is said.
+/// Steps stand apart by "; " and name widgets as the layout does, `lstPrint(1)`:
 ///
 ///     tab 1, pick COMBO 2, toggle CHECK, press BUTTON, key BOX x, edit BOX new text
 ///     click LIST 0 (with more entries a drag), down LIST 0, move LIST 1, up LIST
-///     readonly on, load (the tables of `next`), read TABLE (what the host gets), see LINE (of the state)
+///     dimension ROW, the same for general, attribute and member, characteristics a bQ c-, load (these rows)
+///     readonly on, read TABLE (what the host gets), see LINE (of the state)
 class Stage : private ORXQueryPrnPropEvents, private View {
  public:
-  explicit Stage(Settings settings = Settings());
+  /// Before a load.
+  Stage();
+  explicit Stage(const Settings& settings);
   ~Stage() override;
 
   /// Carries the steps out. @return the transcript with what happens now behind each step.
@@ -37,8 +40,6 @@ class Stage : private ORXQueryPrnPropEvents, private View {
   /// "-" where hidden, the letters of breaks and what they own: `a1Q(p2 q-)`.
   std::map<std::string, std::string> State();
 
-  Settings settings;
-  Settings next;
   ORXQueryPrnProp control;
   std::function<void()> onOrderChanged = [] {};
   std::function<void()> onMessage = [] {};
@@ -50,20 +51,16 @@ class Stage : private ORXQueryPrnPropEvents, private View {
 
   void DoAll(const std::string& steps);
   void Do(const std::string& step);
+  void Load();
+  void Read(const std::string& table);
   Refusal DoTo(Widget& widget, const std::string& verb, const std::string& rest);
   void Tell(std::string line);
 
+  /// The rows of the next load, by table.
+  std::map<std::string, std::string> rows_;
+  bool hasLoaded_ = false;
   std::string told_;
 };
-
-struct Scene {
-  const char* what;
-  Settings settings;
-  std::string transcript;
-};
-
-/// Each on a stage of its own.
-void ExpectAll(const std::initializer_list<Scene>& scenes);
 
 /// Dimension rows of print characteristics, in their order: `a b c` with the flags of each behind it, Q, P, A for
 /// the breaks, - for a hidden one.
