@@ -45,7 +45,7 @@ void AttrPage::AttrCharChanged() {
 void AttrPage::ShowProps() {
   const auto attribute = lstPrint.ListCount() > 0 ? Shown() : nullptr;
   if (!attribute) columns_.Blank();
-  columns_.Enable(attribute != nullptr);
+  columns_.EnableAll(attribute && !state_.mReadOnly);
   if (attribute) columns_.Show(*attribute);
 }
 

@@ -57,7 +57,7 @@ void CharPage::EnableCharProps(bool Enable) {
   }
   const auto characteristic = Enable ? Shown() : nullptr;
   const bool hasHierarchy = characteristic && !characteristic->HieNm().empty() && !state_.mReadOnly;
-  columns_.Enable(Enable);
+  columns_.EnableAll(Enable && !state_.mReadOnly);
   cmbCharNoSums.Enabled(Enable && !state_.mReadOnly);
   cmdTotalsRow.Enabled(Enable);
   chkCharHierDisplay.Enabled(hasHierarchy);

@@ -23,13 +23,6 @@ void AutoWidth::Blank() {
   for (TextBox* const box : boxes_) box->SetText({});
 }
 
-void AutoWidth::Enable(bool enable) {
-  check_.Enabled(enable && !state_.mReadOnly);
-  for (TextBox* const box : boxes_) {
-    box->Enabled(enable && !ModPrnGen::CheckToBool(check_.Value()) && !state_.mReadOnly);
-  }
-}
-
 void AutoWidth::Follow() {
   const bool automatic = ModPrnGen::CheckToBool(check_.Value());
   const auto values = automatic ? std::vector<std::int16_t>() : values_();
@@ -55,7 +48,6 @@ W& Find(PageState& state, const char16_t* kind, TextView page, const char16_t* p
 ColumnFrame::ColumnFrame(PageState& state, TextView page, Shown shown)
     : cmbPresentation(Find<ComboBox>(state, u"cmb", page, u"Presentation")),
       chkColAutoWidth(Find<CheckBox>(state, u"chk", page, u"ColAutoWidth")),
-      state_(state),
       txtColTitle(Find<TextBox>(state, u"txt", page, u"ColTitle")),
       cmbColAlign1(Find<ComboBox>(state, u"cmb", page, u"ColAlign1")),
       cmbColAlign2(Find<ComboBox>(state, u"cmb", page, u"ColAlign2")),
@@ -100,11 +92,6 @@ void ColumnFrame::Blank() {
   autoWidth_.Blank();
   chkColEachPage1.Value(0);
   chkColEachPage2.Value(0);
-}
-
-void ColumnFrame::Enable(bool enable) {
-  EnableAll(enable && !state_.mReadOnly);
-  autoWidth_.Enable(enable);
 }
 
 void ColumnFrame::EnableAll(bool enabled) {

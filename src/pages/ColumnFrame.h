@@ -18,8 +18,6 @@ class AutoWidth {
 
   void Show(bool automatic);
   void Blank();
-  /// @param enable False: nothing is shown. While the box is checked, the widths are disabled all the same.
-  void Enable(bool enable);
   /// The widths follow the check box: empty and disabled, or as the model has them.
   void Follow();
 
@@ -42,9 +40,7 @@ class ColumnFrame {
   void Show(const PrnColumnsCls& item);
   void Store(PrnColumnsCls& item) const;
   void Blank();
-  /// By the rules for showing an item (True) or none (False).
-  void Enable(bool enable);
-  /// The same for every widget, whatever the check box says.
+  /// Every widget, whatever the check box says.
   void EnableAll(bool enabled);
 
   /// The second column shows for two columns only, and the labels tell what stands in which.
@@ -56,7 +52,6 @@ class ColumnFrame {
   CheckBox& chkColAutoWidth;
 
  private:
-  PageState& state_;
   TextBox& txtColTitle;
   ComboBox& cmbColAlign1;
   ComboBox& cmbColAlign2;

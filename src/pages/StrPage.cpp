@@ -61,7 +61,6 @@ void StrPage::ShowProps() {
   const auto element = Shown();
   if (!element) Blank();
   EnableAll(element && !state_.mReadOnly);
-  autoWidth_.Enable(element != nullptr);
   if (!element) return;
   Show(txtStrColTitle, element->ColTitle());
   Show(cmbStrColAlign, element->ColAlign());
