@@ -14,7 +14,6 @@ std::string Line(const DocumentError::Place& place, const std::string& reason) {
 
 }  // namespace
 
-DocumentError::DocumentError(const Place& place, const std::string& reason)
-    : std::runtime_error(Line(place, reason)) {}
+DocumentError::DocumentError(const Place& place, const std::string& reason) : std::runtime_error(Line(place, reason)) {}
 
 }  // namespace ORXKMPrintProp::host

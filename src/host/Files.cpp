@@ -146,8 +146,9 @@ FileStamp StampOf(const std::string& path) {
 void CheckReplaceable(const std::string& path) {
   const Target target(path);
   if (S_ISDIR(target.old.st_mode)) Fail(path, EISDIR);
+  if (!target.IsRegularOrNew()) throw DocumentError({.file = path}, "It is no regular file");
   const fs::path folder = target.path.has_parent_path() ? target.path.parent_path() : ".";
-  if (target.IsRegularOrNew() && ::access(folder.c_str(), W_OK | X_OK) != 0) Fail(path, errno);
+  if (::access(folder.c_str(), W_OK | X_OK) != 0) Fail(path, errno);
 }
 
 void ReplaceFile(const std::string& path, std::string_view content) {

@@ -24,8 +24,9 @@ struct FileStamp {
 };
 FileStamp StampOf(const std::string& path);
 
-/// Tells ahead of any work whether `ReplaceFile` has a chance: the folder must be there and take files, or the file be
-/// one that can be written. @throws DocumentError (file and reason)
+/// Tells ahead of any work whether `ReplaceFile` has a chance to replace or make a regular file: the folder must be
+/// there and take files, and a file that is there must be one that can be written. @throws DocumentError (file and
+/// reason)
 void CheckReplaceable(const std::string& path);
 
 /// Puts the content in the place of the file in one step, or makes the file. A file that is there keeps its

@@ -7,10 +7,11 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QTimer>
-#include <exception>
 #include <memory>
+#include <stdexcept>
 #include <utility>
 
+#include "host/DocumentError.h"
 #include "host/Files.h"
 #include "host/Load.h"
 #include "host/window/Display.h"
@@ -30,8 +31,18 @@ void Tell(const char* words) {
   box.exec();
 }
 
+void CheckTarget(const EditOptions& options) {
+  try {
+    CheckReplaceable(options.out.value_or(options.file));
+  } catch (const DocumentError& error) {
+    const char* const otherwise =
+        options.out ? "" : "; it can be opened with --read-only, or with -o to save elsewhere";
+    throw std::runtime_error(error.what() + std::string(otherwise));
+  }
+}
+
 std::unique_ptr<EditedSettings> Load(const EditOptions& options, qt::QtFontPlatform& platform) {
-  if (!options.readOnly || options.out) CheckReplaceable(options.out.value_or(options.file));
+  if (!options.readOnly || options.out) CheckTarget(options);
   SettingsDocument document = ReadSettings(options.file);
   const MemoryTableRef texts = options.texts ? ReadSettings(*options.texts).texts : document.texts;
   return std::make_unique<EditedSettings>(std::move(document), options, texts, platform);
