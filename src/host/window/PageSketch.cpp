@@ -54,8 +54,22 @@ class Sketcher {
     sketch_.colored = Flag(general_, u"USE_COLORS");
     sketch_.ruled = !Flag(general_, u"NO_LINES");
     if (const Text limit = PageLimit(general_); !limit.empty()) sketch_.notes.push_back(u"At most " + limit);
+    NoteMargins();
     const bool isAcross = DirectionFromCell(RawText(general_, u"PRINT_DIRECTION")) == PP_PRN_DIR_HORIZONTAL;
     sketch_.notes.push_back(isAcross ? u"Pages in horizontal order" : u"Pages in vertical order");
+  }
+
+  /// The sketch draws margins up to a size, and none below 0.
+  void NoteMargins() {
+    static constexpr TextView sides[] = {u"top ", u"bottom ", u"left ", u"right "};
+    Text words;
+    bool areDrawn = true;
+    for (std::size_t side = 0; side < std::size(sides); ++side) {
+      const int margin = sketch_.margins[side];
+      areDrawn = areDrawn && margin >= 0 && margin <= PageSketch::kMostMargin;
+      words += (words.empty() ? u"Margins: " : u", ") + Text(sides[side]) + Digits(margin);
+    }
+    if (!areDrawn) sketch_.notes.push_back(words);
   }
 
   void Columns() {

@@ -27,6 +27,9 @@ struct SketchLine {
 
 /// What a page would look like that is printed with the settings, on made-up values and numbers.
 struct PageSketch {
+  /// A margin that is out of all proportion must not hide the page.
+  static constexpr int kMostMargin = 60;
+
   Text title;
   std::array<int, 4> margins{};  ///< top, bottom, left, right
   bool colored = false;          ///< the headings
