@@ -1,6 +1,7 @@
 #include "views/qt/CaptionViews.h"
 
 #include <qdrawutil.h>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QRegion>
 #include <QStyle>
@@ -57,6 +58,14 @@ void ButtonView::Refresh() {
   initStyleOption(&option);
   const QRect inside = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
   setText(WithoutShortcut(FitCaption(inside.width())));
+}
+
+void ButtonView::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    click();
+  } else {
+    QPushButton::keyPressEvent(event);
+  }
 }
 
 void CheckBoxView::Refresh() {

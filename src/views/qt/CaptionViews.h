@@ -32,6 +32,10 @@ class ButtonView : public ViewOf<QPushButton, CommandButton> {
  public:
   ButtonView(CommandButton& button, const Report& failed, QWidget* parent);
   void Refresh() override;
+
+ protected:
+  /// Enter presses the button that has the focus; it is none that a dialog around it presses by itself.
+  void keyPressEvent(QKeyEvent* event) override;
 };
 
 class CheckBoxView : public ViewOf<QCheckBox, CheckBox> {

@@ -9,7 +9,8 @@ EntryModel::EntryModel(const EntryWidget& widget, QObject* parent)
 
 QVariant EntryModel::data(const QModelIndex& index, int role) const {
   if (role != Qt::DisplayRole || !index.isValid() || index.row() >= widget_.ListCount()) return {};
-  return ToQString(widget_.List(static_cast<std::int16_t>(index.row())));
+  // An entry has one line.
+  return ToQString(widget_.List(static_cast<std::int16_t>(index.row()))).replace(u'\n', u' ').replace(u'\r', u' ');
 }
 
 void EntryModel::EntryAdded(int index) {
