@@ -4,6 +4,7 @@
 
 #include <QAbstractItemModel>
 #include <QApplication>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -116,9 +117,9 @@ TEST_F(SettingsWindowTest, WhatASaveLosesIsToldBeforeTheFirstAndLayoutsAreHanded
   Type("!");
   const std::string losses =
       "3 things that the file says can't be kept.\n"
-      "dimension, row 2, column PR_SUM_LAYOUT: only the first characteristic of a name keeps its layout\n"
-      "dimension, row 2, column COLOR: the control does not write this column\n"
-      "dimension, row 4: a structure without a name does not exist";
+      "• dimension, row 2, column PR_SUM_LAYOUT: only the first characteristic of a name keeps its layout\n"
+      "• dimension, row 2, column COLOR: the control does not write this column\n"
+      "• dimension, row 4: a structure without a name does not exist";
   Answer(QMessageBox::Cancel, losses);
   Press(QDialogButtonBox::Apply);
   EXPECT_EQ(State(), "open modified apply");
@@ -157,13 +158,39 @@ TEST_F(SettingsWindowTest, ClosingAsksWhenSomethingHasChanged) {
   Press(QDialogButtonBox::Cancel);
   EXPECT_EQ(State(), "open modified apply");
   Answer(QMessageBox::Discard, Changed());
-  EXPECT_TRUE(window->close());
+  QTest::keyClick(window->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel), Qt::Key_Return);
+  EXPECT_EQ(State(), "closed modified apply") << "Enter presses the button that has the focus";
   EXPECT_EQ(ReadFile(file), before);
   Open();
+  auto& combo = Find<QComboBox>("cmbGenPrnDirection");
+  combo.showPopup();
+  QTest::keyClick(combo.view(), Qt::Key_Escape);
+  EXPECT_EQ(State() + (combo.view()->isVisible() ? " list" : ""), "open") << "Escape closes the list alone";
   Type("!");
   Answer(QMessageBox::Save, Changed());
   EXPECT_TRUE(window->close());
   EXPECT_NE(ReadFile(file).find("Orders by region!"), std::string::npos);
+}
+
+TEST_F(SettingsWindowTest, AFieldWithoutANumberIsToldBeforeASave) {
+  Open();
+  auto& field = Find<QLineEdit>("txtGenMarginTop");
+  field.selectAll();
+  QTest::keyClicks(&field, QStringLiteral("32768"));
+  const auto note = [this] { return Find<QLabel>("state").text().section(u'\n', 1).toStdString(); };
+  EXPECT_EQ(note(), "No whole number up to 32767: Page margins, Top: 32768");
+  const std::string question =
+      "Not everything is stored as it was typed.\nNo whole number up to 32767:\nPage margins, Top: 32768";
+  Answer(QMessageBox::Cancel, question);
+  Press(QDialogButtonBox::Ok);
+  EXPECT_EQ(State(), "open");
+  field.selectAll();
+  QTest::keyClick(&field, Qt::Key_Backspace);
+  EXPECT_EQ(note(), "No whole number up to 32767: Page margins, Top: (empty)");
+  QTest::keyClicks(&field, QStringLiteral("77"));
+  EXPECT_EQ(note(), "");
+  Press(QDialogButtonBox::Apply);
+  EXPECT_NE(ReadFile(file).find("\"MARGIN_TOP\": 77"), std::string::npos);
 }
 
 TEST_F(SettingsWindowTest, WhoeverOnlyLooksChangesNothing) {
@@ -222,7 +249,7 @@ TEST_F(SettingsWindowTest, AWriteThatFailsKeepsTheWindowAndAnotherTargetLeavesTh
   EXPECT_EQ(State(), "open apply") << "there is no such file yet";
   Answer(QMessageBox::Save,
          "One thing that the file says can't be kept.\n"
-         "dimension, row 1, column COLOR: the control does not write this column");
+         "• dimension, row 1, column COLOR: the control does not write this column");
   Press(QDialogButtonBox::Apply);
   EXPECT_EQ(State(), "open");
   EXPECT_TRUE(window->close());
@@ -260,7 +287,7 @@ TEST_F(SettingsWindowTest, ThePanelMarksCellsThatDifferAndSaysWhenItIsOlder) {
   tabs.setCurrentIndex(1);
   const QAbstractItemModel& model = *static_cast<QTableView&>(*tabs.currentWidget()).model();
   const auto state = [&] {
-    QString text = QString::fromStdString(State());
+    QString text = QString::fromStdString(State()) + u'\n' + tabs.tabText(1);
     for (int column = 0; column < model.columnCount(); ++column) {
       const QModelIndex cell = model.index(0, column);
       if (!cell.data(Qt::BackgroundRole).isValid()) continue;
@@ -269,13 +296,13 @@ TEST_F(SettingsWindowTest, ThePanelMarksCellsThatDifferAndSaysWhenItIsOlder) {
     }
     return text.toStdString();
   };
-  EXPECT_EQ(state(), "open");
+  EXPECT_EQ(state(), "open\ngeneral");
   Type("!");
-  EXPECT_EQ(state(), "open modified apply older") << "typing reads nothing";
+  EXPECT_EQ(state(), "open modified apply older\ngeneral") << "typing reads nothing";
   Press("refresh");
-  EXPECT_EQ(state(), "open modified apply\nTITLE=Orders by region!|In the file: Orders by region");
+  EXPECT_EQ(state(), "open modified apply\ngeneral *\nTITLE=Orders by region!|In the file: Orders by region");
   Press(QDialogButtonBox::Apply);
-  EXPECT_EQ(state(), "open");
+  EXPECT_EQ(state(), "open\ngeneral");
 
   const int width = window->width();
   Press("preview");
@@ -290,6 +317,13 @@ TEST_F(SettingsWindowTest, ThePanelMarksCellsThatDifferAndSaysWhenItIsOlder) {
   window->FitInto({width - 300, 2000});
   EXPECT_FALSE(Find<QLabel>("state").isVisible());
   EXPECT_LE(window->width(), width - 300);
+  for (const QSize& screen : {QSize(800, 400), QSize(500, 300)}) {
+    window->FitInto(screen);
+    Press("preview");
+    EXPECT_EQ(window->size().boundedTo(screen), window->size()) << "the dialog scrolls";
+    Press("preview");
+    EXPECT_EQ(window->size().boundedTo(screen), window->size());
+  }
 }
 
 TEST_F(SettingsWindowTest, AChangeOfTheTabOrTheOrderReadsBack) {

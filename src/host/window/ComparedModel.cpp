@@ -21,6 +21,8 @@ void ComparedModel::Show(ComparedTable table) {
   beginResetModel();
   table_ = std::move(table);
   endResetModel();
+  const auto first = table_.FirstDifference();
+  firstMark_ = first ? index(static_cast<int>(first->first), static_cast<int>(first->second)) : QModelIndex();
 }
 
 int ComparedModel::rowCount(const QModelIndex& parent) const {

@@ -13,6 +13,8 @@ class ComparedModel : public QAbstractTableModel {
   using QAbstractTableModel::QAbstractTableModel;
 
   void Show(ComparedTable table);
+  /// The first cell that differs; not valid when there is none.
+  const QPersistentModelIndex& FirstMark() const { return firstMark_; }
 
   int rowCount(const QModelIndex& parent = {}) const override;
   int columnCount(const QModelIndex& parent = {}) const override;
@@ -21,6 +23,7 @@ class ComparedModel : public QAbstractTableModel {
 
  private:
   ComparedTable table_;
+  QPersistentModelIndex firstMark_;
 };
 
 }  // namespace ORXKMPrintProp::host

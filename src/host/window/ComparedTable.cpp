@@ -44,4 +44,13 @@ ComparedTable::Cell ComparedTable::At(std::size_t row, std::size_t column) const
   return cell;
 }
 
+std::optional<std::pair<std::size_t, std::size_t>> ComparedTable::FirstDifference() const {
+  for (std::size_t row = 0; row < pairs_.size(); ++row) {
+    for (std::size_t column = 0; column < columns_.size(); ++column) {
+      if (At(row, column).differs) return std::pair{row, column};
+    }
+  }
+  return {};
+}
+
 }  // namespace ORXKMPrintProp::host

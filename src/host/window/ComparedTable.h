@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+#include <utility>
 #include <vector>
 
 #include "host/window/Snapshot.h"
@@ -25,6 +27,8 @@ class ComparedTable {
   bool IsGone(std::size_t row) const { return !pairs_[row].now; }
   /// A cell without a text and one with blanks alone say the same, and so do a number and its digits.
   Cell At(std::size_t row, std::size_t column) const;
+  /// Row and column of the first cell that differs.
+  std::optional<std::pair<std::size_t, std::size_t>> FirstDifference() const;
 
  private:
   struct Pair {

@@ -1,14 +1,17 @@
 #include "host/window/MeaningPanel.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTableView>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -32,6 +35,36 @@ const std::vector<TableTab>& TableTabs() {
   return tabs;
 }
 
+/// The page at its full size, or as small as the area is wide.
+class PageArea : public QScrollArea {
+ public:
+  PageArea(PageSketchView* page, QWidget* parent) : QScrollArea(parent), page_(*page) {
+    setWidget(page);
+    setAlignment(Qt::AlignCenter);
+  }
+
+  void ShowWhole(bool whole) {
+    isWhole_ = whole;
+    Fit();
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QScrollArea::resizeEvent(event);
+    Fit();
+  }
+
+ private:
+  void Fit() {
+    // There is always room for the bar at the side, which comes and goes with the size.
+    const int room = width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width();
+    page_.FitInto(isWhole_ ? std::max(room, 1) : 0);
+  }
+
+  PageSketchView& page_;
+  bool isWhole_ = false;
+};
+
 QTableView* MakeTable(ComparedModel* model, QWidget* parent) {
   auto* const view = new QTableView(parent);
   view->setModel(model);
@@ -53,10 +86,12 @@ QTableView* MakeTable(ComparedModel* model, QWidget* parent) {
 MeaningPanel::MeaningPanel(std::function<void()> refresh, QWidget* parent)
     : QWidget(parent), state_(new QLabel(this)), refresh_(new QPushButton(QStringLiteral("&Refresh"), this)) {
   refresh_->setObjectName(QStringLiteral("refresh"));
+  refresh_->setAutoDefault(true);
   refresh_->setToolTip(QStringLiteral("Reads the settings back"));
   connect(refresh_, &QPushButton::clicked, this, std::move(refresh));
   state_->setObjectName(QStringLiteral("state"));
   state_->setWordWrap(true);
+  state_->setTextFormat(Qt::PlainText);
 
   auto* const top = new QHBoxLayout;
   top->addWidget(state_, 1);
@@ -65,49 +100,57 @@ MeaningPanel::MeaningPanel(std::function<void()> refresh, QWidget* parent)
   column->setContentsMargins(0, 0, 0, 0);
   column->addLayout(top);
   column->addStretch();
-  SetStale(false);
 }
 
 void MeaningPanel::MakeTabs() {
   tabs_ = new QTabWidget(this);
+  auto* const page = new QWidget(this);
   sketch_ = new PageSketchView;
-  auto* const scroll = new QScrollArea;
-  scroll->setWidget(sketch_);
-  scroll->setAlignment(Qt::AlignCenter);
-  tabs_->addTab(scroll, QStringLiteral("Page"));
+  auto* const area = new PageArea(sketch_, page);
+  auto* const isWhole = new QCheckBox(QStringLiteral("&Whole page"), page);
+  isWhole->setToolTip(QStringLiteral("Makes the page as small as the panel is wide"));
+  connect(isWhole, &QCheckBox::toggled, area, [area](bool whole) { area->ShowWhole(whole); });
+  auto* const down = new QVBoxLayout(page);
+  down->addWidget(area);
+  down->addWidget(isWhole);
+  tabs_->addTab(page, QStringLiteral("Page"));
   for (const TableTab& table : TableTabs()) {
     models_.push_back(new ComparedModel(this));
-    QTableView* const view = MakeTable(models_.back(), this);
-    view->setAccessibleName(QLatin1String(table.caption));
-    tabs_->addTab(view, QLatin1String(table.caption));
+    views_.push_back(MakeTable(models_.back(), this));
+    views_.back()->setAccessibleName(QLatin1String(table.caption));
+    tabs_->addTab(views_.back(), QLatin1String(table.caption));
   }
-  isFilled_.assign(models_.size() + 1, false);
-  connect(tabs_, &QTabWidget::currentChanged, this, [this] { FillFront(); });
+  connect(tabs_, &QTabWidget::currentChanged, this, [this] { ShowFront(); });
   static_cast<QBoxLayout&>(*layout()).insertWidget(1, tabs_, 1);
   // What is made late comes last otherwise.
   QWidget* last = refresh_;
   const auto isNext = [&](QWidget* widget) { setTabOrder(std::exchange(last, widget), widget); };
   isNext(tabs_->findChild<QTabBar*>());
-  for (int tab = 0; tab < tabs_->count(); ++tab) isNext(tabs_->widget(tab));
+  isNext(area);
+  isNext(isWhole);
+  for (QTableView* const view : views_) isNext(view);
 }
 
 void MeaningPanel::Show(const Snapshot& file, const Snapshot& now) {
   file_ = file;
   now_ = now;
-  isFilled_.assign(isFilled_.size(), false);
-  SetStale(false);
-  if (tabs_ && tabs_->isVisible()) FillFront();
+  isFilled_ = false;
+  if (tabs_ && tabs_->isVisible()) Fill();
 }
 
-void MeaningPanel::SetStale(bool stale) {
-  isStale_ = stale;
-  state_->setText(stale ? QStringLiteral("<b>Older than your last change.</b>")
-                        : QStringLiteral("As the settings are read back."));
+void MeaningPanel::SetState(bool isStale, const QString& note) {
+  QFont bold = font();
+  bold.setBold(isStale || !note.isEmpty());
+  state_->setFont(bold);
+  QString text =
+      isStale ? QStringLiteral("Older than your last change.") : QStringLiteral("As the settings are read back.");
+  if (!note.isEmpty()) text += u'\n' + note;
+  state_->setText(text);
 }
 
 void MeaningPanel::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  if (tabs_) FillFront();
+  if (tabs_) Fill();
 }
 
 /// The dialog is not to wait for the panel when the window opens.
@@ -118,30 +161,40 @@ void MeaningPanel::paintEvent(QPaintEvent* event) {
     if (tabs_) return;
     MakeTabs();
     tabs_->show();
-    FillFront();
+    Fill();
   };
   QMetaObject::invokeMethod(this, open, Qt::QueuedConnection);
 }
 
-void MeaningPanel::FillFront() {
-  const auto tab = static_cast<std::size_t>(tabs_->currentIndex());
-  if (isFilled_[tab]) return;
-  isFilled_[tab] = true;
+void MeaningPanel::Fill() {
+  if (isFilled_) return;
+  isFilled_ = true;
   try {
-    Fill(tab);
+    sketch_->Show(SketchOf(now_));
+    for (std::size_t table = 0; table < models_.size(); ++table) FillTable(table);
+    ShowFront();
   } catch (const std::exception& error) {
-    state_->setText(QString::fromUtf8(error.what()).toHtmlEscaped());
+    state_->setText(QString::fromUtf8(error.what()));
   }
 }
 
-void MeaningPanel::Fill(std::size_t tab) {
-  if (tab == 0) {
-    sketch_->Show(SketchOf(now_));
-    return;
+void MeaningPanel::FillTable(std::size_t table) {
+  const TableTab& tab = TableTabs()[table];
+  models_[table]->Show(ComparedTable(file_.tables[table], now_.tables[table], tab.keyColumns));
+  QString caption = QLatin1String(tab.caption);
+  if (models_[table]->FirstMark().isValid()) caption += QStringLiteral(" *");
+  const int page = tabs_->indexOf(views_[table]);
+  tabs_->setTabText(page, caption);
+  tabs_->setTabToolTip(page,
+                       models_[table]->FirstMark().isValid() ? QStringLiteral("Differs from the file") : QString());
+}
+
+void MeaningPanel::ShowFront() {
+  for (std::size_t table = 0; table < views_.size(); ++table) {
+    if (tabs_->currentWidget() != views_[table]) continue;
+    views_[table]->resizeColumnsToContents();
+    if (const QModelIndex mark = models_[table]->FirstMark(); mark.isValid()) views_[table]->scrollTo(mark);
   }
-  const std::size_t table = tab - 1;
-  models_[table]->Show(ComparedTable(file_.tables[table], now_.tables[table], TableTabs()[table].keyColumns));
-  static_cast<QTableView&>(*tabs_->currentWidget()).resizeColumnsToContents();
 }
 
 }  // namespace ORXKMPrintProp::host

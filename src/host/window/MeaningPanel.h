@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QWidget>
 #include <functional>
 #include <vector>
@@ -8,6 +9,7 @@
 
 class QLabel;
 class QPushButton;
+class QTableView;
 class QTabWidget;
 
 namespace ORXKMPrintProp::host {
@@ -23,9 +25,9 @@ class MeaningPanel : public QWidget {
   explicit MeaningPanel(std::function<void()> refresh, QWidget* parent = nullptr);
 
   void Show(const Snapshot& file, const Snapshot& now);
-  /// Tells that the user has changed something since.
-  void SetStale(bool stale);
-  bool IsStale() const { return isStale_; }
+  /// Tells whether the user has changed something since.
+  /// @param note what is to be told beside it, empty for nothing
+  void SetState(bool isStale, const QString& note);
 
  protected:
   void showEvent(QShowEvent* event) override;
@@ -33,19 +35,21 @@ class MeaningPanel : public QWidget {
 
  private:
   void MakeTabs();
-  /// What can't be seen is computed when it comes to the front.
-  void FillFront();
-  void Fill(std::size_t tab);
+  /// What can't be seen is computed when it can.
+  void Fill();
+  void FillTable(std::size_t table);
+  /// A table comes to the front with the first of its marks in sight.
+  void ShowFront();
 
   QLabel* state_;
   QPushButton* refresh_;
   QTabWidget* tabs_ = nullptr;  ///< none until the panel has been seen
   PageSketchView* sketch_ = nullptr;
   std::vector<ComparedModel*> models_;
-  std::vector<bool> isFilled_;  ///< by tab
+  std::vector<QTableView*> views_;
+  bool isFilled_ = false;
   Snapshot file_;
   Snapshot now_;
-  bool isStale_ = false;
 };
 
 }  // namespace ORXKMPrintProp::host

@@ -12,7 +12,6 @@ namespace {
 using qt::ToQString;
 
 constexpr int kGap = 6;           // around the paper, and beside the text of a cell
-constexpr int kMostMargin = 60;   // pixels; a margin that is out of all proportion must not hide the page
 constexpr int kLeastWidth = 300;  // of the paper's body
 constexpr int kThick = 3;         // the line below the heading of a column that is on each page
 
@@ -49,7 +48,6 @@ PageSketchView::PageSketchView(QWidget* parent) : QWidget(parent) {
 void PageSketchView::Show(PageSketch sketch) {
   sketch_ = std::move(sketch);
   Measure();
-  update();
 }
 
 void PageSketchView::Measure() {
@@ -73,16 +71,29 @@ void PageSketchView::Measure() {
     // An advance is rounded down, and what is a part of a pixel too long is cut.
     widths_.push_back(width + kGap + 1);
   }
-  const auto margin = [&](std::size_t side) { return std::clamp(sketch_.margins[side], 0, kMostMargin); };
+  const auto margin = [&](std::size_t side) { return std::clamp(sketch_.margins[side], 0, PageSketch::kMostMargin); };
   const int width = std::max(std::accumulate(widths_.begin(), widths_.end(), 0), kLeastWidth);
   const auto lines = static_cast<int>(sketch_.lines.size() + 4 + sketch_.notes.size());
   measures_.body = QRect(kGap + margin(2), kGap + margin(0), width + 1, lines * measures_.lineHeight + kThick);
   measures_.paper = measures_.body.adjusted(-margin(2), -margin(0), margin(3), margin(1));
-  setFixedSize(measures_.paper.size() + QSize(2 * kGap, 2 * kGap));
+  Scale();
+}
+
+void PageSketchView::FitInto(int width) {
+  room_ = width;
+  Scale();
+}
+
+void PageSketchView::Scale() {
+  const QSize size = measures_.paper.size() + QSize(2 * kGap, 2 * kGap);
+  scale_ = room_ > 0 ? std::min(1.0, static_cast<double>(room_) / size.width()) : 1.0;
+  setFixedSize(size * scale_);
+  update();
 }
 
 void PageSketchView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  painter.scale(scale_, scale_);
   painter.fillRect(measures_.paper.translated(2, 2), palette().color(QPalette::Mid));
   painter.fillRect(measures_.paper, kPaper);
   painter.setPen(QPen(kRule, 1, Qt::DotLine));

@@ -9,12 +9,14 @@ class QPainter;
 
 namespace ORXKMPrintProp::host {
 
-/// Paints a page as it is described, as wide as its columns need.
+/// Paints a page as it is described, as wide as its columns need, or made smaller.
 class PageSketchView : public QWidget {
  public:
   explicit PageSketchView(QWidget* parent = nullptr);
 
   void Show(PageSketch sketch);
+  /// Makes the page as small as it must be for that width in pixels; 0 for its full size.
+  void FitInto(int width);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -27,6 +29,7 @@ class PageSketchView : public QWidget {
   };
 
   void Measure();
+  void Scale();
   void PaintHeading(QPainter& painter, int top) const;
   void PaintCells(QPainter& painter, const SketchLine& line, int top) const;
   void PaintBreak(QPainter& painter, SketchLineKind kind, int top) const;
@@ -34,6 +37,8 @@ class PageSketchView : public QWidget {
   PageSketch sketch_;
   std::vector<int> widths_;  ///< of the columns, in pixels
   Measures measures_{};
+  int room_ = 0;
+  double scale_ = 1;
 };
 
 }  // namespace ORXKMPrintProp::host

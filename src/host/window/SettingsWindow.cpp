@@ -13,6 +13,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QTabBar>
 #include <QVBoxLayout>
@@ -31,6 +32,8 @@ namespace ORXKMPrintProp::host {
 namespace {
 
 using qt::ToQString;
+
+const QString kNoNumber = QStringLiteral("No whole number up to 32767:");
 
 /// A question or a message about this window; all of it is plain text.
 QMessageBox::StandardButton Ask(QWidget* window, QMessageBox::Icon icon, const QString& text, const QString& more,
@@ -51,17 +54,21 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
     : QWidget(parent),
       settings_(settings),
       view_(new qt::PrnPropView(settings.Control(), this)),
-      panel_(new MeaningPanel([this] { Read(); }, this)) {
+      panel_(new MeaningPanel([this] { Read(); }, this)),
+      dialog_(new QScrollArea(this)) {
   const QString file = QFileInfo(QString::fromStdString(settings.Target())).fileName();
   setWindowTitle(file + QStringLiteral("[*]") + (settings.IsReadOnly() ? QStringLiteral(" (read-only)") : QString()) +
                  QStringLiteral(" - Print settings"));
   auto* const across = new QHBoxLayout;
-  across->addWidget(view_, 0, Qt::AlignTop | Qt::AlignLeft);
+  dialog_->setWidget(view_);
+  dialog_->setFrameShape(QFrame::NoFrame);
+  dialog_->setFocusPolicy(Qt::NoFocus);
+  across->addWidget(dialog_, 0, Qt::AlignTop | Qt::AlignLeft);
   across->addWidget(panel_, 1);
   auto* const down = new QVBoxLayout(this);
   down->addLayout(across, 1);
   down->addWidget(MakeButtons());
-  panel_->setMinimumWidth(view_->width() / 2);
+  BoundDialog();
 
   connect(view_, &qt::PrnPropView::ORXPrintLayoutGet, this, &SettingsWindow::EditLayoutOf);
   connect(view_, &qt::PrnPropView::ORXOrderChanged, this, [this] {
@@ -71,16 +78,35 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
   connect(view_, &qt::PrnPropView::failed, this,
           [this](const QString& why) { Tell(QStringLiteral("That could not be done."), why); });
   WatchInput();
-  panel_->Show(settings_.File(), settings_.Now());
-  ShowState();
+  ShowMeaning();
   unfoldedWidth_ = view_->width() * 9 / 5;
   resize(sizeHint().expandedTo(QSize(unfoldedWidth_, 0)));
 }
 
 void SettingsWindow::FitInto(const QSize& room) {
+  const bool isTooWide = minimumSizeHint().width() > room.width();
   room_ = room;
-  if (minimumSizeHint().width() > room.width()) preview_->setChecked(false);
+  if (isTooWide) preview_->setChecked(false);
+  BoundDialog();
   resize(size().boundedTo(room));
+}
+
+/// The dialog is seen whole where there is the room for it.
+void SettingsWindow::BoundDialog() {
+  constexpr int kLeastPanel = 240;
+  const QMargins margins = layout()->contentsMargins();
+  const int spacing = layout()->spacing();
+  const int buttons = layout()->itemAt(1)->sizeHint().height();
+  QSize left = room_ - QSize(margins.left() + margins.right(), margins.top() + margins.bottom() + spacing + buttons);
+  panel_->setMinimumWidth(std::clamp(left.width() - view_->width() - spacing, kLeastPanel, view_->width() / 2));
+  if (preview_->isChecked()) left.rwidth() -= panel_->minimumWidth() + spacing;
+  QSize whole = view_->size();
+  const int scrollBar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  if (left.width() < whole.width()) whole.rheight() += scrollBar;
+  if (left.height() < whole.height()) whole.rwidth() += scrollBar;
+  dialog_->setMaximumSize(whole);
+  dialog_->setMinimumSize(whole.boundedTo(left));
+  layout()->activate();
 }
 
 QWidget* SettingsWindow::MakeButtons() {
@@ -89,21 +115,24 @@ QWidget* SettingsWindow::MakeButtons() {
   preview_->setObjectName(QStringLiteral("preview"));
   preview_->setCheckable(true);
   preview_->setChecked(true);
+  preview_->setAutoDefault(true);
   preview_->setToolTip(QStringLiteral("Shows beside the dialog what the settings mean"));
   connect(preview_, &QPushButton::toggled, this, &SettingsWindow::Fold);
 
   auto* const buttons =
       new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, bar);
   apply_ = buttons->button(QDialogButtonBox::Apply);
+  for (QAbstractButton* const button : buttons->buttons()) static_cast<QPushButton*>(button)->setAutoDefault(true);
   connect(buttons, &QDialogButtonBox::accepted, this, [this] { Accept(); });
   connect(buttons, &QDialogButtonBox::rejected, this, [this] { close(); });
   connect(apply_, &QPushButton::clicked, this, [this] { Save(); });
-  new QShortcut(QKeySequence::Save, this, [this] { Save(); });
-  new QShortcut(QKeySequence::Refresh, this, [this] { Read(); });
-  new QShortcut(QKeySequence::Cancel, this, [this] {
-    // A drag is to come to its end.
-    if (QApplication::mouseButtons() == Qt::NoButton) close();
-  });
+  const auto unlessPopup = [](auto action) {
+    return [action] {
+      if (!QApplication::activePopupWidget()) action();
+    };
+  };
+  new QShortcut(QKeySequence::Save, this, unlessPopup([this] { Save(); }));
+  new QShortcut(QKeySequence::Refresh, this, unlessPopup([this] { Read(); }));
 
   auto* const row = new QHBoxLayout(bar);
   row->setContentsMargins(0, 0, 0, 0);
@@ -116,7 +145,7 @@ QWidget* SettingsWindow::MakeButtons() {
 void SettingsWindow::Fold(bool unfold) {
   if (!unfold && !isMaximized() && !isFullScreen()) unfoldedWidth_ = width();
   panel_->setVisible(unfold);
-  layout()->activate();
+  BoundDialog();
   if (isMaximized() || isFullScreen()) return;
   const int wanted = unfold ? std::max(width(), unfoldedWidth_) : minimumSizeHint().width();
   resize(std::min(wanted, room_.width()), height());
@@ -172,6 +201,11 @@ std::vector<std::int32_t> SettingsWindow::PrintOrder() const {
 void SettingsWindow::keyPressEvent(QKeyEvent* event) {
   const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
   if (isEnter && !(event->modifiers() & ~Qt::KeypadModifier)) return Accept();
+  // A drag is to come to its end.
+  if (event->matches(QKeySequence::Cancel) && QApplication::mouseButtons() == Qt::NoButton) {
+    close();
+    return;
+  }
   QWidget::keyPressEvent(event);
 }
 
@@ -191,8 +225,7 @@ bool SettingsWindow::Read() {
   isEdited_ = false;
   printOrder_ = PrintOrder();
   if (!isTouched_) settings_.SetUnchanged();
-  panel_->Show(settings_.File(), settings_.Now());
-  ShowState();
+  ShowMeaning();
   return true;
 }
 
@@ -205,8 +238,29 @@ void SettingsWindow::ReadLater() {
   QMetaObject::invokeMethod(this, read, Qt::QueuedConnection);
 }
 
+void SettingsWindow::ShowMeaning() {
+  panel_->Show(settings_.File(), settings_.Now());
+  ShowState();
+}
+
+QStringList SettingsWindow::NotStored() const {
+  QStringList fields;
+  for (const auto* const box : view_->findChildren<QLineEdit*>()) {
+    // All others than those of titles hold numbers.
+    const bool isTyped = box->isModified() && box->isEnabled();
+    if (!isTyped || box->objectName().endsWith(QStringLiteral("Title"))) continue;
+    bool isNumber = false;
+    box->text().trimmed().toShort(&isNumber);
+    if (isNumber) continue;
+    const QString where = box->parentWidget()->accessibleName() + QStringLiteral(", ") + box->accessibleName();
+    fields += where + QStringLiteral(": ") + (box->text().isEmpty() ? QStringLiteral("(empty)") : box->text());
+  }
+  return fields;
+}
+
 void SettingsWindow::ShowState() {
-  panel_->SetStale(isEdited_);
+  const QStringList fields = NotStored();
+  panel_->SetState(isEdited_, fields.isEmpty() ? QString() : kNoNumber + u' ' + fields.join(QStringLiteral("; ")));
   setWindowModified(isEdited_ || settings_.IsChanged());
   apply_->setEnabled(isEdited_ || settings_.IsToBeSaved());
 }
@@ -219,6 +273,7 @@ void SettingsWindow::Accept() {
 
 bool SettingsWindow::Save() {
   if (!Read()) return false;
+  if (!AcceptsFields()) return false;
   if (!settings_.IsToBeSaved()) return true;
   if (!AcceptsLosses() || !AcceptsOvertaking()) return false;
   try {
@@ -231,15 +286,27 @@ bool SettingsWindow::Save() {
     return false;
   }
   isTouched_ = false;
-  panel_->Show(settings_.File(), settings_.Now());
-  ShowState();
+  ShowMeaning();
   return true;
+}
+
+/// The dialog leaves a setting as it was when its field holds no number.
+bool SettingsWindow::AcceptsFields() {
+  const QStringList fields = NotStored();
+  if (fields.isEmpty()) return true;
+  return Ask(this, QMessageBox::Warning, QStringLiteral("Not everything is stored as it was typed."),
+             kNoNumber + u'\n' + fields.join(u'\n'), QMessageBox::Save | QMessageBox::Cancel,
+             QMessageBox::Cancel) == QMessageBox::Save;
 }
 
 bool SettingsWindow::AcceptsOvertaking() {
   if (!settings_.IsTargetOvertaken()) return true;
-  return Ask(this, QMessageBox::Warning, QStringLiteral("The file has changed since it was opened."),
-             QStringLiteral("Replace %1 all the same?").arg(QString::fromStdString(settings_.Target())),
+  const bool isThere = QFileInfo::exists(QString::fromStdString(settings_.Target()));
+  return Ask(this, QMessageBox::Warning,
+             isThere ? QStringLiteral("The file has changed since it was opened.")
+                     : QStringLiteral("The file is gone since it was opened."),
+             (isThere ? QStringLiteral("Replace %1 all the same?") : QStringLiteral("Save in %1 all the same?"))
+                 .arg(QString::fromStdString(settings_.Target())),
              QMessageBox::Save | QMessageBox::Cancel, QMessageBox::Cancel) == QMessageBox::Save;
 }
 
@@ -247,7 +314,7 @@ bool SettingsWindow::AcceptsLosses() {
   const auto& losses = settings_.Losses();
   if (losses.empty()) return true;
   QString details;
-  for (const std::string& loss : losses) details += QString::fromStdString(loss) + u'\n';
+  for (const std::string& loss : losses) details += QStringLiteral("\u2022 ") + QString::fromStdString(loss) + u'\n';
   const QString count = losses.size() == 1
                             ? QStringLiteral("One thing that the file says can't be kept.")
                             : QStringLiteral("%1 things that the file says can't be kept.").arg(losses.size());

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QStringList>
 #include <QWidget>
 #include <cstdint>
 #include <vector>
 
 class QPushButton;
+class QScrollArea;
 
 namespace ORXKMPrintProp::qt {
 class PrnPropView;
@@ -27,8 +29,8 @@ class SettingsWindow : public QWidget {
   /// @param settings must outlive the window.
   explicit SettingsWindow(EditedSettings& settings, QWidget* parent = nullptr);
 
-  /// Keeps the window within that, also when the panel unfolds; where there is room for the dialog alone, the panel
-  /// folds.
+  /// Keeps the window within that, also when the panel unfolds. Where there is room for the dialog alone, the panel
+  /// folds; where there is none for the whole dialog, it scrolls.
   void FitInto(const QSize& room);
 
  protected:
@@ -39,17 +41,22 @@ class SettingsWindow : public QWidget {
  private:
   QWidget* MakeButtons();
   void Fold(bool unfold);
+  void BoundDialog();
   void WatchInput();
   std::vector<std::int32_t> PrintOrder() const;
   void MarkEdited();
   /// Reads now, or when the user's action has come to its end. @return whether the tables could be read.
   bool Read();
   void ReadLater();
+  void ShowMeaning();
   void ShowState();
+  /// A line for each field of the dialog in which the user has typed what is no number.
+  QStringList NotStored() const;
 
   void Accept();
   /// @return whether the target holds the settings now.
   bool Save();
+  bool AcceptsFields();
   bool AcceptsLosses();
   bool AcceptsOvertaking();
   bool MayClose();
@@ -59,6 +66,7 @@ class SettingsWindow : public QWidget {
   EditedSettings& settings_;
   qt::PrnPropView* view_;
   MeaningPanel* panel_;
+  QScrollArea* dialog_;  ///< the view in it
   QPushButton* preview_ = nullptr;
   QPushButton* apply_ = nullptr;
   int unfoldedWidth_ = 0;
