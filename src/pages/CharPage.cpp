@@ -40,11 +40,7 @@ void CharPage::ShowProps() {
   EnableCharProps(true);
   columns_.Show(*characteristic);
   Show(chkCharHierDisplay, characteristic->HryActive());
-  if (characteristic->HryActive()) {
-    Show(txtCharHierLevel, characteristic->HryLevel());
-  } else {
-    txtCharHierLevel.SetText({});
-  }
+  OnHierDisplay();
   Show(cmbCharNoSums, characteristic->NoSums());
 }
 
