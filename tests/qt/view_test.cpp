@@ -400,7 +400,7 @@ TEST_F(ViewTest, ReadOnlyTakesNothingButLooksAndLayouts) {
   Play("chkGenUseColors", {{"toggle; key Space", "0"}});
   Play("cmbGenSignPrsnt", {{"pick 1; key Down", ">-X X- (X)"}});
   Play("cmdPrintLayout(2)", {{"press", " layout 2"}});
-  Play("cmdPrintLayout(0)", {{"key Space", " layout 0"}});
+  Play("cmdPrintLayout(0)", {{"key Space", " layout 0"}, {"key Return", " layout 0"}});
   Do("tab 1");
   Play("cmdPrintLayout(4)", {{"press", " layout 4a"}});
   Play("lstPrint(1)", {{"drag 0 2", "a:1 b:2 >c:3"}});
