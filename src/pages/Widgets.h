@@ -126,7 +126,11 @@ class TextBox : public Widget {
   static constexpr char16_t kBackspace = 8;
 
   const Text& GetText() const { return text_; }
-  void SetText(Text text) { Set(text_, std::move(text)); }
+  /// Is told also where the text was the same: it may be another's.
+  void SetText(Text text) {
+    text_ = std::move(text);
+    NotifyChanged();
+  }
 
   /// What becomes of a key: its code as `KeyPress` leaves it, 0 for none. The text does not change.
   char16_t FilterKey(char16_t key) const;

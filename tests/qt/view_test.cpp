@@ -2,22 +2,27 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDropEvent>
 #include <QGroupBox>
+#include <QHelpEvent>
 #include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPointer>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <fstream>
 #include <nlohmann/json.hpp>
@@ -364,6 +369,58 @@ TEST_F(ViewTest, ACheckBoxShowsWhatItsHandlerLeaves) {
   Play("chkGenUseColors", {{"key Space", "1"}});
   check.Click = [] { throw std::runtime_error("refused by the host"); };
   Play("chkGenUseColors", {{"key Space", "0 failed: refused by the host"}});
+  check.Click = [] { throw 5; };
+  Play("chkGenUseColors", {{"key Space", "1 failed: A handler failed without telling why."}});
+}
+
+TEST_F(ViewTest, AnAssistiveProgramActsAsTheUser) {
+  Load("a b c");
+  const auto toggle = [](QAccessibleInterface* widget) {
+    ASSERT_TRUE(widget && widget->actionInterface());
+    widget->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+  };
+  toggle(QAccessible::queryAccessibleInterface(&Glass("chkCharColAutoWidth")));
+  Play("chkCharColAutoWidth", {{"", "1"}});
+  auto* const list = QAccessible::queryAccessibleInterface(&Glass("lstPrint(1)"));
+  toggle(list->child(2));
+  Play("lstPrint(1)", {{"", "*a:1 b:2 >*c:3"}});
+  toggle(list->child(0));
+  Play("lstPrint(1)", {{"", ">a:1 b:2 *c:3"}});
+  Glass<QListView>("lstPrint(1)").selectAll();
+  Play("lstPrint(1)", {{"", ">*a:1 b:2 *c:3"}});
+}
+
+TEST_F(ViewTest, UndoStaysWithTheTextThatWasTyped) {
+  Load("a b");
+  Play("txtCharColTitle",
+       {{"key Ctrl+A; key Del; keys Region", "Region"}, {"key Ctrl+Z", ""}, {"key Ctrl+Y", "Region"}});
+  Play("txtCharColTitle", {{"key Ctrl+A; key Del", ""}});
+  Play("lstPrint(1)", {{"click 0; click 1", "a:1 >*b:2"}});
+  Play("txtCharColTitle", {{"key Ctrl+Z", ""}});
+}
+
+TEST_F(ViewTest, AViewMayGoWhileTheUserActs) {
+  Load("a b c d e f g h i j -x -y");
+  QPointer<PrnPropView> other = new PrnPropView(control);
+  other->show();
+  QTest::mouseClick(other->findChild<QListView*>(QStringLiteral("lstAvail(1)"))->viewport(), Qt::LeftButton, {},
+                    {5, 5});
+  QTimer::singleShot(0, [&] {
+    EXPECT_TRUE(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()));
+    other->deleteLater();
+  });
+  QTest::mouseClick(other->findChild<QPushButton*>(QStringLiteral("cmdLeftToRight(1)")), Qt::LeftButton);
+  EXPECT_FALSE(other);
+
+  other = new PrnPropView(control);
+  other->show();
+  auto* const list = other->findChild<QListView*>(QStringLiteral("lstPrint(1)"));
+  QTest::mousePress(list->viewport(), Qt::LeftButton, {}, {5, 5});
+  QTest::mouseMove(list->viewport(), {5, 20});
+  EXPECT_EQ(dialog.MousePointer(), 99);
+  delete other;
+  EXPECT_EQ(dialog.MousePointer(), 0) << "what has begun also ends";
+  EXPECT_EQ(StateOf(dialog.Get<ListBox>(u"lstPrint", 1)).substr(0, 12), "b:2 >*a:1 c:");
 }
 
 TEST_F(ViewTest, AnEntryOfAComboBoxIsPickedByMouseKeyboardAndWheel) {
@@ -415,10 +472,12 @@ TEST_F(ViewTest, ThePageOnTopIsPickedByMouseAndKeyboard) {
   EXPECT_FALSE(Glass("txtGenPrnTitle").isVisible());
   EXPECT_TRUE(Glass("lstPrint(2)").isVisible());
   EXPECT_EQ(gPrnProp->Title(), u"Typed") << "the page that is left is stored";
-  QTest::keySequence(view.findChild<QTabBar*>(), QKeySequence(Qt::Key_Left));
+  auto& tabs = *view.findChild<QTabBar*>();
+  QTest::keySequence(&tabs, QKeySequence(Qt::Key_Left));
   Play("tstPrint", {{"", "1"}});
   Glass("lstPrint(1)").setFocus();
-  Do("key lstPrint(1) Ctrl+PgUp");
+  Do("key lstPrint(1) Ctrl+Num+PgUp");
+  EXPECT_EQ(QApplication::focusWidget(), &tabs) << "the focus stays in the dialog";
   Play("tstPrint", {{"", "0"}, {"key Ctrl+Shift+Backtab", "3"}});
 }
 
@@ -533,6 +592,15 @@ TEST_F(ViewTest, WhatDoesNotFitIsReadInTheTooltip) {
   label.Caption(u"T&p");
   EXPECT_EQ(CaptionOf(shown), QStringLiteral("T&p"));
   EXPECT_EQ(shown.toolTip(), QStringLiteral("of the page"));
+
+  auto& list = Glass<QListView>("lstPrint(1)");
+  Load("a -x an_entry_that_is_much_too_long_for_its_list");
+  for (const auto& [entry, tip] : {std::pair(0, list.toolTip()), {1, list.model()->index(1, 0).data().toString()}}) {
+    const QPoint point = PointOf(list, entry);
+    QHelpEvent help(QEvent::ToolTip, point, list.viewport()->mapToGlobal(point));
+    QApplication::sendEvent(list.viewport(), &help);
+    EXPECT_EQ(QToolTip::text(), tip);
+  }
 
   auto& tabs = *view.findChild<QTabBar*>();
   for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) dialog.TabStrip().TabCaption(tab, Text(60, u'w'));

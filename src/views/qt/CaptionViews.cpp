@@ -37,7 +37,7 @@ void FrameView::paintEvent(QPaintEvent*) {
                         QPalette::WindowText);
 }
 
-LabelView::LabelView(Label& label, const Report& failed, QWidget* parent) : ViewOf(label, failed, parent) {
+LabelView::LabelView(Label& label, const Reports& reports, QWidget* parent) : ViewOf(label, reports, parent) {
   setTextFormat(Qt::PlainText);
 }
 
@@ -47,7 +47,8 @@ void LabelView::Refresh() {
   setText(buddy() ? WithoutShortcut(text) : text);
 }
 
-ButtonView::ButtonView(CommandButton& button, const Report& failed, QWidget* parent) : ViewOf(button, failed, parent) {
+ButtonView::ButtonView(CommandButton& button, const Reports& reports, QWidget* parent)
+    : ViewOf(button, reports, parent) {
   setAutoDefault(false);
   connect(this, &QPushButton::clicked, this, [this] { Perform([this] { widget_.UserPress(); }); });
 }
@@ -61,11 +62,16 @@ void ButtonView::Refresh() {
 }
 
 void ButtonView::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-    click();
-  } else {
-    QPushButton::keyPressEvent(event);
-  }
+  const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (!isEnter || (event->modifiers() & ~Qt::KeypadModifier)) return QPushButton::keyPressEvent(event);
+  if (!event->isAutoRepeat()) click();
+}
+
+CheckBoxView::CheckBoxView(CheckBox& check, const Reports& reports, QWidget* parent) : ViewOf(check, reports, parent) {
+  // Also by assistive programs, past mouse and keys.
+  connect(this, &QCheckBox::toggled, this, [this](bool checked) {
+    if (checked != (widget_.Value() != 0)) Perform([this] { widget_.UserToggle(); });
+  });
 }
 
 void CheckBoxView::Refresh() {
@@ -74,10 +80,6 @@ void CheckBoxView::Refresh() {
                   style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, this);
   setText(WithoutShortcut(FitCaption(width() - box)));
   setChecked(widget_.Value() != 0);
-}
-
-void CheckBoxView::nextCheckState() {
-  Perform([this] { widget_.UserToggle(); });
 }
 
 }  // namespace ORXKMPrintProp::qt

@@ -24,27 +24,24 @@ class FrameView : public ViewOf<QGroupBox, Frame> {
 
 class LabelView : public ViewOf<QLabel, Label> {
  public:
-  LabelView(Label& label, const Report& failed, QWidget* parent);
+  LabelView(Label& label, const Reports& reports, QWidget* parent);
   void Refresh() override;
 };
 
 class ButtonView : public ViewOf<QPushButton, CommandButton> {
  public:
-  ButtonView(CommandButton& button, const Report& failed, QWidget* parent);
+  ButtonView(CommandButton& button, const Reports& reports, QWidget* parent);
   void Refresh() override;
 
  protected:
-  /// Enter presses the button that has the focus; it is none that a dialog around it presses by itself.
+  /// Enter presses the button that has the focus, once; it is none that a dialog around it presses by itself.
   void keyPressEvent(QKeyEvent* event) override;
 };
 
 class CheckBoxView : public ViewOf<QCheckBox, CheckBox> {
  public:
-  using ViewOf::ViewOf;
+  CheckBoxView(CheckBox& check, const Reports& reports, QWidget* parent);
   void Refresh() override;
-
- protected:
-  void nextCheckState() override;
 };
 
 }  // namespace ORXKMPrintProp::qt

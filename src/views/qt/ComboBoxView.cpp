@@ -7,8 +7,8 @@
 
 namespace ORXKMPrintProp::qt {
 
-ComboBoxView::ComboBoxView(ComboBox& combo, const Report& failed, QWidget* parent)
-    : ViewOf(combo, failed, parent), entries_(new EntryModel(combo, this)) {
+ComboBoxView::ComboBoxView(ComboBox& combo, const Reports& reports, QWidget* parent)
+    : ViewOf(combo, reports, parent), entries_(new EntryModel(combo, this)) {
   setModel(entries_);
   setFocusPolicy(Qt::StrongFocus);
   connect(this, &QComboBox::activated, this,
@@ -65,9 +65,15 @@ void ComboBoxView::ShowPicked() {
   setCurrentIndex(widget_.ListIndex());
   QStyleOptionComboBox option;
   initStyleOption(&option);
-  const QRect field = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-  const bool isCut = fontMetrics().horizontalAdvance(currentText()) > field.width();
+  const bool isCut = option.currentText != currentText();
   ShowToolTip(isCut ? currentText() : QString());
+}
+
+void ComboBoxView::initStyleOption(QStyleOptionComboBox* option) const {
+  QComboBox::initStyleOption(option);
+  constexpr int kBlank = 2;  // what styles leave beside the text
+  const QRect field = style()->subControlRect(QStyle::CC_ComboBox, option, QStyle::SC_ComboBoxEditField, this);
+  option->currentText = option->fontMetrics.elidedText(currentText(), Qt::ElideRight, field.width() - kBlank);
 }
 
 }  // namespace ORXKMPrintProp::qt

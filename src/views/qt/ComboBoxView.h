@@ -9,7 +9,7 @@ namespace ORXKMPrintProp::qt {
 
 class ComboBoxView : public ViewOf<QComboBox, ComboBox> {
  public:
-  ComboBoxView(ComboBox& combo, const Report& failed, QWidget* parent);
+  ComboBoxView(ComboBox& combo, const Reports& reports, QWidget* parent);
   void Refresh() override;
   void EntryAdded(int index) override;
   void EntryRemoved(int index) override;
@@ -17,6 +17,7 @@ class ComboBoxView : public ViewOf<QComboBox, ComboBox> {
   void showPopup() override;
 
  protected:
+  void initStyleOption(QStyleOptionComboBox* option) const override;
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 

@@ -1,10 +1,13 @@
 #include "views/qt/ListBoxView.h"
 
+#include <QApplication>
 #include <QHelpEvent>
 #include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QScrollBar>
+#include <QStyleOptionFocusRect>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 #include <algorithm>
@@ -25,7 +28,8 @@ class EntryDelegate : public QStyledItemDelegate {
 
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override {
-    const bool isCut = index.isValid() && sizeHint(option, index).width() > option.rect.width();
+    // The row may be wider than what is seen of it.
+    const bool isCut = index.isValid() && sizeHint(option, index).width() > view->viewport()->width();
     if (event->type() != QEvent::ToolTip || !isCut) return QStyledItemDelegate::helpEvent(event, view, option, index);
     QToolTip::showText(event->globalPos(), ToolTipOf(index.data().toString()), view, option.rect);
     return true;
@@ -57,8 +61,8 @@ std::int16_t ButtonOf(const QMouseEvent& event) {
 
 }  // namespace
 
-ListBoxView::ListBoxView(ListBox& list, const Report& failed, QWidget* parent)
-    : ViewOf(list, failed, parent), entries_(new EntryModel(list, this)) {
+ListBoxView::ListBoxView(ListBox& list, const Reports& reports, QWidget* parent)
+    : ViewOf(list, reports, parent), entries_(new EntryModel(list, this)) {
   setModel(entries_);
   setItemDelegate(new EntryDelegate(list, this));
   setSelectionMode(list.Row().multiSelect ? MultiSelection : SingleSelection);
@@ -69,6 +73,16 @@ ListBoxView::ListBoxView(ListBox& list, const Report& failed, QWidget* parent)
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   scrolling_.setInterval(kScrollInterval);
   connect(&scrolling_, &QTimer::timeout, this, [this] { ScrollDrag(); });
+}
+
+/// What has begun also ends, though nobody is told of it any more.
+ListBoxView::~ListBoxView() {
+  if (pressed_ == 0) return;
+  try {
+    widget_.UserMouseUp(pressed_);
+  } catch (...) {
+    return;
+  }
 }
 
 void ListBoxView::Refresh() {
@@ -127,6 +141,9 @@ void ListBoxView::DragTo(QPoint position) {
 }
 
 void ListBoxView::ScrollDrag() {
+  // Where another window has taken the mouse, no release comes.
+  const QWidget* const modal = QApplication::activeModalWidget();
+  if (modal && modal != window()) return Release(pressed_);
   QScrollBar& bar = *verticalScrollBar();
   bar.setValue(bar.value() + (pointer_.y() < 0 ? -1 : 1));
   DragTo(pointer_);
@@ -208,6 +225,35 @@ void ListBoxView::changeEvent(QEvent* event) {
 void ListBoxView::hideEvent(QHideEvent* event) {
   QListView::hideEvent(event);
   ReleaseLater();
+}
+
+void ListBoxView::paintEvent(QPaintEvent* event) {
+  QListView::paintEvent(event);
+  if (!hasFocus() || currentIndex().isValid()) return;
+  // No entry has the caret that would show it.
+  QPainter painter(viewport());
+  QStyleOptionFocusRect option;
+  option.initFrom(viewport());
+  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+}
+
+void ListBoxView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+  QListView::selectionChanged(selected, deselected);
+  // An entry has gone, and its row is to follow.
+  if (entries_->rowCount() != widget_.ListCount()) return;
+  for (const QItemSelection* const changed : {&selected, &deselected}) {
+    for (const QItemSelectionRange& range : *changed) {
+      for (int row = range.top(); row <= range.bottom(); ++row) {
+        const auto entry = static_cast<std::int16_t>(row);
+        if (widget_.Selected(entry) == (changed == &selected)) continue;
+        Perform([&] {
+          widget_.UserMoveCaret(entry);
+          widget_.UserToggle();
+        });
+        return;
+      }
+    }
+  }
 }
 
 QItemSelectionModel::SelectionFlags ListBoxView::selectionCommand(const QModelIndex&, const QEvent*) const {

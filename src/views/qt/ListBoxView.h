@@ -9,11 +9,12 @@
 
 namespace ORXKMPrintProp::qt {
 
-/// Selection and caret are those of the ListBox. Qt's selection model follows them, for screen readers; nothing
-/// else in the list view is left to change them.
+/// Selection and caret are those of the ListBox. Qt's selection model follows them, for screen readers; what these
+/// change in it is taken for the user's hand.
 class ListBoxView : public ViewOf<QListView, ListBox> {
  public:
-  ListBoxView(ListBox& list, const Report& failed, QWidget* parent);
+  ListBoxView(ListBox& list, const Reports& reports, QWidget* parent);
+  ~ListBoxView() override;
   void Refresh() override;
   void EntryAdded(int index) override;
   void EntryRemoved(int index) override;
@@ -29,6 +30,8 @@ class ListBoxView : public ViewOf<QListView, ListBox> {
   void focusInEvent(QFocusEvent* event) override;
   void changeEvent(QEvent* event) override;
   void hideEvent(QHideEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 
  private:

@@ -8,6 +8,7 @@
 #include <QLocale>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QPointer>
 #include <algorithm>
 #include <cmath>
 
@@ -24,28 +25,28 @@ namespace {
 constexpr std::int16_t kDragPointer = 99;
 
 template <class Glass, class W>
-WidgetView* Make(Widget& widget, const Report& failed, QWidget* parent) {
-  return new Glass(dynamic_cast<W&>(widget), failed, parent);
+WidgetView* Make(Widget& widget, const Reports& reports, QWidget* parent) {
+  return new Glass(dynamic_cast<W&>(widget), reports, parent);
 }
 
-WidgetView* MakeView(Widget& widget, const Report& failed, QWidget* parent) {
+WidgetView* MakeView(Widget& widget, const Reports& reports, QWidget* parent) {
   switch (widget.Row().kind) {
     case WidgetKind::SSTab:
-      return Make<TabStripView, SSTab>(widget, failed, parent);
+      return Make<TabStripView, SSTab>(widget, reports, parent);
     case WidgetKind::Frame:
-      return Make<FrameView, Frame>(widget, failed, parent);
+      return Make<FrameView, Frame>(widget, reports, parent);
     case WidgetKind::Label:
-      return Make<LabelView, Label>(widget, failed, parent);
+      return Make<LabelView, Label>(widget, reports, parent);
     case WidgetKind::TextBox:
-      return Make<TextBoxView, TextBox>(widget, failed, parent);
+      return Make<TextBoxView, TextBox>(widget, reports, parent);
     case WidgetKind::ComboBox:
-      return Make<ComboBoxView, ComboBox>(widget, failed, parent);
+      return Make<ComboBoxView, ComboBox>(widget, reports, parent);
     case WidgetKind::CheckBox:
-      return Make<CheckBoxView, CheckBox>(widget, failed, parent);
+      return Make<CheckBoxView, CheckBox>(widget, reports, parent);
     case WidgetKind::ListBox:
-      return Make<ListBoxView, ListBox>(widget, failed, parent);
+      return Make<ListBoxView, ListBox>(widget, reports, parent);
     case WidgetKind::CommandButton:
-      return Make<ButtonView, CommandButton>(widget, failed, parent);
+      return Make<ButtonView, CommandButton>(widget, reports, parent);
   }
   return nullptr;
 }
@@ -86,10 +87,13 @@ class PrnPropView::Events : public ORXQueryPrnPropEvents {
 PrnPropView::PrnPropView(ORXQueryPrnProp& control, QWidget* parent)
     : QWidget(parent),
       control_(control),
-      report_([this](const QString& message) { emit failed(message); }),
-      order_(std::make_unique<QCollator>(QLocale::system())) {
+      reports_{[this](const QString& message) { emit failed(message); },
+               [this](const Widget& widget) { emit used(widget); }},
+      order_(std::make_unique<QCollator>(QLocale::system().collation())) {
   order_->setCaseSensitivity(Qt::CaseInsensitive);
   setFixedSize(Place(kClientArea).size());
+  // The layout is not mirrored, so its arrows are not either.
+  setLayoutDirection(Qt::LeftToRight);
   // What the widgets inherit they need not be given one by one.
   setFont(ToQFont(control_.GetDialog().TabStrip().GetFont()));
   MakeWidgets();
@@ -108,7 +112,7 @@ PrnPropView::~PrnPropView() {
 void PrnPropView::MakeWidgets() {
   for (const auto& widget : control_.GetDialog().Controls()) {
     const LayoutRow& row = widget->Row();
-    WidgetView* const view = MakeView(*widget, report_, &ParentOf(row));
+    WidgetView* const view = MakeView(*widget, reports_, &ParentOf(row));
     view->Glass().setGeometry(Place(row.geometry));
     views_.emplace(widget.get(), view);
     if (row.kind == WidgetKind::SSTab) tabs_ = dynamic_cast<TabStripView*>(view);
@@ -135,9 +139,9 @@ void PrnPropView::GiveNames() {
     const SpokenName name(control_.GetDialog(), *widget);
     QWidget& glass = ViewFor(*widget).Glass();
     glass.setAccessibleName(name.Spoken());
-    if (const Label* const label = name.FirstLabel(); label && label != widget.get()) {
+    for (const Label* const label : name.Labels()) {
       auto& shown = dynamic_cast<QLabel&>(ViewFor(*label).Glass());
-      if (!shown.buddy()) shown.setBuddy(&glass);
+      if (!shown.buddy() && &shown != &glass) shown.setBuddy(&glass);
     }
     names_.emplace_back(widget.get(), name);
   }
@@ -179,7 +183,7 @@ void PrnPropView::keyPressEvent(QKeyEvent* event) {
       {Qt::Key_PageUp, Qt::ControlModifier, -1},
   };
   for (const TabKey& tab : kTabKeys) {
-    if (event->key() != tab.key || event->modifiers() != tab.modifiers) continue;
+    if (event->key() != tab.key || (event->modifiers() & ~Qt::KeypadModifier) != tab.modifiers) continue;
     tabs_->PickNext(tab.step);
     return;
   }
@@ -227,10 +231,13 @@ void PrnPropView::MousePointerChanged(std::int16_t pointer) {
 }
 
 void PrnPropView::MsgBox(const Text& text, const Text& title) {
-  QMessageBox box(QMessageBox::NoIcon, ToQString(title), ToQString(text), QMessageBox::Ok, window());
-  box.setTextFormat(Qt::PlainText);
-  box.setWindowModality(Qt::WindowModal);
-  box.exec();
+  // It goes with the window, if that is deleted meanwhile.
+  const QPointer<QMessageBox> box(
+      new QMessageBox(QMessageBox::NoIcon, ToQString(title), ToQString(text), QMessageBox::Ok, window()));
+  box->setTextFormat(Qt::PlainText);
+  box->setWindowModality(Qt::WindowModal);
+  box->exec();
+  delete box;
 }
 
 int PrnPropView::CompareTexts(TextView a, TextView b) const {

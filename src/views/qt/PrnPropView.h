@@ -22,8 +22,8 @@ class TabStripView;
 /// The dialog as a Qt widget of fixed size, to be put into any window. A control has one view at a time; it shows
 /// what the control holds already, and everything from then on.
 ///
-/// The signals come inside the user's action. A slot may call any operation of the control, but is to leave the view
-/// alive: `deleteLater` does.
+/// The signals come inside the user's action. A slot may call any operation of the control, and run an event loop of
+/// its own, but is to delete the view by `deleteLater` only.
 class PrnPropView : public QWidget, private View {
   Q_OBJECT
 
@@ -39,6 +39,9 @@ class PrnPropView : public QWidget, private View {
   /// What the user did failed in the middle, as where a table refuses an operation. The dialog stays usable.
   /// @param message one line for a person
   void failed(const QString& message);
+  /// The user has done something with a widget, and all that it led to is done. Whether a setting has changed is seen
+  /// in the tables, once the control has given them.
+  void used(const ORXKMPrintProp::Widget& widget);
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -65,7 +68,7 @@ class PrnPropView : public QWidget, private View {
   WidgetView& ViewFor(const Widget& widget) const { return *views_.at(&widget); }
 
   ORXQueryPrnProp& control_;
-  Report report_;
+  Reports reports_;
   std::unique_ptr<QCollator> order_;
   std::unique_ptr<Events> events_;
   std::unordered_map<const Widget*, WidgetView*> views_;

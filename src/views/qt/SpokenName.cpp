@@ -58,8 +58,12 @@ QString SpokenName::Spoken() const {
   return parts.join(QStringLiteral(", "));
 }
 
-const Label* SpokenName::FirstLabel() const {
-  return sources_.empty() ? nullptr : dynamic_cast<const Label*>(sources_.front());
+std::vector<const Label*> SpokenName::Labels() const {
+  std::vector<const Label*> labels;
+  for (const Widget* const source : sources_) {
+    if (const auto* const label = dynamic_cast<const Label*>(source)) labels.push_back(label);
+  }
+  return labels;
 }
 
 }  // namespace ORXKMPrintProp::qt

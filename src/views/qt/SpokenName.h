@@ -15,8 +15,8 @@ class SpokenName {
 
   bool DependsOn(const Widget& widget) const;
   QString Spoken() const;
-  /// None for a widget that has its name from itself.
-  const Label* FirstLabel() const;
+  /// Those of the name that are labels.
+  std::vector<const Label*> Labels() const;
 
  private:
   /// Those whose captions make the name, in its order.

@@ -2,6 +2,7 @@
 
 #include <QStyleOptionTabWidgetFrame>
 #include <QStylePainter>
+#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 
@@ -28,6 +29,8 @@ class TabBar : public QTabBar {
   QSize minimumTabSizeHint(int tab) const override {
     return Fits() ? tabSizeHint(tab) : QSize(width() / count(), height());
   }
+  /// A page that is left is stored; that is not to happen in passing.
+  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 
  private:
   int WidthOf(int tab) const { return std::max(width() / kTabsPerRow, QTabBar::tabSizeHint(tab).width()); }
@@ -41,8 +44,8 @@ int TabHeight(const QWidget& widget) {
 
 }  // namespace
 
-TabStripView::TabStripView(SSTab& strip, const Report& failed, QWidget* parent)
-    : ViewOf(strip, failed, parent), tabs_(new TabBar(this)) {
+TabStripView::TabStripView(SSTab& strip, const Reports& reports, QWidget* parent)
+    : ViewOf(strip, reports, parent), tabs_(new TabBar(this)) {
   for (QWidget*& page : pages_) {
     page = new QWidget(this);
     tabs_->addTab(QString());
@@ -60,16 +63,26 @@ TabStripView::TabStripView(SSTab& strip, const Report& failed, QWidget* parent)
 void TabStripView::Refresh() {
   WidgetView::Refresh();
   tabs_->setGeometry(0, 0, width(), TabHeight(*this));
+  BringUp();
   for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) {
     const QString caption = ToQString(widget_.TabCaption(tab));
     tabs_->setTabText(tab, WithoutShortcut(caption));
     tabs_->setAccessibleTabName(tab, caption);
     Page(tab).setGeometry(rect());
     Page(tab).setAccessibleName(caption);
-    Page(tab).setVisible(tab == widget_.Tab());
   }
   FitTabs();
   tabs_->setCurrentIndex(widget_.Tab());
+}
+
+void TabStripView::BringUp() {
+  Page(widget_.Tab()).show();
+  for (QWidget* const page : pages_) {
+    if (page == &Page(widget_.Tab())) continue;
+    // Else it would go to whatever comes next in the window.
+    if (page->isAncestorOf(window()->focusWidget())) tabs_->setFocus();
+    page->hide();
+  }
 }
 
 void TabStripView::PickNext(int step) { Pick((widget_.Tab() + step + SSTab::kTabs) % SSTab::kTabs); }

@@ -11,7 +11,7 @@ namespace ORXKMPrintProp::qt {
 /// included, since what lies on it is placed from there.
 class TabStripView : public ViewOf<QWidget, SSTab> {
  public:
-  TabStripView(SSTab& strip, const Report& failed, QWidget* parent);
+  TabStripView(SSTab& strip, const Reports& reports, QWidget* parent);
   void Refresh() override;
 
   QWidget& Page(std::int16_t tab) const { return *pages_[static_cast<std::size_t>(tab)]; }
@@ -23,6 +23,8 @@ class TabStripView : public ViewOf<QWidget, SSTab> {
 
  private:
   void Pick(int tab);
+  /// Shows the page on top. The focus of another page goes to the tabs.
+  void BringUp();
   void FitTabs();
 
   QTabBar* tabs_;

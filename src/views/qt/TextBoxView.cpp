@@ -2,6 +2,7 @@
 
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <QPointer>
 #include <limits>
 #include <utility>
 
@@ -9,19 +10,27 @@
 
 namespace ORXKMPrintProp::qt {
 
-TextBoxView::TextBoxView(TextBox& box, const Report& failed, QWidget* parent) : ViewOf(box, failed, parent) {
+TextBoxView::TextBoxView(TextBox& box, const Reports& reports, QWidget* parent) : ViewOf(box, reports, parent) {
   setMaxLength(std::numeric_limits<int>::max());
   connect(this, &QLineEdit::textChanged, this, [this](const QString& shown) {
     Text text = ToText(shown);
     if (text == widget_.GetText()) return;
+    const QPointer<TextBoxView> self(this);
+    isTyping_ = true;
     Perform([&] { widget_.UserEdit(std::move(text)); });
+    if (self) isTyping_ = false;
   });
 }
 
 void TextBoxView::Refresh() {
   WidgetView::Refresh();
   const QString text = ToQString(widget_.GetText());
-  if (text != this->text()) setText(text);
+  const bool isShown = text == this->text();
+  // What is written anew is another text, though it reads the same; undo is not to lead out of it.
+  if (isShown && (isTyping_ || !(isUndoAvailable() || isRedoAvailable()))) return;
+  const int cursor = cursorPosition();
+  setText(text);
+  if (isShown) setCursorPosition(cursor);
 }
 
 void TextBoxView::keyPressEvent(QKeyEvent* event) {
@@ -61,7 +70,7 @@ QString TextBoxView::Filtered(const QString& typed) {
 
 char16_t TextBoxView::FilterKey(char16_t key) {
   char16_t left = 0;
-  Perform([&] { left = widget_.FilterKey(key); });
+  Attempt([&] { left = widget_.FilterKey(key); });
   return left;
 }
 

@@ -8,7 +8,7 @@ namespace ORXKMPrintProp::qt {
 
 class TextBoxView : public ViewOf<QLineEdit, TextBox> {
  public:
-  TextBoxView(TextBox& box, const Report& failed, QWidget* parent);
+  TextBoxView(TextBox& box, const Reports& reports, QWidget* parent);
   void Refresh() override;
 
  protected:
@@ -19,6 +19,8 @@ class TextBoxView : public ViewOf<QLineEdit, TextBox> {
   /// What becomes of typed text; control codes belong to keys with a meaning of their own and stay.
   QString Filtered(const QString& typed);
   char16_t FilterKey(char16_t key);
+
+  bool isTyping_ = false;  ///< what changes now is what the user has typed
 };
 
 }  // namespace ORXKMPrintProp::qt

@@ -1,5 +1,6 @@
 #include "views/qt/WidgetView.h"
 
+#include <QPointer>
 #include <QTextDocument>
 #include <exception>
 
@@ -13,8 +14,8 @@ QString ToolTipOf(const QString& text) {
   return Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text, Qt::WhiteSpaceNormal) : text;
 }
 
-WidgetView::WidgetView(QWidget& glass, Widget& widget, const Report& failed)
-    : glass_(glass), base_(widget), failed_(failed) {
+WidgetView::WidgetView(QWidget& glass, Widget& widget, const Reports& reports)
+    : glass_(glass), base_(widget), reports_(reports) {
   const WidgetName& name = widget.Row().name;
   QString text = ToQString(name.name);
   if (name.index != WidgetName::kNoIndex) text += QStringLiteral("(%1)").arg(name.index);
@@ -29,14 +30,27 @@ void WidgetView::Refresh() {
 }
 
 void WidgetView::Perform(const std::function<void()>& action) {
+  const QPointer<QWidget> glass(&glass_);
+  Attempt(action);
+  if (glass) Refresh();
+  if (glass) reports_.used(base_);
+}
+
+void WidgetView::Attempt(const std::function<void()>& action) {
+  // Whoever is called back may run an event loop, and delete the view in it.
+  const QPointer<QWidget> glass(&glass_);
+  const auto report = [&](const QString& why) {
+    if (glass) reports_.failed(why);
+  };
   try {
     action();
   } catch (const RunTimeError& error) {
-    failed_(ToQString(error.Message()));
+    report(ToQString(error.Message()));
   } catch (const std::exception& error) {
-    failed_(QString::fromUtf8(error.what()));
+    report(QString::fromUtf8(error.what()));
+  } catch (...) {
+    report(QStringLiteral("A handler failed without telling why."));
   }
-  Refresh();
 }
 
 void WidgetView::SetFont(const QFont& font) {

@@ -9,8 +9,11 @@
 
 namespace ORXKMPrintProp::qt {
 
-/// Where a failure of a handler goes.
-using Report = std::function<void(const QString& message)>;
+/// What is told of what the user does.
+struct Reports {
+  std::function<void(const QString& message)> failed;
+  std::function<void(const Widget& widget)> used;
+};
 
 /// The tooltip that shows the text as it is, also where it looks like markup.
 QString ToolTipOf(const QString& text);
@@ -18,7 +21,7 @@ QString ToolTipOf(const QString& text);
 /// Draws one widget of the dialog and hands in what the user does with it. It keeps nothing of the widget's content.
 class WidgetView {
  public:
-  WidgetView(QWidget& glass, Widget& widget, const Report& failed);
+  WidgetView(QWidget& glass, Widget& widget, const Reports& reports);
   virtual ~WidgetView() = default;
   WidgetView(const WidgetView&) = delete;
   WidgetView& operator=(const WidgetView&) = delete;
@@ -34,8 +37,10 @@ class WidgetView {
 
  protected:
   /// The only way in for what the user does: reports a failure, and shows the widget as it is afterwards, whether
-  /// the action was carried out, refused or failed.
+  /// the action was carried out, refused or failed. The view may be gone when it returns.
   void Perform(const std::function<void()>& action);
+  /// The same for what changes nothing.
+  void Attempt(const std::function<void()>& action);
 
   QFont StoredFont() const;
   void SetFont(const QFont& font);
@@ -48,7 +53,7 @@ class WidgetView {
  private:
   QWidget& glass_;
   Widget& base_;
-  const Report& failed_;
+  const Reports& reports_;
 };
 
 QFont ToQFont(const Font& stored);
@@ -57,8 +62,8 @@ QFont ToQFont(const Font& stored);
 template <class QtWidget, class W>
 class ViewOf : public QtWidget, public WidgetView {
  public:
-  ViewOf(W& widget, const Report& failed, QWidget* parent)
-      : QtWidget(parent), WidgetView(*static_cast<QtWidget*>(this), widget, failed), widget_(widget) {}
+  ViewOf(W& widget, const Reports& reports, QWidget* parent)
+      : QtWidget(parent), WidgetView(*static_cast<QtWidget*>(this), widget, reports), widget_(widget) {}
 
  protected:
   W& widget_;
