@@ -1,21 +1,17 @@
 #include "host/window/SettingsWindow.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QScrollArea>
 #include <QShortcut>
-#include <QTabBar>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -77,7 +73,8 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
   });
   connect(view_, &qt::PrnPropView::failed, this,
           [this](const QString& why) { Tell(QStringLiteral("That could not be done."), why); });
-  WatchInput();
+  connect(view_, &qt::PrnPropView::used, this, &SettingsWindow::OnUsed);
+  printOrder_ = PrintOrder();
   ShowMeaning();
   unfoldedWidth_ = view_->width() * 9 / 5;
   resize(sizeHint().expandedTo(QSize(unfoldedWidth_, 0)));
@@ -151,40 +148,23 @@ void SettingsWindow::Fold(bool unfold) {
   resize(std::min(wanted, room_.width()), height());
 }
 
-void SettingsWindow::WatchInput() {
-  for (auto* const box : view_->findChildren<QLineEdit*>()) {
-    connect(box, &QLineEdit::textEdited, this, [this] { MarkEdited(); });
+void SettingsWindow::OnUsed(const Widget& widget) {
+  const TextView name = widget.Row().name.name;
+  const auto before = std::exchange(printOrder_, PrintOrder());
+  switch (widget.Row().kind) {
+    case WidgetKind::SSTab:
+      return ReadLater();
+    case WidgetKind::TextBox:
+    case WidgetKind::CheckBox:
+      return MarkEdited();
+    case WidgetKind::ComboBox:
+      // This one only picks what the page shows.
+      if (name != u"cmbAttrChar") MarkEdited();
+      return;
+    default:
+      // The structures pick a list, the others order it.
+      if (name != u"lstStrStructures" && before != printOrder_) MarkEdited();
   }
-  for (auto* const combo : view_->findChildren<QComboBox*>()) {
-    // This one only picks what the page shows.
-    if (combo->objectName() == QStringLiteral("cmbAttrChar")) continue;
-    connect(combo, &QComboBox::activated, this, [this] { MarkEdited(); });
-  }
-  for (auto* const check : view_->findChildren<QCheckBox*>()) {
-    connect(check, &QCheckBox::clicked, this, [this] { MarkEdited(); });
-  }
-  for (auto* const widget : view_->findChildren<QWidget*>(QRegularExpression(QStringLiteral("^(lstPrint|cmd.*To)")))) {
-    widget->installEventFilter(this);
-    if (auto* const list = qobject_cast<QListView*>(widget)) list->viewport()->installEventFilter(this);
-  }
-  for (auto* const tabs : view_->findChildren<QTabBar*>()) {
-    connect(tabs, &QTabBar::currentChanged, this, [this] { ReadLater(); });
-  }
-}
-
-/// A drag, a key and a button may change what prints, and in which order, or may not.
-bool SettingsWindow::eventFilter(QObject* watched, QEvent* event) {
-  const bool begins = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress;
-  const bool ends = event->type() == QEvent::MouseButtonRelease || event->type() == QEvent::KeyRelease;
-  if (begins) printOrder_ = PrintOrder();
-  if (begins || ends) {
-    const auto compare = [this] {
-      const auto before = std::exchange(printOrder_, PrintOrder());
-      if (before != printOrder_) MarkEdited();
-    };
-    QMetaObject::invokeMethod(this, compare, Qt::QueuedConnection);
-  }
-  return QWidget::eventFilter(watched, event);
 }
 
 /// What stands in the print lists.

@@ -8,9 +8,12 @@
 class QPushButton;
 class QScrollArea;
 
-namespace ORXKMPrintProp::qt {
+namespace ORXKMPrintProp {
+class Widget;
+namespace qt {
 class PrnPropView;
 }
+}  // namespace ORXKMPrintProp
 
 namespace ORXKMPrintProp::host {
 
@@ -35,14 +38,13 @@ class SettingsWindow : public QWidget {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
   QWidget* MakeButtons();
   void Fold(bool unfold);
   void BoundDialog();
-  void WatchInput();
+  void OnUsed(const Widget& widget);
   std::vector<std::int32_t> PrintOrder() const;
   void MarkEdited();
   /// Reads now, or when the user's action has come to its end. @return whether the tables could be read.
@@ -71,7 +73,7 @@ class SettingsWindow : public QWidget {
   QPushButton* apply_ = nullptr;
   int unfoldedWidth_ = 0;
   QSize room_{QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
-  std::vector<std::int32_t> printOrder_;  ///< when an input that could change it began
+  std::vector<std::int32_t> printOrder_;  ///< as the user has left it
   bool isEdited_ = false;                 ///< by the user, since the last read
   bool isTouched_ = false;                ///< the same since the last save
   bool isDone_ = false;
