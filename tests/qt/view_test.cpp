@@ -517,11 +517,14 @@ TEST_F(ViewTest, EntriesSortInTheOrderOfTheUsersLanguage) {
 
 TEST_F(ViewTest, ASecondViewShowsWhatTheControlHoldsAlready) {
   Load("a b -x");
+  QApplication::setLayoutDirection(Qt::RightToLeft);
   const PrnPropView second(control);
+  QApplication::setLayoutDirection(Qt::LeftToRight);
   const auto& shown = *second.findChild<QListView*>(QStringLiteral("lstPrint(1)"));
   EXPECT_EQ(shown.model()->rowCount(), 2);
   EXPECT_EQ(second.findChild<QTabBar*>()->currentIndex(), 1);
   EXPECT_EQ(second.size(), QSize(645, 396));
+  EXPECT_EQ(shown.layoutDirection(), Qt::LeftToRight) << "the layout is not mirrored";
   dialog.Get<ListBox>(u"lstPrint", 1).AddItem(u"new");
   EXPECT_EQ(shown.model()->rowCount(), 3);
 }

@@ -7,7 +7,6 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScrollBar>
-#include <QStyleOptionFocusRect>
 #include <QStyledItemDelegate>
 #include <QToolTip>
 #include <algorithm>
@@ -229,12 +228,11 @@ void ListBoxView::hideEvent(QHideEvent* event) {
 
 void ListBoxView::paintEvent(QPaintEvent* event) {
   QListView::paintEvent(event);
-  if (!hasFocus() || currentIndex().isValid()) return;
-  // No entry has the caret that would show it.
+  if (!hasFocus()) return;
+  // There may be no caret to show it.
   QPainter painter(viewport());
-  QStyleOptionFocusRect option;
-  option.initFrom(viewport());
-  style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+  painter.setPen(palette().color(QPalette::Highlight));
+  painter.drawRect(viewport()->rect().adjusted(0, 0, -1, -1));
 }
 
 void ListBoxView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
