@@ -371,6 +371,9 @@ TEST_F(ViewTest, ACheckBoxShowsWhatItsHandlerLeaves) {
   Play("chkGenUseColors", {{"key Space", "0 failed: refused by the host"}});
   check.Click = [] { throw 5; };
   Play("chkGenUseColors", {{"key Space", "1 failed: A handler failed without telling why."}});
+  check.Click = {};
+  QObject::connect(&view, &PrnPropView::used, [] { throw std::runtime_error("nor a slot"); });
+  Play("chkGenUseColors", {{"key Space", "0 failed: nor a slot"}});
 }
 
 TEST_F(ViewTest, AnAssistiveProgramActsAsTheUser) {

@@ -33,7 +33,7 @@ void WidgetView::Perform(const std::function<void()>& action) {
   const QPointer<QWidget> glass(&glass_);
   Attempt(action);
   if (glass) Refresh();
-  if (glass) reports_.used(base_);
+  if (glass) Attempt([this] { reports_.used(base_); });
 }
 
 void WidgetView::Attempt(const std::function<void()>& action) {
