@@ -12,7 +12,7 @@ namespace {
 
 void EnterAndPaint(benchmark::State& state) {
   Loaded loaded(state.range(0));
-  qt::PrnPropView view(loaded.control);
+  qt::PrnPropView view(loaded.control.GetDialog());
   view.show();
   SSTab& tabs = loaded.control.GetDialog().TabStrip();
   for (auto _ : state) {

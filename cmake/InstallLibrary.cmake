@@ -5,7 +5,7 @@ set(package_headers ${CMAKE_INSTALL_INCLUDEDIR}/ORXKMPrintProp)
 set(package_cmake ${CMAKE_INSTALL_LIBDIR}/cmake/ORXKMPrintProp)
 set(package_pkgconfig ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
-install(DIRECTORY tables texts model pages control DESTINATION ${package_headers} FILES_MATCHING PATTERN "*.h")
+install(DIRECTORY tables texts model dialog pages control DESTINATION ${package_headers} FILES_MATCHING PATTERN "*.h")
 install(
   TARGETS Control
   EXPORT ORXKMPrintPropTargets

@@ -19,11 +19,10 @@ using namespace ModPrnGen;
 
 /// What the action gives, or the kind of its failure.
 std::string Outcome(const std::function<std::string()>& action) {
-  static const char* const kinds[] = {"type", "overflow", "index", "key", "object", "table"};
   try {
     return action();
   } catch (const RunTimeError& error) {
-    return kinds[static_cast<int>(error.Kind())];
+    return NameOf(error.Kind());
   }
 }
 

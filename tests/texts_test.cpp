@@ -2,7 +2,8 @@
 
 #include <vector>
 
-#include "pages/Dialog.h"
+#include "dialog/Dialog.h"
+#include "dialog/DialogFont.h"
 #include "support/table_text.h"
 #include "support/watched_table.h"
 #include "tables/RunTimeError.h"
@@ -73,22 +74,16 @@ TEST_F(LookupTextTest, ToleratesAFailingLookUpButNotAFailingCell) {
   EXPECT_EQ(watch->calls, (std::vector<std::string>{"texts.Rows", "texts.Rows.Item(k)", "texts[1].Value(CAPTION)"}));
 }
 
-/// Notes what it is asked, and has a face name of its own.
-class NotingPlatform : public RBDoubleByteCS::FontPlatform {
+class NotingPlatform : public Platform {
  public:
   explicit NotingPlatform(Text face) : face_(std::move(face)) {}
 
-  Window GetActiveWindow() override { return &calls; }
-  Context GetContext(Window window) override { return window == &calls ? this : nullptr; }
-  Text GetTextFace(Context context, std::size_t length) override {
-    calls += (context == this ? "face " : "wrong context ") + std::to_string(length) + ";";
+  Text DialogFontFace() const override {
+    ++asked;
     return face_;
   }
-  void ReleaseContext(Window window, Context context) override {
-    calls += window == &calls && context == this ? "release;" : "wrong release;";
-  }
 
-  std::string calls;
+  mutable int asked = 0;
 
  private:
   Text face_;
@@ -102,17 +97,16 @@ TEST(DialogFont, IsThePlatformsFaceUpToItsNulAskedForOnce) {
     gDefaultFontName.clear();
     NotingPlatform platform(face);
     for (int control = 0; control < 2; ++control) {
-      Dialog dialog;
-      dialog.ApplyDialogFont(platform);
+      Dialog dialog(platform);
+      dialog.ApplyDialogFont();
       for (const auto& widget : dialog.Controls()) {
         const Font& font = widget->GetFont();
         EXPECT_EQ(std::tuple(font.Name, font.Size, font.Weight), std::tuple(expected, 8.25, 400));
       }
     }
-    EXPECT_EQ(platform.calls, "face 80;release;");
+    EXPECT_EQ(platform.asked, 1);
   }
-  RBDoubleByteCS::FontPlatform withoutView;
-  RBDoubleByteCS::GetDefaultDialogFont(withoutView);
+  RBDoubleByteCS::GetDefaultDialogFont(Platform::Plain());
   EXPECT_EQ(gDefaultFontName, u"MS Sans Serif");
 }
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "pages/Dialog.h"
+#include "dialog/Dialog.h"
 #include "support/table_text.h"
 #include "support/widget_text.h"
 #include "tables/RunTimeError.h"
@@ -122,7 +122,7 @@ TEST_F(WidgetsTest, ASortedListTakesAnEntryAheadOfTheFirstThatSortsBehindIt) {
       if (count > 0) sorted.RemoveItem(random(count));
     } else {
       std::int16_t place = 0;
-      while (place < count && dialog.GetView().CompareTexts(sorted.List(place), text) <= 0) ++place;
+      while (place < count && Platform::Plain().CompareTexts(sorted.List(place), text) <= 0) ++place;
       sorted.AddItem(text);
       ASSERT_EQ(sorted.NewIndex(), place) << step;
     }

@@ -6,22 +6,15 @@
 #include <utility>
 
 #include "control/SharedValues.h"
+#include "pages/Pages.h"
 #include "tables/Conversions.h"
 #include "tables/TableCalls.h"
 
 namespace ORXKMPrintProp {
 
-bool gTabSetup = false;
+thread_local bool gTabSetup = false;
 
 namespace {
-
-/// That of a program without a view.
-RBDoubleByteCS::FontPlatform& PlainPlatform() {
-  static RBDoubleByteCS::FontPlatform platform;
-  return platform;
-}
-
-constexpr std::int16_t kTotalsRowButton = 4;
 
 /// As variants compare: numbers of any type by their value, and a text equals no number.
 bool IsTotalsRowButton(const Variant& buttonId) {
@@ -48,21 +41,22 @@ std::int16_t LayoutSlot(const Variant& buttonId) {
 
 }  // namespace
 
-ORXQueryPrnProp::ORXQueryPrnProp(RBDoubleByteCS::FontPlatform& platform)
-    : pages_(dialog_, {[this](std::int16_t ButtonID, const Text& CharIObjName) {
-                         Raise([&](auto& listener) { listener.ORXPrintLayoutGet(ButtonID, CharIObjName); });
-                       },
-                       [this] { Raise([](auto& listener) { listener.ORXOrderChanged(); }); }}) {
+ORXQueryPrnProp::ORXQueryPrnProp(const Platform& platform) : dialog_(platform) {
+  const PageEvents events{[this](std::int16_t ButtonID, const Text& CharIObjName) {
+                            Raise([&](auto& listener) { listener.ORXPrintLayoutGet(ButtonID, CharIObjName); });
+                          },
+                          [this] { Raise([](auto& listener) { listener.ORXOrderChanged(); }); }};
+  pages_ = std::make_unique<Pages>(dialog_, events);
   dialog_.TabStrip().Click = [this](std::int16_t PreviousTab) {
-    if (!gTabSetup) pages_.ChangeTab(PreviousTab);
+    if (!gTabSetup) pages_->ChangeTab(PreviousTab);
   };
   gTabSetup = true;
   dialog_.TabStrip().Tab(0);
   gTabSetup = false;
-  dialog_.ApplyDialogFont(platform);
+  dialog_.ApplyDialogFont();
 }
 
-ORXQueryPrnProp::ORXQueryPrnProp() : ORXQueryPrnProp(PlainPlatform()) {}
+ORXQueryPrnProp::~ORXQueryPrnProp() = default;
 
 template <class Event>
 void ORXQueryPrnProp::Raise(Event event) {
@@ -73,15 +67,11 @@ void ORXQueryPrnProp::Raise(Event event) {
   }
 }
 
-void ORXQueryPrnProp::ApplyTexts() {
-  dialog_.ApplyTexts();
-  mTextsDone = true;
-}
-
 bool ORXQueryPrnProp::ORXSetPrnTables(TableRef GenPropTable, TableRef DimTable, TableRef MemTable, TableRef AtrTable) {
   for (const TableRef& table : {GenPropTable, DimTable, MemTable, AtrTable}) Needed(table);
 
-  if (!mTextsDone) ApplyTexts();
+  if (!mTextsDone) dialog_.ApplyTexts();
+  mTextsDone = true;
   gPrnProp.reset();
   // Held, since a table may load other settings from inside an operation.
   const auto root = std::make_shared<PrnPropCls>();
@@ -92,16 +82,16 @@ bool ORXQueryPrnProp::ORXSetPrnTables(TableRef GenPropTable, TableRef DimTable, 
   mDimTable = std::move(DimTable);
   mMemTable = std::move(MemTable);
   mAtrTable = std::move(AtrTable);
-  pages_.SetLoaded();
+  pages_->SetLoaded();
   const TableRef general = mGenPropTable;
   RowsOf(*general)->RemoveAll();
-  if (loaded) pages_.FillAllPages();
+  if (loaded) pages_->FillAllPages();
   return loaded;
 }
 
 TableRef ORXQueryPrnProp::ReadBack(const TableRef ORXQueryPrnProp::*table) {
   if (!gPrnProp || !mGenPropTable) return nullptr;
-  pages_.StoreCurrentPage();
+  pages_->StoreCurrentPage();
   const std::shared_ptr<PrnPropCls> root = gPrnProp;
   // The fields may change under the call: a table may load other settings from inside an operation.
   const TableRef asked = this->*table;
@@ -121,7 +111,8 @@ bool ORXQueryPrnProp::ORXControlTexts(TableRef TextTable) {
   try {
     const Variant index = Needed(table->Columns(u"TARGETID"))->Index();
     Needed(table->Columns())->KeyColumn(index);
-    ApplyTexts();
+    dialog_.ApplyTexts();
+    mTextsDone = true;
   } catch (...) {
     // A table that can't be used must not fail every later load too.
     if (gTextTable == table) gTextTable = former;
@@ -144,7 +135,9 @@ Variant ORXQueryPrnProp::ORXSetPrintLayout(Text FBLayout, const Variant& ButtonI
   return {};
 }
 
-void ORXQueryPrnProp::ORXSetReadOnly(bool ReadOnly) { pages_.SetReadOnly(ReadOnly); }
+void ORXQueryPrnProp::ORXSetReadOnly(bool ReadOnly) { pages_->SetReadOnly(ReadOnly); }
+
+bool ORXQueryPrnProp::IsReadOnly() const { return pages_->IsReadOnly(); }
 
 void ORXQueryPrnProp::Connect(ORXQueryPrnPropEvents& listener) { listeners_.push_back(&listener); }
 

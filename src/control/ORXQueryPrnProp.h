@@ -1,13 +1,15 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <vector>
 
-#include "pages/Dialog.h"
-#include "pages/Pages.h"
+#include "dialog/Dialog.h"
 #include "tables/Table.h"
 
 namespace ORXKMPrintProp {
+
+class Pages;
 
 /// What the control tells its hosts. A handler runs inside the user's action and may call any public operation of
 /// the control, connect and disconnect listeners; it must not end the control's life.
@@ -30,11 +32,11 @@ class ORXQueryPrnPropEvents {
 class ORXQueryPrnProp {
  public:
   /// The dialog opens on the General page, with the captions stored with the form.
-  /// @param platform asked for the dialog's typeface, once in the program and only in here.
-  explicit ORXQueryPrnProp(RBDoubleByteCS::FontPlatform& platform);
-  ORXQueryPrnProp();
+  /// @param platform the dialog's typeface and text order; must outlive the control.
+  explicit ORXQueryPrnProp(const Platform& platform = Platform::Plain());
   ORXQueryPrnProp(const ORXQueryPrnProp&) = delete;
   ORXQueryPrnProp& operator=(const ORXQueryPrnProp&) = delete;
+  ~ORXQueryPrnProp();
 
   /// Loads new settings in the place of all former ones, empties the general table and fills the pages. The first
   /// load applies the default texts unless texts have been handed in.
@@ -78,12 +80,11 @@ class ORXQueryPrnProp {
 
   /// The widgets, for a view that draws them and hands in what the user does.
   Dialog& GetDialog() { return dialog_; }
-  bool IsReadOnly() const { return pages_.IsReadOnly(); }
+  bool IsReadOnly() const;
 
  private:
   template <class Event>
   void Raise(Event event);
-  void ApplyTexts();
   TableRef ReadBack(const TableRef ORXQueryPrnProp::*table);
 
   TableRef mGenPropTable;
@@ -92,7 +93,7 @@ class ORXQueryPrnProp {
   TableRef mAtrTable;
   bool mTextsDone = false;
   Dialog dialog_;
-  Pages pages_;
+  std::unique_ptr<Pages> pages_;
   std::vector<ORXQueryPrnPropEvents*> listeners_;
 };
 

@@ -121,11 +121,10 @@ class Driver : private View, private ORXQueryPrnPropEvents {
 
   template <class Operation>
   void Try(Operation operation) {
-    static const char* const kinds[] = {"type", "overflow", "index", "key", "object", "table"};
     try {
       operation();
     } catch (const RunTimeError& error) {
-      Print({{"error", {{"kind", kinds[static_cast<int>(error.Kind())]}, {"message", ToUtf8(error.Message())}}}});
+      Print({{"error", {{"kind", NameOf(error.Kind())}, {"message", ToUtf8(error.Message())}}}});
     }
   }
 
@@ -150,19 +149,15 @@ class Driver : private View, private ORXQueryPrnPropEvents {
   Step User(std::function<Refusal()> operation) {
     return [this, line = line_, operation = std::move(operation)] {
       Try([&] {
-        static const char* const reasons[] = {"", "not on top", "hidden", "disabled", "no such entry"};
         const Refusal refusal = operation();
-        if (refusal != Refusal::None) Print({{"refused", line}, {"why", reasons[static_cast<int>(refusal)]}});
+        if (refusal != Refusal::None) Print({{"refused", line}, {"why", WordsOf(refusal)}});
       });
     };
   }
 
   template <class W>
   W* Find(const Argument& name) {
-    for (const auto& widget : control_.GetDialog().Controls()) {
-      if (NameOf(widget->Row().name) == name.text) return dynamic_cast<W*>(widget.get());
-    }
-    return nullptr;
+    return dynamic_cast<W*>(control_.GetDialog().FindSpelled(FromUtf8(name.text)));
   }
 
   std::optional<Step> Tab(const Arguments& arguments) {

@@ -9,28 +9,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-const char* NameOf(WidgetKind kind) {
-  switch (kind) {
-    case WidgetKind::SSTab:
-      return "SSTab";
-    case WidgetKind::Frame:
-      return "Frame";
-    case WidgetKind::Label:
-      return "Label";
-    case WidgetKind::TextBox:
-      return "TextBox";
-    case WidgetKind::ComboBox:
-      return "ComboBox";
-    case WidgetKind::CheckBox:
-      return "CheckBox";
-    case WidgetKind::ListBox:
-      return "ListBox";
-    case WidgetKind::CommandButton:
-      return "CommandButton";
-  }
-  return "";
-}
-
 bool HasEnabled(WidgetKind kind) {
   return kind != WidgetKind::SSTab && kind != WidgetKind::Frame && kind != WidgetKind::Label;
 }
@@ -53,14 +31,9 @@ void AddTabs(Json& state, const SSTab& strip) {
 
 }  // namespace
 
-std::string NameOf(const WidgetName& name) {
-  const std::string text = ToUtf8(name.name);
-  return name.index == WidgetName::kNoIndex ? text : text + "(" + std::to_string(name.index) + ")";
-}
-
 Json StateOf(const Widget& widget) {
   const WidgetKind kind = widget.Row().kind;
-  Json state{{"widget", NameOf(widget.Row().name)},
+  Json state{{"widget", ToUtf8(widget.Row().name.Spelled())},
              {"kind", NameOf(kind)},
              {"visible", widget.Visible()},
              {"tooltip", ToUtf8(widget.ToolTipText())},

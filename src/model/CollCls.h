@@ -17,7 +17,7 @@ class CollCls {
 
   void AddItemAsObj(ItemRef objNewMember) { items_.Add(std::move(objNewMember)); }
 
-  /// By number or key. @throws RunTimeError (Index, Key) for what is not there.
+  /// By number or key. @throws RunTimeError (Index, NoSuchKey) for what is not there.
   template <class NumberOrKey>
   const ItemRef& Item(const NumberOrKey& vntIndexKey) const {
     return items_.Item(vntIndexKey);

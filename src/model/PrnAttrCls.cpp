@@ -38,9 +38,9 @@ void FillIndex(AttrRowIndex& index, Table& it_atr) {
     Text name = OwnerOf(*RowAt(it_atr, number));
     if (number > 1 && name == current) continue;
     if (index.Find(name)) {
-      throw RunTimeError(ErrorKind::Key, u"The rows of \"" + name +
-                                             u"\" do not stand together: a second run begins in row " + ToText(number) +
-                                             u" of " + Text(kTableName) + u".");
+      throw RunTimeError(ErrorKind::KeyExists, u"The rows of \"" + name +
+                                                   u"\" do not stand together: a second run begins in row " +
+                                                   ToText(number) + u" of " + Text(kTableName) + u".");
     }
     index.Add(static_cast<std::int16_t>(number), name);
     current = std::move(name);

@@ -25,7 +25,7 @@ class PrnAttrCollCls : public CollCls<PrnAttrCls> {
  public:
   /// Reads the run of rows that `gAttrRowIndex` has for the cell `IOBJNM` of `ChaRow`; fills that index first if it
   /// is still empty. False when the characteristic has no run: the collection stays empty.
-  /// @throws RunTimeError (Key) when a name starts a second run; the message tells the name and the row.
+  /// @throws RunTimeError (KeyExists) when a name starts a second run; the message tells the name and the row.
   bool FromTable(const RowRef& ChaRow, const TableRef& it_atr);
   /// Appends one row per attribute.
   bool ToTable(const TableRef& it_atr, TextView CharIObjName) const;
@@ -35,6 +35,6 @@ class PrnAttrCollCls : public CollCls<PrnAttrCls> {
 using AttrRowIndex = Collection<std::int16_t>;
 
 /// Shared: the index of the load under way, made empty by `PrnPropCls::FromTable` and released with its root.
-extern std::shared_ptr<AttrRowIndex> gAttrRowIndex;
+extern thread_local std::shared_ptr<AttrRowIndex> gAttrRowIndex;
 
 }  // namespace ORXKMPrintProp

@@ -52,6 +52,6 @@ class PrnCharCollCls : public CollCls<PrnCharCls> {
 };
 
 /// Shared: the words of the last load failure. No operation hands it out.
-extern Text gErrorText;
+extern thread_local Text gErrorText;
 
 }  // namespace ORXKMPrintProp

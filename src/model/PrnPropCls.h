@@ -68,6 +68,6 @@ class PrnPropCls {
 };
 
 /// Shared: the one root of the model, none before the first load.
-extern std::shared_ptr<PrnPropCls> gPrnProp;
+extern thread_local std::shared_ptr<PrnPropCls> gPrnProp;
 
 }  // namespace ORXKMPrintProp

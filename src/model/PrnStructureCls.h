@@ -35,7 +35,7 @@ class PrnStrElemCollCls : public CollCls<PrnStrElemCls> {
   bool ToTable(const TableRef& it_mem, TextView StrIObjName) const;
 
   /// Makes and appends an element, under `sKey` unless that is empty. `Text` stays empty.
-  /// @throws RunTimeError (Key) when the key is there already; nothing is added then.
+  /// @throws RunTimeError (KeyExists) when the key is there already; nothing is added then.
   ItemRef Add(const Text& Name, const Text& UID, bool Hidden = false, std::int16_t Position = 0,
               const Text& ColTitle = {}, PP_Alignment ColAlign = PP_PRN_ALIGN_LEFT, bool ColAutoWidth = false,
               std::int16_t ColWidth = 0, const Text& sKey = {});

@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <optional>
 
+#include "dialog/Widgets.h"
 #include "model/Property.h"
 #include "pages/ListRoutines.h"
-#include "pages/Widgets.h"
 #include "tables/Conversions.h"
 
 // How input widgets show and store the properties of the model. What a widget holds that is no value of the

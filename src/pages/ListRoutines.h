@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "pages/Widgets.h"
+#include "dialog/Lists.h"
 
 namespace ORXKMPrintProp::ModPrnGen {
 

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
+#include "dialog/Dialog.h"
 #include "model/PrnPropCls.h"
-#include "pages/Dialog.h"
 
 namespace ORXKMPrintProp {
 

@@ -128,9 +128,8 @@ void Pages::SetReadOnly(bool readOnly) {
 }
 
 void Pages::PressLayout(std::int16_t ButtonID) {
-  constexpr std::int16_t kTotalsRow = 4;
   Text name;
-  if (ButtonID == kTotalsRow) {
+  if (ButtonID == kTotalsRowButton) {
     if (!IsReady() || gCurChar < 1) return;
     name = state_.Characteristics().Item(gCurChar)->Name();
   }
@@ -145,7 +144,7 @@ void Pages::Subscribe() {
     };
   };
 
-  for (std::int16_t button = 0; button <= 4; ++button) {
+  for (std::int16_t button = 0; button <= kTotalsRowButton; ++button) {
     dialog.Get<CommandButton>(u"cmdPrintLayout", button).Click = [this, button] { PressLayout(button); };
   }
   for (std::int16_t tab = 1; tab < SSTab::kTabs; ++tab) {

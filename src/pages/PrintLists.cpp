@@ -6,14 +6,6 @@
 #include "texts/LookupText.h"
 
 namespace ORXKMPrintProp {
-namespace {
-
-constexpr std::int16_t kCharTab = 1;
-constexpr std::int16_t kDefaultPointer = 0;
-constexpr std::int16_t kDragPointer = 99;
-
-}  // namespace
-
 PrintLists::PrintLists(PageState& state, CharPage& charPage, std::function<ListPage*(std::int16_t tab)> pageOf,
                        std::function<bool()> orderChanged)
     : state_(state), charPage_(charPage), pageOf_(std::move(pageOf)), orderChanged_(std::move(orderChanged)) {}
@@ -50,7 +42,7 @@ void PrintLists::MouseDown(std::int16_t Index, std::int16_t Button) {
 
 void PrintLists::MouseMove(std::int16_t Index, std::int16_t Button) {
   if (state_.mReadOnly || Button != ListBox::kLeftButton || mDragIndex == -1) return;
-  state_.dialog.MousePointer(kDragPointer);
+  state_.dialog.MousePointer(Dialog::kDragPointer);
   ListBox& list = pageOf_(Index)->lstPrint;
   const std::int16_t New = list.ListIndex();
   if (New == mDragIndex) return;
@@ -68,7 +60,7 @@ void PrintLists::MouseMove(std::int16_t Index, std::int16_t Button) {
 void PrintLists::MouseUp(std::int16_t Index, std::int16_t Button) {
   // A drag can't begin in read-only mode; one that has begun before ends as it would.
   if (Button != ListBox::kLeftButton || mDragIndex == -1) return;
-  state_.dialog.MousePointer(kDefaultPointer);
+  state_.dialog.MousePointer(Dialog::kDefaultPointer);
   const bool isElsewhere = mDragIndex != mDragStart;
   const bool raise = Index == kCharTab && mDragMoved && isElsewhere;
   if (isElsewhere) pageOf_(Index)->NoteDrag();
@@ -84,7 +76,7 @@ void PrintLists::MouseUp(std::int16_t Index, std::int16_t Button) {
 void PrintLists::EndDrag() {
   mDragIndex = -1;
   mDragMoved = false;
-  state_.dialog.MousePointer(kDefaultPointer);
+  state_.dialog.MousePointer(Dialog::kDefaultPointer);
 }
 
 }  // namespace ORXKMPrintProp

@@ -18,11 +18,11 @@ template <class T>
 class Collection {
  public:
   /// Appends; the new item's number is the new `Count`.
-  /// @throws RunTimeError (Key) when the key is there already; nothing is changed then.
+  /// @throws RunTimeError (KeyExists) when the key is there already; nothing is changed then.
   void Add(T item, std::optional<Text> key = {}) {
     if (key) {
       const bool isNew = numbers_.try_emplace(*key, items_.size()).second;
-      if (!isNew) throw RunTimeError(ErrorKind::Key, u"The key \"" + *key + u"\" is there already.");
+      if (!isNew) throw RunTimeError(ErrorKind::KeyExists, u"The key \"" + *key + u"\" is there already.");
     }
     items_.push_back(std::move(item));
   }
@@ -31,7 +31,7 @@ class Collection {
 
   /// @throws RunTimeError (Index) for a number outside 1 to `Count`.
   const T& Item(std::int32_t number) const { return items_[PlaceOf(number)]; }
-  /// @throws RunTimeError (Key) for a key that is not there.
+  /// @throws RunTimeError (NoSuchKey) for a key that is not there.
   const T& Item(TextView key) const { return items_[PlaceOf(key)]; }
   /// The item of that key, or null.
   const T* Find(TextView key) const {
@@ -57,7 +57,7 @@ class Collection {
   std::size_t PlaceOf(TextView key) const {
     const auto found = numbers_.find(key);
     if (found == numbers_.end()) {
-      throw RunTimeError(ErrorKind::Key, u"There is no item with the key \"" + Text(key) + u"\".");
+      throw RunTimeError(ErrorKind::NoSuchKey, u"There is no item with the key \"" + Text(key) + u"\".");
     }
     return found->second;
   }

@@ -8,7 +8,7 @@
 
 namespace ORXKMPrintProp {
 
-TableRef gTextTable;
+thread_local TableRef gTextTable;
 
 namespace ModPrnGen {
 namespace {

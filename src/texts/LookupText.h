@@ -8,7 +8,7 @@ namespace ORXKMPrintProp {
 
 /// Shared: the host's text table with the columns `TARGETID` and `CAPTION`, none before the first
 /// `ORXControlTexts`. Its key column is `TARGETID`.
-extern TableRef gTextTable;
+extern thread_local TableRef gTextTable;
 
 namespace ModPrnGen {
 

@@ -2,7 +2,7 @@
 
 #include <sstream>
 
-#include "pages/Dialog.h"
+#include "dialog/Dialog.h"
 #include "pages/ListRoutines.h"
 #include "support/widget_text.h"
 #include "tables/Conversions.h"

@@ -37,7 +37,7 @@
 #include "support/widget_text.h"
 #include "tables/RunTimeError.h"
 #include "views/qt/PrnPropView.h"
-#include "views/qt/QtFontPlatform.h"
+#include "views/qt/QtPlatform.h"
 #include "views/qt/QtText.h"
 
 namespace ORXKMPrintProp::qt::test {
@@ -84,15 +84,12 @@ QPoint PointOf(const QListView& list, int entry) {
 }
 
 /// A control with a view on the screen, and a hand on the view.
-class ViewTest : public testing::Test {
+class ViewTest : public testing::Test, private ORXQueryPrnPropEvents {
  protected:
-  ViewTest() : control((gPrnProp.reset(), gTextTable.reset(), gDefaultFontName.clear(), platform)), view(control) {
-    QObject::connect(&view, &PrnPropView::ORXOrderChanged, [this] { heard += " order"; });
+  ViewTest() : control((gPrnProp.reset(), gTextTable.reset(), gDefaultFontName.clear(), platform)), view(dialog) {
+    control.Connect(*this);
     QObject::connect(&view, &PrnPropView::failed,
                      [this](const QString& why) { heard += " failed: " + why.toStdString(); });
-    QObject::connect(&view, &PrnPropView::ORXPrintLayoutGet, [this](int button, const QString& characteristic) {
-      heard += " layout " + std::to_string(button) + characteristic.toStdString();
-    });
     view.show();
     QApplication::setActiveWindow(&view);
     static_cast<void>(QTest::qWaitForWindowExposed(&view));
@@ -135,12 +132,18 @@ class ViewTest : public testing::Test {
     return *found;
   }
 
-  QtFontPlatform platform;
+  QtPlatform platform;
   ORXQueryPrnProp control;
-  PrnPropView view;
   Dialog& dialog = control.GetDialog();
+  PrnPropView view;
   std::string heard;
   Qt::MouseButtons held;
+
+ private:
+  void ORXPrintLayoutGet(std::int16_t button, const Text& characteristic) override {
+    heard += " layout " + std::to_string(button) + ToAscii(characteristic);
+  }
+  void ORXOrderChanged() override { heard += " order"; }
 };
 
 void ViewTest::Do(const std::string& line) {
@@ -191,8 +194,7 @@ void ViewTest::Do(const std::string& line) {
 }
 
 void ViewTest::Play(const std::string& widget, std::initializer_list<Step> steps) {
-  const auto named = [&](const auto& each) { return host::NameOf(each->Row().name) == widget; };
-  const Widget& played = **std::find_if(dialog.Controls().begin(), dialog.Controls().end(), named);
+  const Widget& played = *dialog.FindSpelled(Wide(widget));
   for (const Step& step : steps) {
     heard.clear();
     std::istringstream actions(step.actions);
@@ -207,7 +209,7 @@ void ViewTest::Play(const std::string& widget, std::initializer_list<Step> steps
         for (Json& item : state["items"]) item.erase("data");
       }
       Json seen = state;
-      See(Glass(host::NameOf(each->Row().name)), seen);
+      See(Glass(ToAscii(each->Row().name.Spelled())), seen);
       EXPECT_EQ(seen, state) << step.actions;
     }
   }
@@ -404,7 +406,7 @@ TEST_F(ViewTest, UndoStaysWithTheTextThatWasTyped) {
 
 TEST_F(ViewTest, AViewMayGoWhileTheUserActs) {
   Load("a b c d e f g h i j -x -y");
-  QPointer<PrnPropView> other = new PrnPropView(control);
+  QPointer<PrnPropView> other = new PrnPropView(dialog);
   other->show();
   QTest::mouseClick(other->findChild<QListView*>(QStringLiteral("lstAvail(1)"))->viewport(), Qt::LeftButton, {},
                     {5, 5});
@@ -415,7 +417,7 @@ TEST_F(ViewTest, AViewMayGoWhileTheUserActs) {
   QTest::mouseClick(other->findChild<QPushButton*>(QStringLiteral("cmdLeftToRight(1)")), Qt::LeftButton);
   EXPECT_FALSE(other);
 
-  other = new PrnPropView(control);
+  other = new PrnPropView(dialog);
   other->show();
   auto* const list = other->findChild<QListView*>(QStringLiteral("lstPrint(1)"));
   QTest::mousePress(list->viewport(), Qt::LeftButton, {}, {5, 5});
@@ -521,7 +523,7 @@ TEST_F(ViewTest, EntriesSortInTheOrderOfTheUsersLanguage) {
 TEST_F(ViewTest, ASecondViewShowsWhatTheControlHoldsAlready) {
   Load("a b -x");
   QApplication::setLayoutDirection(Qt::RightToLeft);
-  const PrnPropView second(control);
+  const PrnPropView second(dialog);
   QApplication::setLayoutDirection(Qt::LeftToRight);
   const auto& shown = *second.findChild<QListView*>(QStringLiteral("lstPrint(1)"));
   EXPECT_EQ(shown.model()->rowCount(), 2);
@@ -573,7 +575,7 @@ TEST_F(ViewTest, EveryCaptionIsReadableInFull) {
     if (texts) control.ORXControlTexts(texts);
     for (const auto& widget : dialog.Controls()) {
       if (widget->Caption().empty()) continue;
-      EXPECT_EQ(CaptionOf(Glass(host::NameOf(widget->Row().name))), ToQString(widget->Caption()));
+      EXPECT_EQ(CaptionOf(Glass(ToAscii(widget->Row().name.Spelled()))), ToQString(widget->Caption()));
     }
     for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) {
       EXPECT_EQ(Unmarked(tabs.tabText(tab)), ToQString(dialog.TabStrip().TabCaption(tab)));

@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
+#include "dialog/DialogTexts.h"
 #include "tables/Conversions.h"
 #include "tables/MemoryTable.h"
 #include "tables/TableCalls.h"
-#include "texts/DialogTexts.h"
 
 namespace ORXKMPrintProp::test {
 namespace {

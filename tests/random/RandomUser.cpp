@@ -12,13 +12,7 @@
 namespace ORXKMPrintProp::test {
 namespace {
 
-const char* const kRefusals[] = {"done", "not on top", "hidden", "disabled", "no such entry"};
-
-std::string NameOf(const LayoutRow& row) {
-  std::string name = ToAscii(row.name.name);
-  if (row.name.index != WidgetName::kNoIndex) name += "(" + std::to_string(row.name.index) + ")";
-  return name;
-}
+std::string NameOf(const LayoutRow& row) { return ToAscii(row.name.Spelled()); }
 
 /// What a user may still do in read-only mode: look around, and have a layout shown.
 bool IsForReading(const LayoutRow& row) {
@@ -133,7 +127,7 @@ void RandomUser::ActOn(Widget& widget) {
                              : !widget.Visible() ? Refusal::Hidden
                              : !widget.Enabled() ? Refusal::Disabled
                                                  : Refusal::None;
-    if (!mayAct && refusal != expected) Fail(std::string("refusals: ") + kRefusals[static_cast<int>(refusal)]);
+    if (!mayAct && refusal != expected) Fail(std::string("refusals: ") + WordsOf(refusal));
     if (mayAct && refusal != Refusal::None && refusal != Refusal::NoSuchEntry) Fail("refusals: refused");
     if (!mayWrite && refusal == Refusal::None) Fail("read-only: takes input");
   } catch (const std::exception& error) {

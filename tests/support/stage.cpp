@@ -174,12 +174,12 @@ void Stage::Do(const std::string& step) {
     const std::string line = name + (rest.empty() ? "" : " " + rest);
     Tell(line + ": " + State()[line]);
   } else {
-    for (const auto& widget : dialog.Controls()) {
-      if (host::NameOf(widget->Row().name) != name) continue;
-      if (DoTo(*widget, verb, rest) != Refusal::None) Tell("refused");
-      return;
+    Widget* const widget = dialog.FindSpelled(Wide(name));
+    if (!widget) {
+      ADD_FAILURE() << "no such step: " << step;
+    } else if (DoTo(*widget, verb, rest) != Refusal::None) {
+      Tell("refused");
     }
-    ADD_FAILURE() << "no such step: " << step;
   }
 }
 

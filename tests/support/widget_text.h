@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "pages/Widgets.h"
+#include "dialog/Lists.h"
 
 namespace ORXKMPrintProp::test {
 

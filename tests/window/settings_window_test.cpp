@@ -24,7 +24,7 @@
 #include "host/Files.h"
 #include "host/Load.h"
 #include "host/window/EditedSettings.h"
-#include "views/qt/QtFontPlatform.h"
+#include "views/qt/QtPlatform.h"
 
 namespace ORXKMPrintProp::host::test {
 namespace {
@@ -94,7 +94,7 @@ class SettingsWindowTest : public testing::Test {
   const QTemporaryDir folder;
   std::string before = ReadFile(PRNPROP_EXAMPLES "/small.json");
   const std::string file = Path("a.json");
-  qt::QtFontPlatform platform;
+  qt::QtPlatform platform;
   std::unique_ptr<EditedSettings> settings;
   std::unique_ptr<SettingsWindow> window;
   /// What is done with the dialogs and message boxes that open, one after the other.

@@ -18,7 +18,7 @@
 #include "host/window/EditedSettings.h"
 #include "host/window/FirstPaint.h"
 #include "host/window/SettingsWindow.h"
-#include "views/qt/QtFontPlatform.h"
+#include "views/qt/QtPlatform.h"
 
 namespace ORXKMPrintProp::host {
 
@@ -41,7 +41,7 @@ void CheckTarget(const EditOptions& options) {
   }
 }
 
-std::unique_ptr<EditedSettings> Load(const EditOptions& options, qt::QtFontPlatform& platform) {
+std::unique_ptr<EditedSettings> Load(const EditOptions& options, qt::QtPlatform& platform) {
   if (!options.readOnly || options.out) CheckTarget(options);
   SettingsDocument document = ReadSettings(options.file);
   const MemoryTableRef texts = options.texts ? ReadSettings(*options.texts).texts : document.texts;
@@ -58,7 +58,7 @@ int Edit(const EditOptions& options) {
   char* argv[] = {name, nullptr};
   QApplication application(argc, argv);
   QGuiApplication::setDesktopFileName(QStringLiteral("prnprop"));
-  qt::QtFontPlatform platform;
+  qt::QtPlatform platform;
   std::unique_ptr<EditedSettings> settings;
   try {
     settings = Load(options, platform);

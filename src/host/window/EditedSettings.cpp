@@ -22,7 +22,7 @@ namespace {
 }  // namespace
 
 EditedSettings::EditedSettings(SettingsDocument document, const EditOptions& options, const MemoryTableRef& texts,
-                               RBDoubleByteCS::FontPlatform& platform)
+                               const Platform& platform)
     : document_(std::move(document)),
       target_(options.out.value_or(options.file)),
       targetIsBehind_(options.out && *options.out != options.file),

@@ -26,7 +26,7 @@ class EditedSettings {
   /// Loads the document and hands its layouts back.
   /// @throws LoadError
   EditedSettings(SettingsDocument document, const EditOptions& options, const MemoryTableRef& texts,
-                 RBDoubleByteCS::FontPlatform& platform);
+                 const Platform& platform);
 
   ORXQueryPrnProp& Control() { return control_; }
   const std::string& Source() const { return document_.file; }

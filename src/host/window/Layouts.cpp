@@ -8,9 +8,8 @@
 namespace ORXKMPrintProp::host {
 namespace {
 
-constexpr std::int16_t kTotalsRow = 4;
-constexpr TextView kPageColumns[kTotalsRow] = {u"FRONTPAGE_LAYOUT", u"HEADER_LAYOUT", u"FOOTER_LAYOUT",
-                                               u"LASTPAGE_LAYOUT"};
+constexpr TextView kPageColumns[kTotalsRowButton] = {u"FRONTPAGE_LAYOUT", u"HEADER_LAYOUT", u"FOOTER_LAYOUT",
+                                                     u"LASTPAGE_LAYOUT"};
 constexpr TextView kTotalsColumn = u"PR_SUM_LAYOUT";
 
 /// The characteristics, of several with one name the first.
@@ -31,10 +30,10 @@ Layouts LayoutsIn(const Snapshot& file) {
     if (!layout.empty()) layouts.emplace(std::move(key), std::move(layout));
   };
   for (const RowRef& row : file.General().rows) {
-    for (std::int16_t id = 0; id < kTotalsRow; ++id) add({.buttonId = id}, RawText(*row, kPageColumns[id]));
+    for (std::int16_t id = 0; id < kTotalsRowButton; ++id) add({.buttonId = id}, RawText(*row, kPageColumns[id]));
   }
   for (const RowRef& row : FirstOfEachName(file.Dimension())) {
-    add({.buttonId = kTotalsRow, .characteristic = RawText(*row, u"IOBJNM")}, RawText(*row, kTotalsColumn));
+    add({.buttonId = kTotalsRowButton, .characteristic = RawText(*row, u"IOBJNM")}, RawText(*row, kTotalsColumn));
   }
   return layouts;
 }

@@ -49,7 +49,7 @@ QMessageBox::StandardButton Ask(QWidget* window, QMessageBox::Icon icon, const Q
 SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
     : QWidget(parent),
       settings_(settings),
-      view_(new qt::PrnPropView(settings.Control(), this)),
+      view_(new qt::PrnPropView(settings.Control().GetDialog(), this)),
       panel_(new MeaningPanel([this] { Read(); }, this)),
       dialog_(new QScrollArea(this)) {
   const QString file = QFileInfo(QString::fromStdString(settings.Target())).fileName();
@@ -66,11 +66,7 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
   down->addWidget(MakeButtons());
   BoundDialog();
 
-  connect(view_, &qt::PrnPropView::ORXPrintLayoutGet, this, &SettingsWindow::EditLayoutOf);
-  connect(view_, &qt::PrnPropView::ORXOrderChanged, this, [this] {
-    MarkEdited();
-    ReadLater();
-  });
+  settings.Control().Connect(*this);
   connect(view_, &qt::PrnPropView::failed, this,
           [this](const QString& why) { Tell(QStringLiteral("That could not be done."), why); });
   connect(view_, &qt::PrnPropView::used, this, &SettingsWindow::OnUsed);
@@ -78,6 +74,13 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
   ShowMeaning();
   unfoldedWidth_ = view_->width() * 9 / 5;
   resize(sizeHint().expandedTo(QSize(unfoldedWidth_, 0)));
+}
+
+SettingsWindow::~SettingsWindow() { settings_.Control().Disconnect(*this); }
+
+void SettingsWindow::ORXOrderChanged() {
+  MarkEdited();
+  ReadLater();
 }
 
 void SettingsWindow::FitInto(const QSize& room) {
@@ -322,12 +325,11 @@ bool SettingsWindow::MayClose() {
 
 void SettingsWindow::closeEvent(QCloseEvent* event) { event->setAccepted(MayClose()); }
 
-void SettingsWindow::EditLayoutOf(int buttonId, const QString& characteristic) {
-  const LayoutKey key{.buttonId = static_cast<std::int16_t>(buttonId),
-                      .characteristic = characteristic.toStdU16String()};
+void SettingsWindow::ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) {
+  const LayoutKey key{.buttonId = ButtonID, .characteristic = CharIObjName};
   const auto& button = settings_.Control().GetDialog().Get<CommandButton>(u"cmdPrintLayout", key.buttonId);
   QString name = ToQString(button.Caption());
-  if (!characteristic.isEmpty()) name += QStringLiteral(" ") + characteristic;
+  if (!CharIObjName.empty()) name += u' ' + ToQString(CharIObjName);
   const auto layout = EditLayout(name, ToQString(settings_.LayoutOf(key)), settings_.IsReadOnly(), this);
   if (!layout) return;
   settings_.SetLayout(key, qt::ToText(*layout));

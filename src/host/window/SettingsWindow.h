@@ -5,15 +5,14 @@
 #include <cstdint>
 #include <vector>
 
+#include "control/ORXQueryPrnProp.h"
+
 class QPushButton;
 class QScrollArea;
 
-namespace ORXKMPrintProp {
-class Widget;
-namespace qt {
+namespace ORXKMPrintProp::qt {
 class PrnPropView;
 }
-}  // namespace ORXKMPrintProp
 
 namespace ORXKMPrintProp::host {
 
@@ -27,10 +26,11 @@ class MeaningPanel;
 /// window reads where a commit is due anyway: after a change of the tab, after ORXOrderChanged, at OK, Apply, Cancel
 /// and close, and when the user asks for it by Refresh. In between, any input that can change a setting counts as a
 /// change, until the next read knows better.
-class SettingsWindow : public QWidget {
+class SettingsWindow : public QWidget, private ORXQueryPrnPropEvents {
  public:
   /// @param settings must outlive the window.
   explicit SettingsWindow(EditedSettings& settings, QWidget* parent = nullptr);
+  ~SettingsWindow() override;
 
   /// Keeps the window within that, also when the panel unfolds. Where there is room for the dialog alone, the panel
   /// folds; where there is none for the whole dialog, it scrolls.
@@ -41,6 +41,9 @@ class SettingsWindow : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) override;
+  void ORXOrderChanged() override;
+
   QWidget* MakeButtons();
   void Fold(bool unfold);
   void BoundDialog();
@@ -62,7 +65,6 @@ class SettingsWindow : public QWidget {
   bool AcceptsLosses();
   bool AcceptsOvertaking();
   bool MayClose();
-  void EditLayoutOf(int buttonId, const QString& characteristic);
   void Tell(const QString& what, const QString& why);
 
   EditedSettings& settings_;

@@ -15,7 +15,7 @@
 #include "host/window/EditedSettings.h"
 #include "host/window/SettingsWindow.h"
 #include "views/qt/PrnPropView.h"
-#include "views/qt/QtFontPlatform.h"
+#include "views/qt/QtPlatform.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
@@ -72,14 +72,14 @@ void Shot(const ShotOptions& options, std::ostream& out) {
   char name[] = "prnprop";
   char* argv[] = {name, nullptr};
   QApplication application(argc, argv);
-  qt::QtFontPlatform platform;
+  qt::QtPlatform platform;
   const EditOptions edited{.file = options.file, .texts = {}, .out = {}, .readOnly = options.readOnly};
   EditedSettings settings(std::move(document), edited, texts, platform);
   std::unique_ptr<QWidget> drawn;
   if (options.window) {
     drawn = std::make_unique<SettingsWindow>(settings);
   } else {
-    drawn = std::make_unique<qt::PrnPropView>(settings.Control());
+    drawn = std::make_unique<qt::PrnPropView>(settings.Control().GetDialog());
   }
   settings.Control().GetDialog().TabStrip().UserPick(static_cast<std::int16_t>(options.page));
   if (options.window) {

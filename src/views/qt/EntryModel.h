@@ -2,7 +2,7 @@
 
 #include <QAbstractListModel>
 
-#include "pages/Widgets.h"
+#include "dialog/Lists.h"
 
 namespace ORXKMPrintProp::qt {
 

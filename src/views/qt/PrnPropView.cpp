@@ -1,11 +1,9 @@
 #include "views/qt/PrnPropView.h"
 
-#include <QCollator>
 #include <QCursor>
 #include <QImage>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QLocale>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QPointer>
@@ -21,8 +19,6 @@
 
 namespace ORXKMPrintProp::qt {
 namespace {
-
-constexpr std::int16_t kDragPointer = 99;
 
 template <class Glass, class W>
 WidgetView* Make(Widget& widget, const Reports& reports, QWidget* parent) {
@@ -68,49 +64,30 @@ QCursor DragCursor() {
 
 }  // namespace
 
-class PrnPropView::Events : public ORXQueryPrnPropEvents {
- public:
-  explicit Events(PrnPropView& view) : view_(view) { view_.control_.Connect(*this); }
-  ~Events() override { view_.control_.Disconnect(*this); }
-  Events(const Events&) = delete;
-  Events& operator=(const Events&) = delete;
-
-  void ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) override {
-    emit view_.ORXPrintLayoutGet(ButtonID, ToQString(CharIObjName));
-  }
-  void ORXOrderChanged() override { emit view_.ORXOrderChanged(); }
-
- private:
-  PrnPropView& view_;
-};
-
-PrnPropView::PrnPropView(ORXQueryPrnProp& control, QWidget* parent)
+PrnPropView::PrnPropView(Dialog& dialog, QWidget* parent)
     : QWidget(parent),
-      control_(control),
+      dialog_(dialog),
       reports_{[this](const QString& message) { emit failed(message); },
-               [this](const Widget& widget) { emit used(widget); }},
-      order_(std::make_unique<QCollator>(QLocale::system().collation())) {
-  order_->setCaseSensitivity(Qt::CaseInsensitive);
+               [this](const Widget& widget) { emit used(widget); }} {
   setFixedSize(Place(kClientArea).size());
   // The layout is not mirrored, so its arrows are not either.
   setLayoutDirection(Qt::LeftToRight);
   // What the widgets inherit they need not be given one by one.
-  setFont(ToQFont(control_.GetDialog().TabStrip().GetFont()));
+  setFont(ToQFont(dialog_.TabStrip().GetFont()));
   MakeWidgets();
   SetTabOrder();
   GiveNames();
-  Changed(control_.GetDialog().TabStrip());
-  MousePointerChanged(control_.GetDialog().MousePointer());
-  control_.GetDialog().SetView(this);
-  events_ = std::make_unique<Events>(*this);
+  Changed(dialog_.TabStrip(), WidgetProperty::Tab);
+  MousePointerChanged(dialog_.MousePointer());
+  dialog_.SetView(this);
 }
 
 PrnPropView::~PrnPropView() {
-  if (&control_.GetDialog().GetView() == this) control_.GetDialog().SetView(nullptr);
+  if (&dialog_.GetView() == this) dialog_.SetView(nullptr);
 }
 
 void PrnPropView::MakeWidgets() {
-  for (const auto& widget : control_.GetDialog().Controls()) {
+  for (const auto& widget : dialog_.Controls()) {
     const LayoutRow& row = widget->Row();
     WidgetView* const view = MakeView(*widget, reports_, &ParentOf(row));
     view->Glass().setGeometry(Place(row.geometry));
@@ -121,7 +98,7 @@ void PrnPropView::MakeWidgets() {
 
 void PrnPropView::SetTabOrder() {
   std::vector<const Widget*> widgets;
-  for (const auto& widget : control_.GetDialog().Controls()) widgets.push_back(widget.get());
+  for (const auto& widget : dialog_.Controls()) widgets.push_back(widget.get());
   std::sort(widgets.begin(), widgets.end(),
             [](const Widget* a, const Widget* b) { return a->Row().tabIndex < b->Row().tabIndex; });
   QWidget* last = nullptr;
@@ -134,9 +111,9 @@ void PrnPropView::SetTabOrder() {
 }
 
 void PrnPropView::GiveNames() {
-  for (const auto& widget : control_.GetDialog().Controls()) {
+  for (const auto& widget : dialog_.Controls()) {
     if (widget->Row().kind == WidgetKind::SSTab) continue;
-    const SpokenName name(control_.GetDialog(), *widget);
+    const SpokenName name(dialog_, *widget);
     QWidget& glass = ViewFor(*widget).Glass();
     glass.setAccessibleName(name.Spoken());
     for (const Label* const label : name.Labels()) {
@@ -158,7 +135,7 @@ QRect PrnPropView::Place(const Geometry& geometry) const {
 
 QWidget& PrnPropView::ParentOf(const LayoutRow& row) {
   if (row.parent.empty()) return *this;
-  const Widget& parent = *control_.GetDialog().Find({row.parent});
+  const Widget& parent = *dialog_.Find({row.parent});
   return parent.Row().kind == WidgetKind::SSTab ? tabs_->Page(row.page) : ViewFor(parent).Glass();
 }
 
@@ -167,7 +144,7 @@ void PrnPropView::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() != QEvent::StyleChange || names_.empty()) return;
   wasOnTop_ = {};
-  Changed(control_.GetDialog().TabStrip());
+  Changed(dialog_.TabStrip(), WidgetProperty::Tab);
 }
 
 void PrnPropView::keyPressEvent(QKeyEvent* event) {
@@ -193,19 +170,21 @@ void PrnPropView::keyPressEvent(QKeyEvent* event) {
 /// A page that was never on top need not have been prepared for it.
 void PrnPropView::BringUp(std::int16_t page) {
   if (std::exchange(wasOnTop_[static_cast<std::size_t>(page)], true)) return;
-  for (const auto& widget : control_.GetDialog().Controls()) {
+  for (const auto& widget : dialog_.Controls()) {
     if (widget->Row().page == page) ViewFor(*widget).Refresh();
   }
 }
 
-void PrnPropView::Changed(Widget& widget) {
-  SSTab& tabStrip = control_.GetDialog().TabStrip();
+void PrnPropView::Changed(Widget& widget, WidgetProperty) {
+  SSTab& tabStrip = dialog_.TabStrip();
   if (&widget == &tabStrip) BringUp(tabStrip.Tab());
   ViewFor(widget).Refresh();
   for (const auto& [named, name] : names_) {
     if (name.DependsOn(widget)) ViewFor(*named).Glass().setAccessibleName(name.Spoken());
   }
 }
+
+void PrnPropView::EntryChanged(EntryWidget& widget, std::int16_t, EntryProperty) { ViewFor(widget).Refresh(); }
 
 void PrnPropView::EntryAdded(EntryWidget& widget, std::int16_t index) { ViewFor(widget).EntryAdded(index); }
 
@@ -214,7 +193,7 @@ void PrnPropView::EntryRemoved(EntryWidget& widget, std::int16_t index) { ViewFo
 void PrnPropView::EntriesCleared(EntryWidget& widget) { ViewFor(widget).EntriesCleared(); }
 
 void PrnPropView::MousePointerChanged(std::int16_t pointer) {
-  const bool isDrag = pointer == kDragPointer;
+  const bool isDrag = pointer == Dialog::kDragPointer;
   if (isDrag) {
     setCursor(DragCursor());
   } else {
@@ -238,11 +217,6 @@ void PrnPropView::MsgBox(const Text& text, const Text& title) {
   box->setWindowModality(Qt::WindowModal);
   box->exec();
   delete box;
-}
-
-int PrnPropView::CompareTexts(TextView a, TextView b) const {
-  return order_->compare(QStringView(a.data(), static_cast<qsizetype>(a.size())),
-                         QStringView(b.data(), static_cast<qsizetype>(b.size())));
 }
 
 }  // namespace ORXKMPrintProp::qt

@@ -9,33 +9,29 @@
 #include <utility>
 #include <vector>
 
-#include "control/ORXQueryPrnProp.h"
+#include "dialog/Dialog.h"
 #include "views/qt/SpokenName.h"
 #include "views/qt/WidgetView.h"
-
-class QCollator;
 
 namespace ORXKMPrintProp::qt {
 
 class TabStripView;
 
-/// The dialog as a Qt widget of fixed size, to be put into any window. A control has one view at a time; it shows
-/// what the control holds already, and everything from then on.
+/// The dialog as a Qt widget of fixed size, to be put into any window. A dialog has one view at a time; it shows
+/// what the dialog holds already, and everything from then on.
 ///
-/// The signals come inside the user's action. A slot may call any operation of the control, and run an event loop of
-/// its own, but is to delete the view by `deleteLater` only.
+/// The signals come inside the user's action, as the events of the control do. What is called in one may call any
+/// operation of the control, and run an event loop of its own, but is to delete the view by `deleteLater` only.
 class PrnPropView : public QWidget, private View {
   Q_OBJECT
 
  public:
-  /// @param control must outlive the view. Made with a `QtFontPlatform` it has the desktop's interface font.
-  explicit PrnPropView(ORXQueryPrnProp& control, QWidget* parent = nullptr);
+  /// @param dialog must outlive the view. That of a control made with a `QtPlatform` has the desktop's interface font
+  /// and text order.
+  explicit PrnPropView(Dialog& dialog, QWidget* parent = nullptr);
   ~PrnPropView() override;
 
  signals:
-  /// As the event of the control of that name.
-  void ORXPrintLayoutGet(int buttonId, const QString& charIObjName);
-  void ORXOrderChanged();
   /// What the user did failed in the middle, as where a table refuses an operation. The dialog stays usable.
   /// @param message one line for a person
   void failed(const QString& message);
@@ -48,15 +44,13 @@ class PrnPropView : public QWidget, private View {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  class Events;
-
-  void Changed(Widget& widget) override;
+  void Changed(Widget& widget, WidgetProperty what) override;
+  void EntryChanged(EntryWidget& widget, std::int16_t index, EntryProperty what) override;
   void EntryAdded(EntryWidget& widget, std::int16_t index) override;
   void EntryRemoved(EntryWidget& widget, std::int16_t index) override;
   void EntriesCleared(EntryWidget& widget) override;
   void MousePointerChanged(std::int16_t pointer) override;
   void MsgBox(const Text& text, const Text& title) override;
-  int CompareTexts(TextView a, TextView b) const override;
 
   void MakeWidgets();
   void SetTabOrder();
@@ -67,10 +61,8 @@ class PrnPropView : public QWidget, private View {
   QWidget& ParentOf(const LayoutRow& row);
   WidgetView& ViewFor(const Widget& widget) const { return *views_.at(&widget); }
 
-  ORXQueryPrnProp& control_;
+  Dialog& dialog_;
   Reports reports_;
-  std::unique_ptr<QCollator> order_;
-  std::unique_ptr<Events> events_;
   std::unordered_map<const Widget*, WidgetView*> views_;
   std::vector<std::pair<const Widget*, SpokenName>> names_;
   TabStripView* tabs_ = nullptr;

@@ -3,7 +3,7 @@
 #include <QString>
 #include <vector>
 
-#include "pages/Dialog.h"
+#include "dialog/Dialog.h"
 
 namespace ORXKMPrintProp::qt {
 

@@ -59,13 +59,9 @@ void TextBoxView::inputMethodEvent(QInputMethodEvent* event) {
 }
 
 QString TextBoxView::Filtered(const QString& typed) {
-  QString left;
-  for (const QChar character : typed) {
-    char16_t key = character.unicode();
-    if (key >= u' ' && key != u'\x7f') key = FilterKey(key);
-    if (key != 0) left += QChar(key);
-  }
-  return left;
+  Text left;
+  Attempt([&] { left = widget_.Filter(ToText(typed)); });
+  return ToQString(left);
 }
 
 char16_t TextBoxView::FilterKey(char16_t key) {

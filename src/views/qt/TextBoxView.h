@@ -16,7 +16,7 @@ class TextBoxView : public ViewOf<QLineEdit, TextBox> {
   void inputMethodEvent(QInputMethodEvent* event) override;
 
  private:
-  /// What becomes of typed text; control codes belong to keys with a meaning of their own and stay.
+  /// What becomes of typed text.
   QString Filtered(const QString& typed);
   char16_t FilterKey(char16_t key);
 

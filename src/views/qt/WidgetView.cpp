@@ -16,10 +16,7 @@ QString ToolTipOf(const QString& text) {
 
 WidgetView::WidgetView(QWidget& glass, Widget& widget, const Reports& reports)
     : glass_(glass), base_(widget), reports_(reports) {
-  const WidgetName& name = widget.Row().name;
-  QString text = ToQString(name.name);
-  if (name.index != WidgetName::kNoIndex) text += QStringLiteral("(%1)").arg(name.index);
-  glass.setObjectName(text);
+  glass.setObjectName(ToQString(widget.Row().name.Spelled()));
 }
 
 void WidgetView::Refresh() {

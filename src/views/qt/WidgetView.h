@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <functional>
 
-#include "pages/Widgets.h"
+#include "dialog/Widgets.h"
 
 namespace ORXKMPrintProp::qt {
 

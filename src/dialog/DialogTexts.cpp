@@ -1,10 +1,7 @@
-#include "texts/DialogTexts.h"
+#include "dialog/DialogTexts.h"
 
 #include <algorithm>
 #include <iterator>
-#include <utility>
-
-#include "texts/LookupText.h"
 
 namespace ORXKMPrintProp {
 namespace {
@@ -191,9 +188,5 @@ static_assert(DifferentKeys() == 122);
 }  // namespace
 
 std::span<const DialogText> DialogTexts() { return kTexts; }
-
-void ApplyTexts(const std::function<void(const DialogText& place, Text text)>& receive) {
-  for (const DialogText& text : kTexts) receive(text, ModPrnGen::LookupText(text.key, text.text));
-}
 
 }  // namespace ORXKMPrintProp

@@ -4,11 +4,23 @@
 #include <cstdint>
 #include <span>
 
-#include "texts/WidgetName.h"
+#include "dialog/WidgetName.h"
 
 namespace ORXKMPrintProp {
 
 enum class WidgetKind { SSTab, Frame, Label, TextBox, ComboBox, CheckBox, ListBox, CommandButton };
+
+/// The kind as it is spelled here.
+const char* NameOf(WidgetKind kind);
+
+/// The pages, by their `Tab`. These numbers are also the indexes of the lists and buttons on the last three.
+inline constexpr std::int16_t kGeneralTab = 0;
+inline constexpr std::int16_t kCharTab = 1;
+inline constexpr std::int16_t kAttrTab = 2;
+inline constexpr std::int16_t kStrTab = 3;
+
+/// The layout button of one characteristic; those of the page have the numbers below.
+inline constexpr std::int16_t kTotalsRowButton = 4;
 
 /// In twips, relative to the parent.
 struct Geometry {

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <functional>
+#include <cstdint>
 #include <span>
 
-#include "texts/WidgetName.h"
+#include "dialog/WidgetName.h"
 
 namespace ORXKMPrintProp {
 
@@ -21,9 +21,5 @@ struct DialogText {
 
 /// All texts that are set in one pass. The items of a combo box stand in the order of their numbers.
 std::span<const DialogText> DialogTexts();
-
-/// Looks every text up and hands it to the widget that it belongs to.
-/// @throws RunTimeError from the text table; the texts ahead of the failing one have been set.
-void ApplyTexts(const std::function<void(const DialogText& place, Text text)>& receive);
 
 }  // namespace ORXKMPrintProp

@@ -13,6 +13,9 @@ struct WidgetName {
 
   static constexpr std::int16_t kNoIndex = -1;
 
+  /// As a person writes it: "txtGenPrnTitle", "lstPrint(1)".
+  Text Spelled() const;
+
   friend constexpr bool operator==(const WidgetName&, const WidgetName&) = default;
 };
 

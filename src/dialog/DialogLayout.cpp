@@ -1,6 +1,7 @@
-#include "pages/DialogLayout.h"
+#include "dialog/DialogLayout.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <iterator>
 
 namespace ORXKMPrintProp {
@@ -198,6 +199,12 @@ static_assert(std::all_of(kMouseIcon.rows.begin(), kMouseIcon.rows.end(),
                           [](TextView row) { return row.size() == 32; }));
 
 }  // namespace
+
+const char* NameOf(WidgetKind kind) {
+  static constexpr const char* kNames[] = {"SSTab",    "Frame",    "Label",   "TextBox",
+                                           "ComboBox", "CheckBox", "ListBox", "CommandButton"};
+  return kNames[static_cast<std::size_t>(kind)];
+}
 
 std::span<const LayoutRow> DialogLayout() { return kLayout; }
 

@@ -1,80 +1,13 @@
-#include "pages/Widgets.h"
+#include "dialog/Lists.h"
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
-#include "pages/Dialog.h"
 #include "tables/Conversions.h"
 #include "tables/RunTimeError.h"
 
 namespace ORXKMPrintProp {
-namespace {
-
-[[noreturn]] void ThrowIndex(const WidgetName& name, std::int16_t index) {
-  throw RunTimeError(ErrorKind::Index, Text(name.name) + u" has no entry " + ToText(std::int32_t{index}) + u".");
-}
-
-}  // namespace
-
-Widget::Widget(Dialog& dialog, const LayoutRow& row)
-    : dialog_(dialog),
-      row_(row),
-      font_{Text(kStoredFontName), kStoredFontSize, kStoredFontWeight},
-      caption_(row.caption) {}
-
-void Widget::NotifyChanged() { dialog_.GetView().Changed(*this); }
-
-Refusal Widget::Refuses() const {
-  if (row_.kind != WidgetKind::SSTab && row_.page != dialog_.TabStrip().Tab()) return Refusal::NotOnTop;
-  if (!visible_) return Refusal::Hidden;
-  return enabled_ ? Refusal::None : Refusal::Disabled;
-}
-
-Refusal CommandButton::UserPress() {
-  const Refusal refusal = Refuses();
-  if (refusal == Refusal::None) Raise(Click);
-  return refusal;
-}
-
-void CheckBox::Value(std::int16_t value) {
-  if (value == value_) return;
-  Set(value_, value);
-  Raise(Click);
-}
-
-Refusal CheckBox::UserToggle() {
-  const Refusal refusal = Refuses();
-  if (refusal == Refusal::None) Value(value_ == 0 ? 1 : 0);
-  return refusal;
-}
-
-char16_t TextBox::FilterKey(char16_t key) const {
-  auto code = static_cast<std::int16_t>(key);
-  Raise(KeyPress, code);
-  return static_cast<char16_t>(code);
-}
-
-Refusal TextBox::UserKey(char16_t key) {
-  if (const Refusal refusal = Refuses(); refusal != Refusal::None) return refusal;
-  key = FilterKey(key);
-  Text text = text_;
-  if (key == kBackspace) {
-    const auto isLow = [&] { return !text.empty() && text.back() >= 0xDC00 && text.back() < 0xE000; };
-    const bool isPair = isLow() && text.size() > 1;
-    if (!text.empty()) text.pop_back();
-    if (isPair && text.back() >= 0xD800 && text.back() < 0xDC00) text.pop_back();
-  } else if (key >= u' ') {
-    text += key;
-  }
-  SetText(std::move(text));
-  return Refusal::None;
-}
-
-Refusal TextBox::UserEdit(Text text) {
-  const Refusal refusal = Refuses();
-  if (refusal == Refusal::None) SetText(std::move(text));
-  return refusal;
-}
 
 struct EntryWidget::Entry {
   Text text;
@@ -84,14 +17,14 @@ struct EntryWidget::Entry {
   const Entry* greatest = nullptr;
 };
 
-EntryWidget::EntryWidget(Dialog& dialog, const LayoutRow& row) : Widget(dialog, row) {}
+EntryWidget::EntryWidget(WidgetContext& context, const LayoutRow& row) : Widget(context, row) {}
 EntryWidget::~EntryWidget() = default;
 
 void EntryWidget::AddItem(Text text, std::optional<std::int16_t> index) {
   if (entries_.size() >= std::numeric_limits<std::int16_t>::max()) {
     throw RunTimeError(ErrorKind::Overflow, Text(Row().name.name) + u" can hold no more entries.");
   }
-  if (index && (*index < 0 || *index > ListCount())) ThrowIndex(Row().name, *index);
+  if (index && (*index < 0 || *index > ListCount())) ThrowIndex(*index);
   const bool toSortedPlace = !index && Row().sorted;
   const std::size_t place = index           ? static_cast<std::size_t>(*index)
                             : toSortedPlace ? SortedPlace(text)
@@ -104,7 +37,7 @@ void EntryWidget::AddItem(Text text, std::optional<std::int16_t> index) {
   entries_.Insert(place, std::move(entry));
   newIndex_ = static_cast<std::int16_t>(place);
   if (IndexFollowsEntry() && listIndex_ >= newIndex_) ++listIndex_;
-  dialog_.GetView().EntryAdded(*this, newIndex_);
+  context_.view->EntryAdded(*this, newIndex_);
 }
 
 void EntryWidget::RemoveItem(std::int16_t index) {
@@ -118,7 +51,7 @@ void EntryWidget::RemoveItem(std::int16_t index) {
       --listIndex_;
     }
   }
-  dialog_.GetView().EntryRemoved(*this, index);
+  context_.view->EntryRemoved(*this, index);
 }
 
 void EntryWidget::Clear() {
@@ -126,7 +59,7 @@ void EntryWidget::Clear() {
   ranked_ = 0;
   listIndex_ = -1;
   OnClear();
-  dialog_.GetView().EntriesCleared(*this);
+  context_.view->EntriesCleared(*this);
 }
 
 const Text& EntryWidget::List(std::int16_t index) const { return At(index).text; }
@@ -134,40 +67,40 @@ const Text& EntryWidget::List(std::int16_t index) const { return At(index).text;
 void EntryWidget::List(std::int16_t index, Text text) {
   Entry& entry = At(index);
   ranked_ = std::min(ranked_, static_cast<std::size_t>(index));
-  Set(entry.text, std::move(text));
+  if (entry.text == text) return;
+  entry.text = std::move(text);
+  TellEntry(index, EntryProperty::Text);
 }
 
 std::int32_t EntryWidget::ItemData(std::int16_t index) const { return At(index).data; }
 void EntryWidget::ItemData(std::int16_t index, std::int32_t data) { At(index).data = data; }
 
 void EntryWidget::ListIndex(std::int16_t index) {
-  if (index != -1 && !Has(index)) ThrowIndex(Row().name, index);
+  if (index != -1 && !Has(index)) ThrowIndex(index);
   if (index == ListIndex()) return;
   OnListIndex(index);
   Raise(Click);
 }
 
-void EntryWidget::ForgetOrder() { ranked_ = 0; }
-
 EntryWidget::Entry& EntryWidget::At(std::int16_t index) const {
-  if (!Has(index)) ThrowIndex(Row().name, index);
+  if (!Has(index)) ThrowIndex(index);
   return *entries_[static_cast<std::size_t>(index)];
 }
 
 /// Ahead of the first entry that sorts behind the text, in whatever order the entries stand: that entry is always
 /// the greatest one up to itself, and these ascend.
 std::size_t EntryWidget::SortedPlace(TextView text) {
-  const View& view = dialog_.GetView();
+  const Platform& platform = context_.platform;
   for (; ranked_ < entries_.size(); ++ranked_) {
     Entry& entry = *entries_[ranked_];
     const Entry* const before = ranked_ == 0 ? nullptr : entries_[ranked_ - 1]->greatest;
-    entry.greatest = before && view.CompareTexts(before->text, entry.text) >= 0 ? before : &entry;
+    entry.greatest = before && platform.CompareTexts(before->text, entry.text) >= 0 ? before : &entry;
   }
   std::size_t first = 0;
   std::size_t last = entries_.size();
   while (first < last) {
     const std::size_t middle = first + (last - first) / 2;
-    if (view.CompareTexts(entries_[middle]->greatest->text, text) > 0) {
+    if (platform.CompareTexts(entries_[middle]->greatest->text, text) > 0) {
       last = middle;
     } else {
       first = middle + 1;
@@ -274,7 +207,8 @@ void ListBox::Mark(std::int16_t index, bool selected) {
   Entry& entry = At(index);
   if (entry.selected == selected) return;
   selCount_ = static_cast<std::int16_t>(selCount_ + (selected ? 1 : -1));
-  Set(entry.selected, selected);
+  entry.selected = selected;
+  TellEntry(index, EntryProperty::Selected);
 }
 
 void ListBox::SelectOnly(std::int16_t index) {
@@ -285,34 +219,6 @@ void ListBox::SelectOnly(std::int16_t index) {
 Refusal ListBox::RefusesEntry(std::int16_t entry) const {
   const Refusal refusal = Refuses();
   return refusal == Refusal::None && !Has(entry) ? Refusal::NoSuchEntry : refusal;
-}
-
-SSTab::SSTab(Dialog& dialog, const LayoutRow& row) : Widget(dialog, row) {
-  for (std::size_t tab = 0; tab < captions_.size(); ++tab) captions_[tab] = kStoredTabCaptions[tab];
-}
-
-void SSTab::Tab(std::int16_t tab) {
-  if (tab < 0 || tab >= kTabs) ThrowIndex(Row().name, tab);
-  if (tab == tab_) return;
-  const std::int16_t previous = tab_;
-  Set(tab_, tab);
-  Raise(Click, previous);
-}
-
-const Text& SSTab::TabCaption(std::int16_t tab) const {
-  if (tab < 0 || tab >= kTabs) ThrowIndex(Row().name, tab);
-  return captions_[static_cast<std::size_t>(tab)];
-}
-
-void SSTab::TabCaption(std::int16_t tab, Text caption) {
-  if (tab < 0 || tab >= kTabs) ThrowIndex(Row().name, tab);
-  Set(captions_[static_cast<std::size_t>(tab)], std::move(caption));
-}
-
-Refusal SSTab::UserPick(std::int16_t tab) {
-  if (tab < 0 || tab >= kTabs) return Refusal::NoSuchEntry;
-  Tab(tab);
-  return Refusal::None;
 }
 
 }  // namespace ORXKMPrintProp

@@ -1,0 +1,14 @@
+#include "dialog/DialogFont.h"
+
+namespace ORXKMPrintProp {
+
+thread_local Text gDefaultFontName;
+
+namespace RBDoubleByteCS {
+
+void GetDefaultDialogFont(const Platform& platform) { gDefaultFontName = TrimAtNul(platform.DialogFontFace()); }
+
+Text TrimAtNul(const Text& text) { return text.substr(0, text.find(u'\0')); }
+
+}  // namespace RBDoubleByteCS
+}  // namespace ORXKMPrintProp
