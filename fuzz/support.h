@@ -12,7 +12,6 @@ inline void ResetSharedValues() {
   gPrnProp.reset();
   gTextTable.reset();
   gErrorText.clear();
-  gCurChar = gCurAttrChar = gCurAttr = gCurStr = gCurStrElem = 0;
 }
 
 /// A finding unless the condition holds.

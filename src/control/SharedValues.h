@@ -5,7 +5,6 @@
 
 #include "dialog/DialogFont.h"  // IWYU pragma: export  gDefaultFontName
 #include "model/PrnPropCls.h"   // IWYU pragma: export  gPrnProp, gErrorText, gAttrRowIndex
-#include "pages/PageState.h"    // IWYU pragma: export  gCurChar, gCurAttrChar, gCurAttr, gCurStr, gCurStrElem
 #include "texts/LookupText.h"   // IWYU pragma: export  gTextTable
 
 namespace ORXKMPrintProp {

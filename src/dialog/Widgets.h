@@ -132,6 +132,9 @@ class TextBox : public Widget {
   /// May change the character's code; 0 drops the key.
   std::function<void(std::int16_t& KeyAscii)> KeyPress;
 
+  /// Whether the setting behind the box can take the text; else it keeps its value. Without it any text can be stored.
+  std::function<bool(const Text& text)> CanStore;
+
   static constexpr char16_t kBackspace = 8;
 
   const Text& GetText() const { return text_; }
@@ -140,6 +143,8 @@ class TextBox : public Widget {
     text_ = std::move(text);
     Tell(WidgetProperty::Text);
   }
+
+  bool IsStorable() const { return !CanStore || CanStore(text_); }
 
   /// What becomes of a key: its code as `KeyPress` leaves it, 0 for none. The text does not change.
   char16_t FilterKey(char16_t key) const;

@@ -5,47 +5,52 @@
 namespace ORXKMPrintProp {
 
 AttrPage::AttrPage(PageState& state)
-    : ListPage(state, 2, gCurAttr),
+    : ListPage(state, kAttrTab, state.curAttr),
       cmbAttrChar(state.dialog.Get<ComboBox>(u"cmbAttrChar")),
-      columns_(state, u"Attr", [this] { return Shown().get(); }) {}
+      columns_(
+          state, u"Attr", [&state] { return state.curAttrChar != -1 && state.curAttr != -1; },
+          [this] { return Shown(); }) {
+  cmbAttrChar.Click = state.WhenReady([this] { AttrCharChanged(); });
+}
 
 Collection<PrnItemRef> AttrPage::Items() const {
-  return ItemsOf(state_.Characteristics().Item(gCurAttrChar)->Attributes());
+  return ItemsOf(state_.Characteristics().Item(state_.curAttrChar)->Attributes());
 }
 
 std::shared_ptr<PrnAttrCls> AttrPage::Shown() const {
-  if (gCurAttrChar <= 0 || gCurAttr <= 0) return nullptr;
-  return state_.Characteristics().Item(gCurAttrChar)->Attributes().Item(gCurAttr);
+  if (state_.curAttrChar <= 0 || state_.curAttr <= 0) return nullptr;
+  return state_.Characteristics().Item(state_.curAttrChar)->Attributes().Item(state_.curAttr);
 }
 
-void AttrPage::ResetAttrPage() {
-  gCurAttrChar = gCurAttr = -1;
+void AttrPage::ResetPage() {
+  ListPage::ResetPage();
+  state_.curAttrChar = state_.curAttr = -1;
   cmbAttrChar.Clear();
   ClearLists();
   columns_.Blank();
-  columns_.EnableAll(!state_.mReadOnly);
-  gCurAttrChar = gCurAttr = 0;
+  columns_.Enable(!state_.mReadOnly);
+  state_.curAttrChar = state_.curAttr = 0;
 }
 
-void AttrPage::ShowAttrPage() {
+void AttrPage::ShowPage() {
   cmbAttrChar.Clear();
   const auto& characteristics = state_.Characteristics();
   for (const std::int32_t number : ModPrnGen::PrintedOncePerPosition(characteristics)) {
-    ModPrnGen::ComboInsertByPosition(cmbAttrChar, characteristics.Item(number)->Text(), number, nullptr);
+    ModPrnGen::AppendItem(cmbAttrChar, characteristics.Item(number)->Text(), number);
   }
   if (cmbAttrChar.ListCount() == 0) return;
-  gCurAttrChar = gCurAttr = -1;
+  state_.curAttrChar = state_.curAttr = -1;
   cmbAttrChar.ListIndex(0);
 }
 
 void AttrPage::AttrCharChanged() {
-  OwnerChanged(static_cast<std::int16_t>(cmbAttrChar.ItemData(cmbAttrChar.ListIndex())), gCurAttrChar);
+  OwnerChanged(static_cast<std::int16_t>(cmbAttrChar.ItemData(cmbAttrChar.ListIndex())), state_.curAttrChar);
 }
 
 void AttrPage::ShowProps() {
-  const auto attribute = lstPrint.ListCount() > 0 ? Shown() : nullptr;
+  const auto attribute = Shown();
   if (!attribute) columns_.Blank();
-  columns_.EnableAll(attribute && !state_.mReadOnly);
+  columns_.Enable(attribute && !state_.mReadOnly);
   if (attribute) columns_.Show(*attribute);
 }
 
@@ -54,17 +59,12 @@ void AttrPage::StoreProps() {
 }
 
 void AttrPage::StoreOrder() {
-  if (gCurAttrChar != 0) StoreItemOrder();
+  if (state_.curAttrChar != 0) StoreItemOrder();
 }
 
-void AttrPage::StoreAttrPage() {
-  StoreOrder();
-  StoreProps();
-}
-
-void AttrPage::EnableAttrPage() {
+void AttrPage::EnablePage() {
   EnableLists();
-  columns_.EnableAll(state_.loaded && gCurAttr != -1 && !state_.mReadOnly);
+  columns_.Enable(state_.loaded && state_.curAttr != -1 && !state_.mReadOnly);
 }
 
 }  // namespace ORXKMPrintProp

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "pages/ColumnFrame.h"
 #include "pages/ListPage.h"
 
@@ -15,27 +17,21 @@ class AttrPage : public ListPage {
  public:
   explicit AttrPage(PageState& state);
 
-  /// Back to what the page is at control start.
-  void ResetAttrPage();
-  void ShowAttrPage();
-  void StoreAttrPage();
-  void EnableAttrPage();
-
-  void StoreOrder() override;
-
-  void AttrCharChanged();
-  ColumnFrame& Columns() { return columns_; }
-
-  ComboBox& cmbAttrChar;
+  void ResetPage() override;
+  void ShowPage() override;
+  void EnablePage() override;
 
  private:
   Collection<PrnItemRef> Items() const override;
   void StoreProps() override;
   void ShowProps() override;
+  void StoreOrder() override;
+  void AttrCharChanged();
 
   /// The attribute whose settings are shown, none for a number that is not positive.
   std::shared_ptr<PrnAttrCls> Shown() const;
 
+  ComboBox& cmbAttrChar;
   ColumnFrame columns_;
 };
 

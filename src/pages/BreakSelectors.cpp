@@ -39,20 +39,22 @@ bool DropLast(ComboBox& combo, const ListBox& print) {
 
 }  // namespace
 
-BreakSelectors::BreakSelectors(PageState& state)
+BreakSelectors::BreakSelectors(const PageState& state)
     : state_(state),
       cmbCharQueryBreak(state.dialog.Get<ComboBox>(u"cmbCharQueryBreak")),
       cmbCharPageBreak(state.dialog.Get<ComboBox>(u"cmbCharPageBreak")),
       cmbCharBreakArea(state.dialog.Get<ComboBox>(u"cmbCharBreakArea")),
       selectors_{Selector{cmbCharQueryBreak, &PrnCharCls::QueryBreak},
                  Selector{cmbCharPageBreak, &PrnCharCls::PageBreak},
-                 Selector{cmbCharBreakArea, &PrnCharCls::BreakArea}} {}
+                 Selector{cmbCharBreakArea, &PrnCharCls::BreakArea}} {
+  cmbCharQueryBreak.Click = state.WhenReady([this] { OnQueryBreak(); });
+  cmbCharPageBreak.Click = state.WhenReady([this] { OnPageBreak(); });
+}
 
 void BreakSelectors::FillBreakCombos() {
   for (const Selector& selector : selectors_) selector.combo.Clear();
   for (const Selector& selector : selectors_) {
-    ModPrnGen::ComboInsertByPosition(selector.combo, ModPrnGen::LookupText(u"ID_PRN_NONE", u"<None>"), kNoBreak,
-                                     nullptr);
+    ModPrnGen::AppendItem(selector.combo, ModPrnGen::LookupText(u"ID_PRN_NONE", u"<None>"), kNoBreak);
   }
 
   const PrnCharCollCls& characteristics = state_.Characteristics();
@@ -74,7 +76,7 @@ void BreakSelectors::FillBreakCombos() {
   }
   for (const Selector& selector : selectors_) {
     for (const std::int32_t item : offered) {
-      ModPrnGen::ComboInsertByPosition(selector.combo, characteristics.Item(item)->Text(), item, nullptr);
+      ModPrnGen::AppendItem(selector.combo, characteristics.Item(item)->Text(), item);
     }
   }
   for (std::size_t s = 0; s < selectors_.size(); ++s) {

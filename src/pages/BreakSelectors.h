@@ -15,7 +15,7 @@ namespace ORXKMPrintProp {
 /// characteristic. Between two stores the selections are the truth, and the flags of the model lag behind.
 class BreakSelectors {
  public:
-  explicit BreakSelectors(PageState& state);
+  explicit BreakSelectors(const PageState& state);
 
   /// Fills the selectors from the model and selects what its flags say.
   void FillBreakCombos();
@@ -27,8 +27,6 @@ class BreakSelectors {
   /// No cover page and no page break, and a block at the last characteristic offered.
   void ResetCharBreaks();
 
-  void OnQueryBreak();
-  void OnPageBreak();
   void EnableBreakCombos();
 
  private:
@@ -37,11 +35,13 @@ class BreakSelectors {
     FlagProperty PrnCharCls::*flag;
   };
 
+  void OnQueryBreak();
+  void OnPageBreak();
   void RefillBreakCombo(const ComboBox& Upper, ComboBox& Lower);
   /// Offers those entries of `upper` below its selection that `lower` does not have.
   void OfferBelow(const ComboBox& upper, ComboBox& lower);
 
-  PageState& state_;
+  const PageState& state_;
   ComboBox& cmbCharQueryBreak;
   ComboBox& cmbCharPageBreak;
   ComboBox& cmbCharBreakArea;

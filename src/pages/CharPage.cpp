@@ -1,31 +1,45 @@
 #include "pages/CharPage.h"
 
-#include "pages/Fields.h"
+#include "texts/LookupText.h"
 
 namespace ORXKMPrintProp {
+namespace {
+
+using C = PrnCharCls;
+constexpr FieldOf<C> kFields[] = {
+    PropertyField<C, &C::HryActive, FlagField>(u"chkCharHierDisplay"),
+    PropertyField<C, &C::HryLevel, LeadingNumberField>(u"txtCharHierLevel"),
+    PropertyField<C, &C::NoSums, ChoiceField>(u"cmbCharNoSums"),
+};
+
+}  // namespace
 
 CharPage::CharPage(PageState& state)
-    : ListPage(state, 1, gCurChar),
+    : ListPage(state, kCharTab, state.curChar),
       chkCharHierDisplay(state.dialog.Get<CheckBox>(u"chkCharHierDisplay")),
       txtCharHierLevel(state.dialog.Get<TextBox>(u"txtCharHierLevel")),
-      cmbCharNoSums(state.dialog.Get<ComboBox>(u"cmbCharNoSums")),
-      cmdTotalsRow(state.dialog.Get<CommandButton>(u"cmdPrintLayout", 4)),
-      columns_(state, u"Char", [this] { return Shown().get(); }),
-      breaks_(state) {}
+      cmdTotalsRow(state.dialog.Get<CommandButton>(u"cmdPrintLayout", kTotalsRowButton)),
+      columns_(
+          state, u"Char", [&state] { return state.curChar != -1; }, [this] { return Shown(); }),
+      fields_(state.dialog, kFields),
+      breaks_(state) {
+  chkCharHierDisplay.Click = state.WhenReady([this] { OnHierDisplay(); });
+}
 
 Collection<PrnItemRef> CharPage::Items() const { return ItemsOf(state_.Characteristics()); }
 
 std::shared_ptr<PrnCharCls> CharPage::Shown() const {
-  return gCurChar > 0 ? state_.Characteristics().Item(gCurChar) : nullptr;
+  return state_.curChar > 0 ? state_.Characteristics().Item(state_.curChar) : nullptr;
 }
 
-void CharPage::ResetCharPage() {
-  gCurChar = -1;
+void CharPage::ResetPage() {
+  ListPage::ResetPage();
+  state_.curChar = -1;
   columns_.Blank();
 }
 
-void CharPage::ShowCharPage() {
-  gCurChar = -1;
+void CharPage::ShowPage() {
+  state_.curChar = -1;
   FillLists();
   breaks_.FillBreakCombos();
   SelectFirst(false);
@@ -33,28 +47,22 @@ void CharPage::ShowCharPage() {
 
 void CharPage::ShowProps() {
   const auto characteristic = Shown();
-  if (!characteristic) {
-    EnableCharProps(false);
-    return;
-  }
-  EnableCharProps(true);
+  EnableCharProps(characteristic != nullptr);
+  if (!characteristic) return;
   columns_.Show(*characteristic);
-  Show(chkCharHierDisplay, characteristic->HryActive());
+  fields_.Show(*characteristic);
   OnHierDisplay();
-  Show(cmbCharNoSums, characteristic->NoSums());
 }
 
 void CharPage::EnableCharProps(bool Enable) {
   if (!Enable) {
     columns_.Blank();
-    chkCharHierDisplay.Value(0);
-    txtCharHierLevel.SetText({});
-    cmbCharNoSums.ListIndex(-1);
+    fields_.Blank();
   }
-  const auto characteristic = Enable ? Shown() : nullptr;
-  const bool hasHierarchy = characteristic && !characteristic->HieNm().empty() && !state_.mReadOnly;
-  columns_.EnableAll(Enable && !state_.mReadOnly);
-  cmbCharNoSums.Enabled(Enable && !state_.mReadOnly);
+  const bool enabled = Enable && !state_.mReadOnly;
+  const bool hasHierarchy = enabled && !Shown()->HieNm().empty();
+  columns_.Enable(enabled);
+  fields_.Enable(enabled);
   cmdTotalsRow.Enabled(Enable);
   chkCharHierDisplay.Enabled(hasHierarchy);
   txtCharHierLevel.Enabled(hasHierarchy && ModPrnGen::CheckToBool(chkCharHierDisplay.Value()));
@@ -64,22 +72,19 @@ void CharPage::OnHierDisplay() {
   const auto characteristic = Shown();
   if (!characteristic) return;
   const bool display = ModPrnGen::CheckToBool(chkCharHierDisplay.Value());
-  const bool hasHierarchy = !characteristic->HieNm().empty();
   if (display) {
-    Show(txtCharHierLevel, characteristic->HryLevel());
+    LeadingNumberField::Show(characteristic->HryLevel(), txtCharHierLevel);
   } else {
     txtCharHierLevel.SetText({});
   }
-  txtCharHierLevel.Enabled(display && hasHierarchy && !state_.mReadOnly);
+  txtCharHierLevel.Enabled(display && !characteristic->HieNm().empty() && !state_.mReadOnly);
 }
 
 void CharPage::StoreProps() {
   const auto characteristic = Shown();
   if (!characteristic) return;
   columns_.Store(*characteristic);
-  Store(chkCharHierDisplay, characteristic->HryActive);
-  StoreLeading(txtCharHierLevel, characteristic->HryLevel);
-  Store(cmbCharNoSums, characteristic->NoSums);
+  fields_.Store(*characteristic);
 }
 
 void CharPage::StoreOrder() {
@@ -93,21 +98,33 @@ void CharPage::StoreOrder() {
   breaks_.RebuildBreakCombos(lstPrint);
 }
 
-void CharPage::StoreCharPage() {
-  StoreOrder();
-  StoreProps();
+bool CharPage::MayTake(std::int16_t more) {
+  if (lstPrint.ListCount() + more <= kMaxPrintCharacteristics) return true;
+  const Text text = ModPrnGen::LookupText(u"ID_PRN_MSGMAX10", u"You may only use up to ten print characteristics");
+  const Text title = ModPrnGen::LookupText(u"ID_PRN_ERROR", u"Error");
+  state_.dialog.GetView().MsgBox(text, title);
+  return false;
 }
 
-void CharPage::EnableCharPage() {
+void CharPage::OnTransferred() {
+  if (state_.orderChanged()) breaks_.ResetCharBreaks();
+}
+
+void CharPage::OnDragEnded(bool isElsewhere) {
+  if (isElsewhere && !state_.orderChanged()) return;
+  StoreOrder();
+  if (isElsewhere) breaks_.ResetCharBreaks();
+}
+
+void CharPage::EnablePage() {
   EnableLists();
   breaks_.EnableBreakCombos();
-  const bool active = state_.loaded && gCurChar != -1;
-  const bool enabled = active && !state_.mReadOnly;
+  const bool enabled = state_.loaded && state_.curChar != -1 && !state_.mReadOnly;
   const bool hasHierarchy = enabled && !(Shown() && Shown()->HieNm().empty());
-  columns_.EnableAll(enabled);
+  columns_.Enable(enabled);
+  fields_.Enable(enabled);
   chkCharHierDisplay.Enabled(hasHierarchy);
   txtCharHierLevel.Enabled(hasHierarchy);
-  cmbCharNoSums.Enabled(enabled);
 }
 
 }  // namespace ORXKMPrintProp

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "pages/BreakSelectors.h"
 #include "pages/ColumnFrame.h"
 #include "pages/ListPage.h"
@@ -8,39 +10,41 @@ namespace ORXKMPrintProp {
 
 /// The second page: which characteristics are printed, in which order, with which breaks, and the settings of the
 /// one that is selected.
+///
+/// `ORXOrderChanged` reaches the host from here, inside the user's action. When the host loads other settings in its
+/// handler, the rest of the action is dropped: it was about settings that are gone.
 class CharPage : public ListPage {
  public:
+  /// Ten print characteristics are allowed; the limit guards the button alone.
+  static constexpr int kMaxPrintCharacteristics = 10;
+
   explicit CharPage(PageState& state);
 
-  /// Blanks the frame, so that showing an item sets all that follows from its presentation.
-  void ResetCharPage();
-  void ShowCharPage();
-  void StoreCharPage();
-  void EnableCharPage();
-
-  /// Lists and break selectors into the model; the selectors are rebuilt for the new order.
-  void StoreOrder() override;
-  void ResetCharBreaks() { breaks_.ResetCharBreaks(); }
-
-  BreakSelectors& Breaks() { return breaks_; }
-  ColumnFrame& Columns() { return columns_; }
-  void OnHierDisplay();
-
-  CheckBox& chkCharHierDisplay;
+  /// Blanks the frame too, so that showing an item sets all that follows from its presentation.
+  void ResetPage() override;
+  void ShowPage() override;
+  void EnablePage() override;
 
  private:
   Collection<PrnItemRef> Items() const override;
   void StoreProps() override;
   void ShowProps() override;
+  /// Lists and break selectors into the model; the selectors are rebuilt for the new order.
+  void StoreOrder() override;
+  bool MayTake(std::int16_t more) override;
+  void OnTransferred() override;
+  void OnDragEnded(bool isElsewhere) override;
+  void OnHierDisplay();
 
   /// The characteristic whose settings are shown, none for -1.
   std::shared_ptr<PrnCharCls> Shown() const;
   void EnableCharProps(bool Enable);
 
+  CheckBox& chkCharHierDisplay;
   TextBox& txtCharHierLevel;
-  ComboBox& cmbCharNoSums;
   CommandButton& cmdTotalsRow;
   ColumnFrame columns_;
+  Fields<PrnCharCls> fields_;  ///< all below the columns
   BreakSelectors breaks_;
 };
 

@@ -2,66 +2,44 @@
 
 #include <cstdint>
 #include <functional>
-#include <vector>
+#include <memory>
 
 #include "model/PrnItemCls.h"
+#include "pages/AutoWidth.h"
+#include "pages/Fields.h"
 #include "pages/PageState.h"
 
 namespace ORXKMPrintProp {
 
-/// A check box for automatic width and the boxes that hold a width while it is not checked.
-class AutoWidth {
- public:
-  /// @param values the widths of the item that is shown, in the order of the boxes; empty while none is.
-  AutoWidth(PageState& state, CheckBox& check, std::vector<TextBox*> boxes,
-            std::function<std::vector<std::int16_t>()> values);
-
-  void Show(bool automatic);
-  void Blank();
-  /// The widths follow the check box: empty and disabled, or as the model has them.
-  void Follow();
-
- private:
-  PageState& state_;
-  CheckBox& check_;
-  std::vector<TextBox*> boxes_;
-  std::function<std::vector<std::int16_t>()> values_;
-};
-
 /// The settings of two columns, as the frames of the Characteristics and of the Attributes page show them.
 class ColumnFrame {
  public:
-  using Shown = std::function<const PrnColumnsCls*()>;
+  using Shown = std::function<std::shared_ptr<PrnColumnsCls>()>;
 
   /// @param page what the widgets' names have behind their kind: "Char" or "Attr".
-  /// @param shown the item whose settings are shown, null while there is none.
-  ColumnFrame(PageState& state, TextView page, Shown shown);
+  /// @param isShowing whether something is selected, or nothing has been shown yet.
+  /// @param shown the item whose settings are shown, none while there is none.
+  ColumnFrame(const PageState& state, TextView page, std::function<bool()> isShowing, const Shown& shown);
 
-  void Show(const PrnColumnsCls& item);
+  void Show(const PrnColumnsCls& item) const;
   void Store(PrnColumnsCls& item) const;
-  void Blank();
+  void Blank() const;
   /// Every widget, whatever the check box says.
-  void EnableAll(bool enabled);
+  void Enable(bool enabled) const;
 
-  /// The second column shows for two columns only, and the labels tell what stands in which.
-  void OnPresentation();
-  /// The widths follow the check box.
-  void OnAutoWidth() { autoWidth_.Follow(); }
+ private:
+  /// The second column shows for two columns only, and the labels say what stands in which.
+  void OnPresentation() const;
 
   ComboBox& cmbPresentation;
   CheckBox& chkColAutoWidth;
-
- private:
-  TextBox& txtColTitle;
-  ComboBox& cmbColAlign1;
   ComboBox& cmbColAlign2;
-  TextBox& txtColWidth1;
   TextBox& txtColWidth2;
-  CheckBox& chkColEachPage1;
   CheckBox& chkColEachPage2;
   Label& lblCol1;
   Label& lblCol2;
-  AutoWidth autoWidth_;
+  Fields<PrnColumnsCls> fields_;  ///< all but the widths
+  AutoWidth<PrnColumnsCls> autoWidth_;
 };
 
 /// Sets the captions of the two columns' labels. A presentation that is none leaves them, one with a single column

@@ -1,88 +1,46 @@
 #include "pages/GeneralPage.h"
 
 #include <algorithm>
-#include <initializer_list>
 #include <iterator>
-
-#include "pages/Fields.h"
 
 namespace ORXKMPrintProp {
 namespace {
 
-/// The values of the entries of `cmbGenCurUnitPosition`; `PP_PRN_CUPOS_HEAD` has none.
-constexpr PP_CurUnitPosition kCurUnitPositions[] = {PP_PRN_CUPOS_LEFT, PP_PRN_CUPOS_RIGHT, PP_PRN_CUPOS_NONE};
+/// `PP_PRN_CUPOS_HEAD` has no entry: it is shown as a blank field and stays until the user picks an entry.
+struct CurUnitPositionField {
+  static constexpr FieldKind kKind = FieldKind::Choice;
+  /// By entry.
+  static constexpr PP_CurUnitPosition kValues[] = {PP_PRN_CUPOS_LEFT, PP_PRN_CUPOS_RIGHT, PP_PRN_CUPOS_NONE};
 
-void ShowCurUnitPosition(ComboBox& combo, PP_CurUnitPosition value) {
-  const auto* const found = std::find(std::begin(kCurUnitPositions), std::end(kCurUnitPositions), value);
-  Show(combo, found == std::end(kCurUnitPositions) ? -1 : static_cast<std::int32_t>(found - kCurUnitPositions));
-}
+  static void Show(PP_CurUnitPosition value, Widget& combo) {
+    const auto* const found = std::find(std::begin(kValues), std::end(kValues), value);
+    ChoiceField::Show(found == std::end(kValues) ? -1 : static_cast<std::int32_t>(found - kValues), combo);
+  }
+  static void Store(const Widget& combo, Property<PP_CurUnitPosition>& property) {
+    if (const std::int16_t index = ChoiceField::Picked(combo); index >= 0) property(kValues[index]);
+  }
+};
 
-void StoreCurUnitPosition(const ComboBox& combo, Property<PP_CurUnitPosition>& property) {
-  if (combo.ListIndex() >= 0) property(kCurUnitPositions[combo.ListIndex()]);
-}
+using C = PrnPropCls;
+constexpr FieldOf<C> kFields[] = {
+    PropertyField<C, &C::Title, TextField>(u"txtGenPrnTitle"),
+    PropertyField<C, &C::MaxPages, LeadingNumberField>(u"txtGenMaxPages"),
+    PropertyField<C, &C::Direction, ChoiceField>(u"cmbGenPrnDirection"),
+    PropertyField<C, &C::ShowNoZeros, FlagField>(u"chkGenShowNoZeros"),
+    PropertyField<C, &C::UseColors, FlagField>(u"chkGenUseColors"),
+    PropertyField<C, &C::MarginTop, WholeNumberField>(u"txtGenMarginTop"),
+    PropertyField<C, &C::MarginBottom, WholeNumberField>(u"txtGenMarginBottom"),
+    PropertyField<C, &C::MarginLeft, WholeNumberField>(u"txtGenMarginLeft"),
+    PropertyField<C, &C::MarginRight, WholeNumberField>(u"txtGenMarginRight"),
+    PropertyField<C, &C::SumPosit, ChoiceField>(u"cmbGenSumPosit"),
+    PropertyField<C, &C::NoMultTxt, FlagField>(u"chkGenNoMultTexts"),
+    PropertyField<C, &C::SignPrsnt, ChoiceField>(u"cmbGenSignPrsnt"),
+    PropertyField<C, &C::NoLines, FlagField>(u"chkGenNoLines"),
+    PropertyField<C, &C::CurUnitPosition, CurUnitPositionField>(u"cmbGenCurUnitPosition"),
+};
 
 }  // namespace
 
-GeneralPage::GeneralPage(PageState& state)
-    : state_(state),
-      txtGenPrnTitle(state.dialog.Get<TextBox>(u"txtGenPrnTitle")),
-      txtGenMaxPages(state.dialog.Get<TextBox>(u"txtGenMaxPages")),
-      cmbGenPrnDirection(state.dialog.Get<ComboBox>(u"cmbGenPrnDirection")),
-      chkGenShowNoZeros(state.dialog.Get<CheckBox>(u"chkGenShowNoZeros")),
-      chkGenUseColors(state.dialog.Get<CheckBox>(u"chkGenUseColors")),
-      txtGenMarginTop(state.dialog.Get<TextBox>(u"txtGenMarginTop")),
-      txtGenMarginBottom(state.dialog.Get<TextBox>(u"txtGenMarginBottom")),
-      txtGenMarginLeft(state.dialog.Get<TextBox>(u"txtGenMarginLeft")),
-      txtGenMarginRight(state.dialog.Get<TextBox>(u"txtGenMarginRight")),
-      cmbGenSumPosit(state.dialog.Get<ComboBox>(u"cmbGenSumPosit")),
-      chkGenNoMultTexts(state.dialog.Get<CheckBox>(u"chkGenNoMultTexts")),
-      cmbGenSignPrsnt(state.dialog.Get<ComboBox>(u"cmbGenSignPrsnt")),
-      chkGenNoLines(state.dialog.Get<CheckBox>(u"chkGenNoLines")),
-      cmbGenCurUnitPosition(state.dialog.Get<ComboBox>(u"cmbGenCurUnitPosition")) {}
-
-void GeneralPage::ShowGeneralPage() {
-  const PrnPropCls& root = state_.Root();
-  Show(txtGenPrnTitle, root.Title());
-  Show(txtGenMaxPages, root.MaxPages());
-  Show(cmbGenPrnDirection, root.Direction());
-  Show(chkGenShowNoZeros, root.ShowNoZeros());
-  Show(chkGenUseColors, root.UseColors());
-  Show(txtGenMarginTop, root.MarginTop());
-  Show(txtGenMarginBottom, root.MarginBottom());
-  Show(txtGenMarginLeft, root.MarginLeft());
-  Show(txtGenMarginRight, root.MarginRight());
-  Show(cmbGenSumPosit, root.SumPosit());
-  Show(chkGenNoMultTexts, root.NoMultTxt());
-  Show(cmbGenSignPrsnt, root.SignPrsnt());
-  Show(chkGenNoLines, root.NoLines());
-  ShowCurUnitPosition(cmbGenCurUnitPosition, root.CurUnitPosition());
-}
-
-void GeneralPage::StoreGeneralPage() {
-  PrnPropCls& root = state_.Root();
-  Store(txtGenPrnTitle, root.Title);
-  Store(cmbGenPrnDirection, root.Direction);
-  StoreLeading(txtGenMaxPages, root.MaxPages);
-  Store(chkGenShowNoZeros, root.ShowNoZeros);
-  Store(chkGenUseColors, root.UseColors);
-  StoreWhole(txtGenMarginTop, root.MarginTop);
-  StoreWhole(txtGenMarginBottom, root.MarginBottom);
-  StoreWhole(txtGenMarginLeft, root.MarginLeft);
-  StoreWhole(txtGenMarginRight, root.MarginRight);
-  Store(cmbGenSumPosit, root.SumPosit);
-  Store(chkGenNoMultTexts, root.NoMultTxt);
-  Store(cmbGenSignPrsnt, root.SignPrsnt);
-  Store(chkGenNoLines, root.NoLines);
-  StoreCurUnitPosition(cmbGenCurUnitPosition, root.CurUnitPosition);
-}
-
-void GeneralPage::EnableGeneralPage() {
-  for (Widget* const widget : std::initializer_list<Widget*>{
-           &txtGenPrnTitle, &txtGenMaxPages, &cmbGenPrnDirection, &chkGenShowNoZeros, &chkGenUseColors,
-           &txtGenMarginTop, &txtGenMarginBottom, &txtGenMarginLeft, &txtGenMarginRight, &cmbGenSumPosit,
-           &chkGenNoMultTexts, &cmbGenSignPrsnt, &chkGenNoLines, &cmbGenCurUnitPosition}) {
-    widget->Enabled(!state_.mReadOnly);
-  }
-}
+GeneralPage::GeneralPage(const PageState& state) : state_(state), fields_(state.dialog, kFields) {}
 
 }  // namespace ORXKMPrintProp

@@ -1,35 +1,24 @@
 #pragma once
 
+#include "pages/Fields.h"
+#include "pages/Page.h"
 #include "pages/PageState.h"
 
 namespace ORXKMPrintProp {
 
-/// The first page: each input widget stands for one property of the root.
-class GeneralPage {
+/// The first page: each input widget stands for one property of the root. The layout buttons stay usable in read-only
+/// mode.
+class GeneralPage : public Page {
  public:
-  explicit GeneralPage(PageState& state);
+  explicit GeneralPage(const PageState& state);
 
-  void ShowGeneralPage();
-  void StoreGeneralPage();
-  /// The layout buttons stay usable in read-only mode.
-  void EnableGeneralPage();
+  void ShowPage() override { fields_.Show(state_.Root()); }
+  void StorePage() override { fields_.Store(state_.Root()); }
+  void EnablePage() override { fields_.Enable(!state_.mReadOnly); }
 
  private:
-  PageState& state_;
-  TextBox& txtGenPrnTitle;
-  TextBox& txtGenMaxPages;
-  ComboBox& cmbGenPrnDirection;
-  CheckBox& chkGenShowNoZeros;
-  CheckBox& chkGenUseColors;
-  TextBox& txtGenMarginTop;
-  TextBox& txtGenMarginBottom;
-  TextBox& txtGenMarginLeft;
-  TextBox& txtGenMarginRight;
-  ComboBox& cmbGenSumPosit;
-  CheckBox& chkGenNoMultTexts;
-  ComboBox& cmbGenSignPrsnt;
-  CheckBox& chkGenNoLines;
-  ComboBox& cmbGenCurUnitPosition;
+  const PageState& state_;
+  Fields<PrnPropCls> fields_;
 };
 
 }  // namespace ORXKMPrintProp

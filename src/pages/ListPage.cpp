@@ -1,18 +1,38 @@
 #include "pages/ListPage.h"
 
 #include <initializer_list>
+#include <utility>
 
 #include "pages/ListRoutines.h"
 
 namespace ORXKMPrintProp {
 
 ListPage::ListPage(PageState& state, std::int16_t tab, std::int16_t& current)
-    : lstAvail(state.dialog.Get<ListBox>(u"lstAvail", tab)),
+    : state_(state),
+      lstAvail(state.dialog.Get<ListBox>(u"lstAvail", tab)),
       lstPrint(state.dialog.Get<ListBox>(u"lstPrint", tab)),
       cmdLeftToRight(state.dialog.Get<CommandButton>(u"cmdLeftToRight", tab)),
       cmdRightToLeft(state.dialog.Get<CommandButton>(u"cmdRightToLeft", tab)),
-      state_(state),
-      current_(current) {}
+      current_(current) {
+  cmdLeftToRight.Click = state.WhenReady([this] {
+    if (MayTake(lstAvail.SelCount())) Transfer(lstAvail, lstPrint);
+  });
+  cmdRightToLeft.Click = state.WhenReady([this] { Transfer(lstPrint, lstAvail); });
+  lstPrint.Click = state.WhenReady([this] { SelectionChanged(); });
+  lstPrint.MouseDown = state.WhenReady([this](std::int16_t button) { MouseDown(button); });
+  lstPrint.MouseMove = state.WhenReady([this](std::int16_t button) { MouseMove(button); });
+  lstPrint.MouseUp = state.WhenReady([this](std::int16_t button) { MouseUp(button); });
+}
+
+void ListPage::ResetPage() {
+  mDragIndex = -1;
+  state_.dialog.MousePointer(Dialog::kDefaultPointer);
+}
+
+void ListPage::StorePage() {
+  StoreOrder();
+  StoreProps();
+}
 
 void ListPage::SelectionChanged() {
   if (lstPrint.SelCount() != 1) {
@@ -51,10 +71,10 @@ void ListPage::FillLists() {
   std::int32_t number = 0;
   for (const PrnItemRef& item : items) {
     ++number;
-    if (item->Hidden()) ModPrnGen::ListInsertByPosition(lstAvail, item->Text(), number, nullptr);
+    if (item->Hidden()) ModPrnGen::AppendItem(lstAvail, item->Text(), number);
   }
   for (const std::int32_t printed : ModPrnGen::PrintedByPosition(items)) {
-    ModPrnGen::ListInsertByPosition(lstPrint, items.Item(printed)->Text(), printed, nullptr);
+    ModPrnGen::AppendItem(lstPrint, items.Item(printed)->Text(), printed);
   }
 }
 
@@ -96,6 +116,42 @@ void ListPage::EnableLists() {
   for (Widget* const widget : std::initializer_list<Widget*>{&lstAvail, &cmdLeftToRight, &cmdRightToLeft}) {
     widget->Enabled(!state_.mReadOnly);
   }
+}
+
+void ListPage::Transfer(ListBox& source, ListBox& target) {
+  const std::int16_t moved = ModPrnGen::MoveSelectedItems(source, target);
+  StoreOrder();
+  SelectionChanged();
+  if (moved > 0) OnTransferred();
+}
+
+void ListPage::MouseDown(std::int16_t Button) {
+  if (state_.mReadOnly || Button != ListBox::kLeftButton) return;
+  mDragIndex = mDragStart = lstPrint.ListIndex();
+}
+
+void ListPage::MouseMove(std::int16_t Button) {
+  if (state_.mReadOnly || Button != ListBox::kLeftButton || mDragIndex == -1) return;
+  state_.dialog.MousePointer(Dialog::kDragPointer);
+  const std::int16_t New = lstPrint.ListIndex();
+  if (New == mDragIndex) return;
+  const Text text = lstPrint.List(mDragIndex);
+  const std::int32_t item = lstPrint.ItemData(mDragIndex);
+  lstPrint.RemoveItem(mDragIndex);
+  lstPrint.AddItem(text, New);
+  lstPrint.ItemData(New, item);
+  const std::int16_t former = std::exchange(mDragIndex, New);
+  lstPrint.Selected(New, true);
+  lstPrint.Selected(former, false);
+}
+
+void ListPage::MouseUp(std::int16_t Button) {
+  // A drag can't begin in read-only mode; one that has begun before ends as it would.
+  if (Button != ListBox::kLeftButton || mDragIndex == -1) return;
+  state_.dialog.MousePointer(Dialog::kDefaultPointer);
+  // Settled ahead of what follows, which may fail.
+  const bool isElsewhere = std::exchange(mDragIndex, std::int16_t{-1}) != mDragStart;
+  OnDragEnded(isElsewhere);
 }
 
 }  // namespace ORXKMPrintProp

@@ -1,18 +1,10 @@
 #include "pages/ListRoutines.h"
 
-#include <cstddef>
+#include <algorithm>
 #include <limits>
 #include <utility>
 
 namespace ORXKMPrintProp::ModPrnGen {
-namespace {
-
-constexpr std::int32_t kLowest = std::numeric_limits<std::int16_t>::min();
-constexpr std::size_t kPositions = 1 << 16;
-
-std::size_t SlotOf(std::int32_t position) { return static_cast<std::size_t>(position - kLowest); }
-
-}  // namespace
 
 std::int16_t MoveSelectedItems(ListBox& Source, ListBox& Target) {
   const std::int16_t moved = Source.SelCount();
@@ -33,61 +25,29 @@ std::int16_t MoveSelectedItems(ListBox& Source, ListBox& Target) {
   return moved;
 }
 
-PositionInserter::PositionInserter(EntryWidget& widget, PositionOf positions, bool once)
-    : widget_(widget), positions_(std::move(positions)), once_(once) {
-  if (!positions_) return;
-  sums_.resize(kPositions + 1);
-  begins_.resize(kPositions);
-  bool any = false;
-  std::int32_t greatest = 0;
-  for (std::int16_t i = 0; i < widget_.ListCount(); ++i) {
-    if (const std::int32_t item = widget_.ItemData(i); item > 0) {
-      const std::int32_t position = positions_(item);
-      if (!any || position > greatest) greatest = position;
-      any = true;
-    }
-    if (any) {
-      CountEntry(greatest);
-    } else {
-      ++leading_;
-    }
+PositionInserter::PositionInserter(ComboBox& combo, PositionOf positions)
+    : combo_(combo), positions_(std::move(positions)) {
+  std::int32_t greatest = std::numeric_limits<std::int32_t>::min();
+  for (std::int16_t i = 0; i < combo_.ListCount(); ++i) {
+    if (const std::int32_t item = combo_.ItemData(i); item > 0) greatest = std::max<int>(greatest, positions_(item));
+    greatest_.push_back(greatest);
   }
 }
 
-std::int16_t PositionInserter::Insert(const Text& text, std::int32_t item) {
-  std::int16_t index = widget_.ListCount();
-  if (positions_) {
-    const std::int32_t position = positions_(item);
-    if (once_ && begins_[SlotOf(position)]) return EntriesUpTo(position - 1);
-    index = EntriesUpTo(position);
-    CountEntry(position);
-  }
-  widget_.AddItem(text, index);
-  widget_.ItemData(index, item);
-  return index;
+void PositionInserter::Insert(const Text& text, std::int32_t item) {
+  const std::int32_t position = positions_(item);
+  const auto behind = std::lower_bound(greatest_.begin(), greatest_.end(), position);
+  if (behind != greatest_.end() && *behind == position) return;
+  const auto index = static_cast<std::int16_t>(behind - greatest_.begin());
+  greatest_.insert(behind, position);
+  combo_.AddItem(text, index);
+  combo_.ItemData(index, item);
 }
 
-// The sums are a binary indexed tree: slot i holds the lengths of the i & -i slots that end with it.
-
-std::int16_t PositionInserter::EntriesUpTo(std::int32_t position) const {
-  std::int32_t entries = leading_;
-  for (std::size_t i = SlotOf(position + 1); i > 0; i &= i - 1) entries += sums_[i];
-  return static_cast<std::int16_t>(entries);
-}
-
-void PositionInserter::CountEntry(std::int32_t stretch) {
-  begins_[SlotOf(stretch)] = true;
-  for (std::size_t i = SlotOf(stretch) + 1; i <= kPositions; i += i & (~i + 1)) ++sums_[i];
-}
-
-std::int16_t ListInsertByPosition(ListBox& List, const Text& ItemText, std::int32_t ItemNumber,
-                                  const PositionOf& Items) {
-  return PositionInserter(List, Items).Insert(ItemText, ItemNumber);
-}
-
-std::int16_t ComboInsertByPosition(ComboBox& Combo, const Text& ItemText, std::int32_t ItemNumber,
-                                   const PositionOf& Items) {
-  return PositionInserter(Combo, Items).Insert(ItemText, ItemNumber);
+void AppendItem(EntryWidget& widget, const Text& text, std::int32_t item) {
+  const std::int16_t index = widget.ListCount();
+  widget.AddItem(text, index);
+  widget.ItemData(index, item);
 }
 
 void FilterDigitKey(std::int16_t& KeyAscii) {

@@ -23,35 +23,25 @@ PositionOf PositionsIn(const Collection& items) {
 /// @return how many there were.
 std::int16_t MoveSelectedItems(ListBox& Source, ListBox& Target);
 
-/// Places entries so that a list or combo box stays in the order of `Position`, each ahead of the first entry whose
-/// item has a greater one, in whatever order the entries stand. A list takes an equal position behind the others; a
-/// combo box takes each position once. As long as one lives, nothing else may change the entries or the positions.
-///
-/// It goes about it without a walk for every entry: the first one with a greater position is always the greatest up
-/// to itself, so the entries fall into stretches that each begin with a new greatest position.
+/// Places entries so that a combo box stays in the order of `Position`, each ahead of the first entry whose item has a
+/// greater one, in whatever order the entries stand. A position that the entry with the greatest one so far has is not
+/// taken again. As long as one lives, nothing else may change the entries or the positions.
 class PositionInserter {
  public:
-  /// @param positions none: entries are appended.
-  PositionInserter(ListBox& list, PositionOf positions) : PositionInserter(list, std::move(positions), false) {}
-  PositionInserter(ComboBox& combo, PositionOf positions) : PositionInserter(combo, std::move(positions), true) {}
+  PositionInserter(ComboBox& combo, PositionOf positions);
 
-  /// @return where the entry stands now, or the entry of a combo box that holds the position already.
-  std::int16_t Insert(const Text& text, std::int32_t item);
+  void Insert(const Text& text, std::int32_t item);
 
  private:
-  PositionInserter(EntryWidget& widget, PositionOf positions, bool once);
-
-  /// How many entries stand ahead of the first one whose position is greater.
-  std::int16_t EntriesUpTo(std::int32_t position) const;
-  void CountEntry(std::int32_t stretch);
-
-  EntryWidget& widget_;
+  ComboBox& combo_;
   PositionOf positions_;
-  bool once_;
-  std::int32_t leading_ = 0;        ///< entries ahead of the first stretch
-  std::vector<std::int32_t> sums_;  ///< partial sums of the lengths of the stretches, by their first position
-  std::vector<bool> begins_;        ///< by position: a stretch begins with it
+  /// By entry: the greatest position up to it, which ascends. The first entry with a greater one than another is always
+  /// where it rises above that.
+  std::vector<std::int32_t> greatest_;
 };
+
+/// Appends an entry for the item; for a number of 0 or less it stands for none.
+void AppendItem(EntryWidget& widget, const Text& text, std::int32_t item);
 
 /// The numbers of the printed items, by position and then by number. Entries that are inserted in this order end up
 /// where those in the order of the collection would, and each at the end of its list.
@@ -79,12 +69,6 @@ std::vector<std::int32_t> PrintedOncePerPosition(const Items& items) {
   numbers.erase(std::unique(numbers.begin(), numbers.end(), isSame), numbers.end());
   return numbers;
 }
-
-/// One entry by its position; see `PositionInserter` for many.
-std::int16_t ListInsertByPosition(ListBox& List, const Text& ItemText, std::int32_t ItemNumber,
-                                  const PositionOf& Items);
-std::int16_t ComboInsertByPosition(ComboBox& Combo, const Text& ItemText, std::int32_t ItemNumber,
-                                   const PositionOf& Items);
 
 inline std::int16_t BoolToCheck(bool Value) { return Value ? 1 : 0; }
 inline bool CheckToBool(std::int16_t Value) { return Value != 0; }

@@ -2,87 +2,36 @@
 
 #include <utility>
 
-#include "pages/ListRoutines.h"
-
 namespace ORXKMPrintProp {
 
-std::int16_t gCurChar = 0;
-std::int16_t gCurAttrChar = 0;
-std::int16_t gCurAttr = 0;
-std::int16_t gCurStr = 0;
-std::int16_t gCurStrElem = 0;
-
-Pages* Pages::active_ = nullptr;
-
 Pages::Pages(Dialog& dialog, PageEvents events)
-    : state_{dialog},
+    : state_{dialog, [this] { return IsReady(); },
+             [this] {
+               const std::weak_ptr<PrnPropCls> root = gPrnProp;
+               events_.OrderChanged();
+               return root.lock() == gPrnProp;
+             }},
       events_(std::move(events)),
       general_(state_),
       char_(state_),
       attr_(state_),
-      str_(state_),
-      printLists_(
-          state_, char_, [this](std::int16_t tab) { return ListPageOf(tab); },
-          [this] {
-            const std::weak_ptr<PrnPropCls> root = gPrnProp;
-            events_.OrderChanged();
-            if (root.lock() != gPrnProp) return false;
-            Activate();
-            return true;
-          }) {
-  Subscribe();
-}
-
-Pages::~Pages() {
-  if (active_ == this) active_ = nullptr;
-}
-
-const Pages::Routines* Pages::RoutinesOf(std::int16_t tab) {
-  static constexpr Routines kRoutines[] = {
-      {[](Pages& p) { p.general_.ShowGeneralPage(); }, [](Pages& p) { p.general_.StoreGeneralPage(); },
-       [](Pages& p) { p.general_.EnableGeneralPage(); }},
-      {[](Pages& p) { p.char_.ShowCharPage(); }, [](Pages& p) { p.char_.StoreCharPage(); },
-       [](Pages& p) { p.char_.EnableCharPage(); }},
-      {[](Pages& p) { p.attr_.ShowAttrPage(); }, [](Pages& p) { p.attr_.StoreAttrPage(); },
-       [](Pages& p) { p.attr_.EnableAttrPage(); }},
-      {[](Pages& p) { p.str_.ShowStrPage(); }, [](Pages& p) { p.str_.StoreStrPage(); },
-       [](Pages& p) { p.str_.EnableStrPage(); }},
-  };
-  return tab >= 0 && tab < SSTab::kTabs ? &kRoutines[tab] : nullptr;
-}
-
-ListPage* Pages::ListPageOf(std::int16_t tab) {
-  ListPage* const pages[] = {nullptr, &char_, &attr_, &str_};
-  return tab >= 0 && tab < SSTab::kTabs ? pages[tab] : nullptr;
-}
-
-void Pages::Activate() {
-  if (active_ == this) return;
-  if (active_) active_->selections_ = {gCurChar, gCurAttrChar, gCurAttr, gCurStr, gCurStrElem};
-  gCurChar = selections_.curChar;
-  gCurAttrChar = selections_.curAttrChar;
-  gCurAttr = selections_.curAttr;
-  gCurStr = selections_.curStr;
-  gCurStrElem = selections_.curStrElem;
-  active_ = this;
+      str_(state_) {
+  for (std::int16_t button = 0; button <= kTotalsRowButton; ++button) {
+    dialog.Get<CommandButton>(u"cmdPrintLayout", button).Click = [this, button] { PressLayout(button); };
+  }
 }
 
 bool Pages::IsReady() {
   if (!state_.loaded || !gPrnProp) return false;
-  Activate();
   if (filledFrom_.lock() == gPrnProp) return true;
   FillAllPages();
   return false;
 }
 
 void Pages::FillAllPages() {
-  Activate();
   filledFrom_ = gPrnProp;
-  printLists_.EndDrag();
   Fill([this] {
-    char_.ResetCharPage();
-    attr_.ResetAttrPage();
-    str_.ResetStrPage();
+    for (Page* const page : byTab_) page->ResetPage();
     ShowAllPages();
   });
 }
@@ -99,24 +48,17 @@ void Pages::Fill(Routine routine) {
 }
 
 void Pages::ShowAllPages() {
-  general_.ShowGeneralPage();
-  char_.ShowCharPage();
-  str_.ShowStrPage();
-  attr_.ShowAttrPage();
+  for (const std::int16_t tab : {kGeneralTab, kCharTab, kStrTab, kAttrTab}) PageOf(tab).ShowPage();
 }
 
 void Pages::StoreCurrentPage() {
-  if (!IsReady()) return;
-  if (const Routines* const page = RoutinesOf(state_.dialog.TabStrip().Tab())) page->store(*this);
+  if (IsReady()) PageOf(state_.dialog.TabStrip().Tab()).StorePage();
 }
 
 void Pages::ChangeTab(std::int16_t PreviousTab) {
-  if (IsReady()) {
-    if (const Routines* const page = RoutinesOf(PreviousTab)) page->store(*this);
-  }
-  if (!state_.loaded) return;
-  if (const Routines* const page = RoutinesOf(state_.dialog.TabStrip().Tab())) {
-    Fill([&] { page->show(*this); });
+  if (IsReady()) PageOf(PreviousTab).StorePage();
+  if (state_.loaded) {
+    Fill([&] { PageOf(state_.dialog.TabStrip().Tab()).ShowPage(); });
   }
 }
 
@@ -124,67 +66,16 @@ void Pages::SetReadOnly(bool readOnly) {
   if (readOnly == state_.mReadOnly) return;
   IsReady();
   state_.mReadOnly = readOnly;
-  for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) RoutinesOf(tab)->enable(*this);
+  for (Page* const page : byTab_) page->EnablePage();
 }
 
 void Pages::PressLayout(std::int16_t ButtonID) {
   Text name;
   if (ButtonID == kTotalsRowButton) {
-    if (!IsReady() || gCurChar < 1) return;
-    name = state_.Characteristics().Item(gCurChar)->Name();
+    if (!IsReady() || state_.curChar < 1) return;
+    name = state_.Characteristics().Item(state_.curChar)->Name();
   }
   events_.PrintLayoutGet(ButtonID, name);
-}
-
-void Pages::Subscribe() {
-  Dialog& dialog = state_.dialog;
-  const auto whenReady = [this](auto handler) {
-    return [this, handler] {
-      if (IsReady()) handler();
-    };
-  };
-
-  for (std::int16_t button = 0; button <= kTotalsRowButton; ++button) {
-    dialog.Get<CommandButton>(u"cmdPrintLayout", button).Click = [this, button] { PressLayout(button); };
-  }
-  for (std::int16_t tab = 1; tab < SSTab::kTabs; ++tab) {
-    ListPage& page = *ListPageOf(tab);
-    page.cmdLeftToRight.Click = whenReady([this, tab] { printLists_.LeftToRight(tab); });
-    page.cmdRightToLeft.Click = whenReady([this, tab] { printLists_.RightToLeft(tab); });
-    page.lstPrint.Click = whenReady([&page] { page.SelectionChanged(); });
-    const auto mouse = [this, tab](void (PrintLists::*handler)(std::int16_t, std::int16_t)) {
-      return [this, tab, handler](std::int16_t button) {
-        if (IsReady()) (printLists_.*handler)(tab, button);
-      };
-    };
-    page.lstPrint.MouseDown = mouse(&PrintLists::MouseDown);
-    page.lstPrint.MouseMove = mouse(&PrintLists::MouseMove);
-    page.lstPrint.MouseUp = mouse(&PrintLists::MouseUp);
-  }
-
-  dialog.Get<ComboBox>(u"cmbCharQueryBreak").Click = whenReady([this] { char_.Breaks().OnQueryBreak(); });
-  dialog.Get<ComboBox>(u"cmbCharPageBreak").Click = whenReady([this] { char_.Breaks().OnPageBreak(); });
-  char_.chkCharHierDisplay.Click = whenReady([this] { char_.OnHierDisplay(); });
-  attr_.cmbAttrChar.Click = whenReady([this] { attr_.AttrCharChanged(); });
-  str_.lstStrStructures.Click = whenReady([this] { str_.StructureChanged(); });
-  str_.chkStrColAutoWidth.Click = whenReady([this] {
-    if (gCurStr != -1 && gCurStrElem != -1) str_.OnAutoWidth();
-  });
-
-  const auto subscribe = [&](ColumnFrame& columns, auto isShown) {
-    columns.cmbPresentation.Click = whenReady([&columns] { columns.OnPresentation(); });
-    columns.chkColAutoWidth.Click = whenReady([&columns, isShown] {
-      if (isShown()) columns.OnAutoWidth();
-    });
-  };
-  subscribe(char_.Columns(), [] { return gCurChar != -1; });
-  subscribe(attr_.Columns(), [] { return gCurAttrChar != -1 && gCurAttr != -1; });
-
-  for (const auto& name : {u"txtGenMarginTop", u"txtGenMarginBottom", u"txtGenMarginLeft", u"txtGenMarginRight",
-                           u"txtGenMaxPages", u"txtCharHierLevel", u"txtCharColWidth1", u"txtCharColWidth2",
-                           u"txtAttrColWidth1", u"txtAttrColWidth2", u"txtStrColWidth"}) {
-    dialog.Get<TextBox>(name).KeyPress = ModPrnGen::FilterDigitKey;
-  }
 }
 
 }  // namespace ORXKMPrintProp

@@ -1,44 +1,54 @@
 #include "pages/StrPage.h"
 
-#include <initializer_list>
-
-#include "pages/Fields.h"
+#include "pages/ListRoutines.h"
 
 namespace ORXKMPrintProp {
+namespace {
+
+using E = PrnStrElemCls;
+constexpr FieldOf<E> kFields[] = {
+    PropertyField<E, &E::ColTitle, TextField>(u"txtStrColTitle"),
+    PropertyField<E, &E::ColAlign, ChoiceField>(u"cmbStrColAlign"),
+    PropertyField<E, &E::ColAutoWidth, FlagField>(u"chkStrColAutoWidth"),
+};
+constexpr FieldOf<E> kWidths[] = {PropertyField<E, &E::ColWidth, LeadingNumberField>(u"txtStrColWidth")};
+
+}  // namespace
 
 StrPage::StrPage(PageState& state)
-    : ListPage(state, 3, gCurStrElem),
+    : ListPage(state, kStrTab, state.curStrElem),
       lstStrStructures(state.dialog.Get<ListBox>(u"lstStrStructures")),
       chkStrColAutoWidth(state.dialog.Get<CheckBox>(u"chkStrColAutoWidth")),
-      txtStrColTitle(state.dialog.Get<TextBox>(u"txtStrColTitle")),
-      cmbStrColAlign(state.dialog.Get<ComboBox>(u"cmbStrColAlign")),
-      txtStrColWidth(state.dialog.Get<TextBox>(u"txtStrColWidth")),
-      autoWidth_(state, chkStrColAutoWidth, {&txtStrColWidth}, [this] {
-        const auto element = Shown();
-        return element ? std::vector{element->ColWidth()} : std::vector<std::int16_t>();
-      }) {}
+      fields_(state.dialog, kFields),
+      autoWidth_(state, chkStrColAutoWidth, {state.dialog, kWidths}, [this] { return Shown(); }) {
+  lstStrStructures.Click = state.WhenReady([this] { StructureChanged(); });
+  chkStrColAutoWidth.Click = state.WhenReady([this] {
+    if (state_.curStr != -1 && state_.curStrElem != -1) autoWidth_.Follow();
+  });
+}
 
 PrnStructureCls& StrPage::Structure() const {
-  return gCurStr == 1 ? state_.Root().Structure1() : state_.Root().Structure2();
+  return state_.curStr == 1 ? state_.Root().Structure1() : state_.Root().Structure2();
 }
 
 Collection<PrnItemRef> StrPage::Items() const { return ItemsOf(Structure().Elements()); }
 
 std::shared_ptr<PrnStrElemCls> StrPage::Shown() const {
-  const bool isStructure = gCurStr == 1 || gCurStr == 2;
-  return isStructure && gCurStrElem > 0 ? Structure().Elements().Item(gCurStrElem) : nullptr;
+  const bool isStructure = state_.curStr == 1 || state_.curStr == 2;
+  return isStructure && state_.curStrElem > 0 ? Structure().Elements().Item(state_.curStrElem) : nullptr;
 }
 
-void StrPage::ResetStrPage() {
-  gCurStr = gCurStrElem = -1;
+void StrPage::ResetPage() {
+  ListPage::ResetPage();
+  state_.curStr = state_.curStrElem = -1;
   lstStrStructures.Clear();
   ClearLists();
   Blank();
-  EnableAll(!state_.mReadOnly);
-  gCurStr = gCurStrElem = 0;
+  Enable(!state_.mReadOnly);
+  state_.curStr = state_.curStrElem = 0;
 }
 
-void StrPage::ShowStrPage() {
+void StrPage::ShowPage() {
   lstStrStructures.Clear();
   ClearLists();
   Offer(state_.Root().Structure1(), 1);
@@ -47,56 +57,45 @@ void StrPage::ShowStrPage() {
 
 void StrPage::Offer(const PrnStructureCls& structure, std::int16_t number) {
   if (structure.Name().empty()) return;
-  ModPrnGen::ListInsertByPosition(lstStrStructures, structure.Text(), number, nullptr);
+  ModPrnGen::AppendItem(lstStrStructures, structure.Text(), number);
   if (lstStrStructures.ListCount() > 1) return;
-  gCurStr = gCurStrElem = -1;
+  state_.curStr = state_.curStrElem = -1;
   lstStrStructures.ListIndex(0);
 }
 
 void StrPage::StructureChanged() {
-  OwnerChanged(static_cast<std::int16_t>(lstStrStructures.ItemData(lstStrStructures.ListIndex())), gCurStr);
+  OwnerChanged(static_cast<std::int16_t>(lstStrStructures.ItemData(lstStrStructures.ListIndex())), state_.curStr);
 }
 
 void StrPage::ShowProps() {
   const auto element = Shown();
   if (!element) Blank();
-  EnableAll(element && !state_.mReadOnly);
+  Enable(element && !state_.mReadOnly);
   if (!element) return;
-  Show(txtStrColTitle, element->ColTitle());
-  Show(cmbStrColAlign, element->ColAlign());
-  autoWidth_.Show(element->ColAutoWidth());
+  fields_.Show(*element);
+  autoWidth_.Follow();
 }
 
-void StrPage::Blank() {
-  txtStrColTitle.SetText({});
-  cmbStrColAlign.ListIndex(-1);
-  autoWidth_.Blank();
+void StrPage::Blank() const {
+  fields_.Blank();
+  autoWidth_.Widths().Blank();
 }
 
-void StrPage::EnableAll(bool enabled) {
-  for (Widget* const widget :
-       std::initializer_list<Widget*>{&txtStrColTitle, &cmbStrColAlign, &chkStrColAutoWidth, &txtStrColWidth}) {
-    widget->Enabled(enabled);
-  }
+void StrPage::Enable(bool enabled) const {
+  fields_.Enable(enabled);
+  autoWidth_.Widths().Enable(enabled);
 }
 
 void StrPage::StoreProps() {
   const auto element = Shown();
   if (!element) return;
-  Store(txtStrColTitle, element->ColTitle);
-  Store(cmbStrColAlign, element->ColAlign);
-  Store(chkStrColAutoWidth, element->ColAutoWidth);
-  StoreLeading(txtStrColWidth, element->ColWidth);
+  fields_.Store(*element);
+  autoWidth_.Widths().Store(*element);
 }
 
-void StrPage::StoreStrPage() {
-  StoreOrder();
-  StoreProps();
-}
-
-void StrPage::EnableStrPage() {
+void StrPage::EnablePage() {
   EnableLists();
-  EnableAll(state_.loaded && gCurStrElem != -1 && !state_.mReadOnly);
+  Enable(state_.loaded && state_.curStrElem != -1 && !state_.mReadOnly);
 }
 
 }  // namespace ORXKMPrintProp

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "pages/ColumnFrame.h"
+#include <memory>
+
+#include "pages/AutoWidth.h"
 #include "pages/ListPage.h"
 
 namespace ORXKMPrintProp {
@@ -15,37 +17,28 @@ class StrPage : public ListPage {
  public:
   explicit StrPage(PageState& state);
 
-  /// Back to what the page is at control start.
-  void ResetStrPage();
-  void ShowStrPage();
-  void StoreStrPage();
-  void EnableStrPage();
-
-  void StoreOrder() override { StoreItemOrder(); }
-
-  void StructureChanged();
-  void OnAutoWidth() { autoWidth_.Follow(); }
-
-  ListBox& lstStrStructures;
-  CheckBox& chkStrColAutoWidth;
+  void ResetPage() override;
+  void ShowPage() override;
+  void EnablePage() override;
 
  private:
   Collection<PrnItemRef> Items() const override;
   void StoreProps() override;
   void ShowProps() override;
+  void StructureChanged();
 
   /// The structure that is shown: the first for 1, the second for any other number.
   PrnStructureCls& Structure() const;
   /// The element whose settings are shown, or none.
   std::shared_ptr<PrnStrElemCls> Shown() const;
   void Offer(const PrnStructureCls& structure, std::int16_t number);
-  void Blank();
-  void EnableAll(bool enabled);
+  void Blank() const;
+  void Enable(bool enabled) const;
 
-  TextBox& txtStrColTitle;
-  ComboBox& cmbStrColAlign;
-  TextBox& txtStrColWidth;
-  AutoWidth autoWidth_;
+  ListBox& lstStrStructures;
+  CheckBox& chkStrColAutoWidth;
+  Fields<PrnStrElemCls> fields_;  ///< all but the width
+  AutoWidth<PrnStrElemCls> autoWidth_;
 };
 
 }  // namespace ORXKMPrintProp
