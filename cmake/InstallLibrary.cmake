@@ -1,21 +1,21 @@
 # What a program needs that is built against the library: headers, the archive, and how CMake and pkg-config find them.
 include(CMakePackageConfigHelpers)
+include(${PROJECT_SOURCE_DIR}/cmake/InstallHeaders.cmake)
 
-set(package_headers ${CMAKE_INSTALL_INCLUDEDIR}/ORXKMPrintProp)
 set(package_cmake ${CMAKE_INSTALL_LIBDIR}/cmake/ORXKMPrintProp)
 set(package_pkgconfig ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
-install(DIRECTORY tables texts model dialog pages control DESTINATION ${package_headers} FILES_MATCHING PATTERN "*.h")
+orxkmprintprop_install_headers(tables texts model dialog control)
 install(
   TARGETS Control
   EXPORT ORXKMPrintPropTargets
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  INCLUDES DESTINATION ${package_headers})
+  INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
 install(EXPORT ORXKMPrintPropTargets NAMESPACE ORXKMPrintProp:: DESTINATION ${package_cmake})
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/ORXKMPrintPropConfig.cmake.in ORXKMPrintPropConfig.cmake
                               INSTALL_DESTINATION ${package_cmake})
-write_basic_package_version_file(ORXKMPrintPropConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+write_basic_package_version_file(ORXKMPrintPropConfigVersion.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ORXKMPrintPropConfig.cmake
               ${CMAKE_CURRENT_BINARY_DIR}/ORXKMPrintPropConfigVersion.cmake DESTINATION ${package_cmake})
 

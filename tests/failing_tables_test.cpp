@@ -33,7 +33,7 @@ struct Realistic : host::SettingsDocument {
     watch->failAt = operation;
     try {
       action();
-    } catch (const RunTimeError& error) {
+    } catch (const WatchFailure& error) {
       return ToAscii(error.Message());
     }
     return "none";

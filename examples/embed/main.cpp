@@ -3,10 +3,10 @@
 #include <iostream>
 #include <set>
 
-#include "control/ORXQueryPrnProp.h"
-#include "model/PrnPropCls.h"
-#include "tables/Conversions.h"
-#include "tables/MemoryTable.h"
+#include "ORXKMPrintProp/control/ORXQueryPrnProp.h"
+#include "ORXKMPrintProp/model/PrnPropCls.h"
+#include "ORXKMPrintProp/tables/Conversions.h"
+#include "ORXKMPrintProp/tables/MemoryTable.h"
 
 using namespace ORXKMPrintProp;
 

@@ -12,8 +12,6 @@
 
 namespace ORXKMPrintProp {
 
-thread_local bool gTabSetup = false;
-
 namespace {
 
 /// As variants compare: numbers of any type by their value, and a text equals no number.
@@ -76,7 +74,7 @@ bool ORXQueryPrnProp::ORXSetPrnTables(TableRef GenPropTable, TableRef DimTable, 
   // Held, since a table may load other settings from inside an operation.
   const auto root = std::make_shared<PrnPropCls>();
   gPrnProp = root;
-  const bool loaded = root->FromTable(GenPropTable, DimTable, MemTable, AtrTable);
+  const bool loaded = root->FromTable(*GenPropTable, *DimTable, *MemTable, *AtrTable);
 
   mGenPropTable = std::move(GenPropTable);
   mDimTable = std::move(DimTable);
@@ -95,9 +93,9 @@ TableRef ORXQueryPrnProp::ReadBack(const TableRef ORXQueryPrnProp::*table) {
   const std::shared_ptr<PrnPropCls> root = gPrnProp;
   // The fields may change under the call: a table may load other settings from inside an operation.
   const TableRef asked = this->*table;
-  const bool written =
-      root->ToTable(TableRef(mGenPropTable), TableRef(mDimTable), TableRef(mMemTable), TableRef(mAtrTable));
-  return written ? asked : nullptr;
+  const TableRef general = mGenPropTable, dimension = mDimTable, member = mMemTable, attribute = mAtrTable;
+  root->ToTable(*general, *dimension, *member, *attribute);
+  return asked;
 }
 
 TableRef ORXQueryPrnProp::ORXGenPropTable() { return ReadBack(&ORXQueryPrnProp::mGenPropTable); }

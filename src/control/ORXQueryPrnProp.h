@@ -27,8 +27,11 @@ class ORXQueryPrnPropEvents {
 /// The control: takes the print settings of one query as four tables, lets the user edit them on a dialog of four
 /// pages, and hands the same tables back, rewritten.
 ///
-/// Everything happens on the caller's thread. An operation that fails throws RunTimeError: an error of a table
-/// object, a cell that does not convert. The model lives in `gPrnProp`, shared by all controls of the program.
+/// A control belongs to the thread that has made it: every operation, event and call on a table happens there, and it
+/// ends there. The model lives in `gPrnProp`, shared by all controls of a thread; it outlives them, until the thread
+/// ends or `ReleaseSharedValues`. Controls of different threads share nothing.
+///
+/// An operation that fails throws RunTimeError: an error of a table object, as it came, or a cell that does not convert.
 class ORXQueryPrnProp {
  public:
   /// The dialog opens on the General page, with the captions stored with the form.

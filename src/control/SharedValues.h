@@ -1,7 +1,9 @@
 #pragma once
 
-// The values that exist once for the whole program, not once per control. Each is declared in the folder that
-// gives it its meaning; two live controls share them all, and the last load wins for both.
+// The values that exist once for each thread that uses controls, not once per control. Each is declared in the folder
+// that gives it its meaning; two live controls of a thread share them all, and the last load wins for both.
+
+#include <memory>
 
 #include "dialog/DialogFont.h"  // IWYU pragma: export  gDefaultFontName
 #include "model/PrnPropCls.h"   // IWYU pragma: export  gPrnProp, gErrorText, gAttrRowIndex
@@ -11,5 +13,25 @@ namespace ORXKMPrintProp {
 
 /// While True, tab changes are ignored: a control is being started.
 extern thread_local bool gTabSetup;
+
+/// Releases the model and the host's text table, for a host that ends: its objects must not outlive it. Controls that
+/// are still there count as before their first load until the next one.
+void ReleaseSharedValues();
+
+/// As long as one lives, the thread has no model and no text table; afterwards it has those that it had before. For a
+/// control that a host makes only to look something up: made and ended within, it does not touch what others show.
+class SharedValuesGuard {
+ public:
+  SharedValuesGuard();
+  SharedValuesGuard(const SharedValuesGuard&) = delete;
+  SharedValuesGuard& operator=(const SharedValuesGuard&) = delete;
+  ~SharedValuesGuard();
+
+ private:
+  std::shared_ptr<PrnPropCls> root_;
+  std::shared_ptr<AttrRowIndex> attrRowIndex_;
+  TableRef textTable_;
+  Text errorText_;
+};
 
 }  // namespace ORXKMPrintProp

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <span>
 #include <utility>
 
@@ -78,6 +81,15 @@ constexpr ColumnOf<Class> PropertyColumn(TextView name, Direction direction = Di
     column.write = [](const Class& object) { return Cell::Write((object.*Member)()); };
   }
   return column;
+}
+
+/// The tables behind one another.
+template <class Class, std::size_t... Sizes>
+constexpr auto Joined(const std::array<ColumnOf<Class>, Sizes>&... tables) {
+  std::array<ColumnOf<Class>, (Sizes + ...)> joined{};
+  auto next = joined.begin();
+  ((next = std::copy(tables.begin(), tables.end(), next)), ...);
+  return joined;
 }
 
 /// A column that is written only, always with this text.

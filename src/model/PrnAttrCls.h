@@ -16,19 +16,19 @@ class PrnAttrCls : public PrnColumnsCls {
   /// The columns of an attribute row but for `IOBJNM`, which names the characteristic and is written first.
   static ColumnsOf<PrnAttrCls> Columns();
 
-  bool FromTable(const RowRef& AttrRow);
-  bool ToTable(const RowRef& AttrRow, TextView CharIObjName) const;
+  void FromTable(const Row& AttrRow);
+  void ToTable(Row& AttrRow, TextView CharIObjName) const;
 };
 
 /// The attributes of one characteristic, in the order of their rows in the attribute table.
 class PrnAttrCollCls : public CollCls<PrnAttrCls> {
  public:
   /// Reads the run of rows that `gAttrRowIndex` has for the cell `IOBJNM` of `ChaRow`; fills that index first if it
-  /// is still empty. False when the characteristic has no run: the collection stays empty.
+  /// is still empty. Without a run the collection stays empty.
   /// @throws RunTimeError (KeyExists) when a name starts a second run; the message tells the name and the row.
-  bool FromTable(const RowRef& ChaRow, const TableRef& it_atr);
+  void FromTable(const Row& ChaRow, Table& it_atr);
   /// Appends one row per attribute.
-  bool ToTable(const TableRef& it_atr, TextView CharIObjName) const;
+  void ToTable(Table& it_atr, TextView CharIObjName) const;
 };
 
 /// Where each characteristic's run of rows begins in the attribute table: row number by the text of `IOBJNM`.

@@ -34,8 +34,8 @@ class PrnCharCls : public PrnColumnsCls {
   static ColumnsOf<PrnCharCls> Columns();
 
   /// Reads the row, then the characteristic's attribute rows; to have none is no failure.
-  bool FromTable(const RowRef& ChaRow, const TableRef& it_atr);
-  bool ToTable(const RowRef& DimRow, const TableRef& it_atr) const;
+  void FromTable(const Row& ChaRow, Table& it_atr);
+  void ToTable(Row& DimRow, Table& it_atr) const;
 
  private:
   PrnAttrCollCls attributes_;
@@ -45,10 +45,10 @@ class PrnCharCls : public PrnColumnsCls {
 class PrnCharCollCls : public CollCls<PrnCharCls> {
  public:
   /// @param StrIndex1, StrIndex2 become the numbers of the first and the second structure row, -1 for none. A
-  /// further structure row is passed over and told in `gErrorText`; the result is True all the same.
-  bool FromTable(const TableRef& it_dim, const TableRef& it_atr, std::int16_t& StrIndex1, std::int16_t& StrIndex2);
+  /// further structure row is passed over, with words in `gErrorText`.
+  void FromTable(Table& it_dim, Table& it_atr, std::int16_t& StrIndex1, std::int16_t& StrIndex2);
   /// Appends one row per characteristic, and each one's attribute rows as one run.
-  bool ToTable(const TableRef& it_dim, const TableRef& it_atr) const;
+  void ToTable(Table& it_dim, Table& it_atr) const;
 };
 
 /// Shared: the words of the last load failure. No operation hands it out.

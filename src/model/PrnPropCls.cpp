@@ -51,32 +51,30 @@ const Text& PrnPropCls::FBLayout(std::int16_t Index) const { return layouts_[Lay
 
 ColumnsOf<PrnPropCls> PrnPropCls::Columns() { return kColumns; }
 
-bool PrnPropCls::FromTable(const TableRef& GenPropTable, const TableRef& DimTable, const TableRef& MemTable,
-                           const TableRef& AtrTable) {
+bool PrnPropCls::FromTable(Table& GenPropTable, Table& DimTable, Table& MemTable, Table& AtrTable) {
   gAttrRowIndex = std::make_shared<AttrRowIndex>();
-  if (GenPropTable->RowCount() != 1) {
+  if (GenPropTable.RowCount() != 1) {
     gErrorText = u"Table with general print properties GenPropTable must have exactly one row.";
     return false;
   }
-  ReadRow(Columns(), u"GenPropTable", *RowAt(*GenPropTable, 1), *this);
+  ReadRow(Columns(), u"GenPropTable", *RowAt(GenPropTable, 1), *this);
 
   std::int16_t StrIndex1 = -1;
   std::int16_t StrIndex2 = -1;
-  if (!characteristics_.FromTable(DimTable, AtrTable, StrIndex1, StrIndex2)) return false;
-  if (StrIndex1 != -1 && !structure1_.FromTable(RowAt(*DimTable, StrIndex1), MemTable)) return false;
-  if (StrIndex2 != -1) return structure2_.FromTable(RowAt(*DimTable, StrIndex2), MemTable);
+  characteristics_.FromTable(DimTable, AtrTable, StrIndex1, StrIndex2);
+  if (StrIndex1 != -1) structure1_.FromTable(*RowAt(DimTable, StrIndex1), MemTable);
+  if (StrIndex2 != -1) structure2_.FromTable(*RowAt(DimTable, StrIndex2), MemTable);
   return true;
 }
 
-bool PrnPropCls::ToTable(const TableRef& GenPropTable, const TableRef& DimTable, const TableRef& MemTable,
-                         const TableRef& AtrTable) const {
-  for (const TableRef& table : {GenPropTable, DimTable, MemTable, AtrTable}) RowsOf(*table)->RemoveAll();
+void PrnPropCls::ToTable(Table& GenPropTable, Table& DimTable, Table& MemTable, Table& AtrTable) const {
+  for (Table* const table : {&GenPropTable, &DimTable, &MemTable, &AtrTable}) RowsOf(*table)->RemoveAll();
 
-  WriteRow(Columns(), *this, *AddRow(*GenPropTable));
-  if (!characteristics_.ToTable(DimTable, AtrTable)) return false;
-  if (!structure1_.Name().empty() && !structure1_.ToTable(AddRow(*DimTable), MemTable)) return false;
-  if (!structure2_.Name().empty()) return structure2_.ToTable(AddRow(*DimTable), MemTable);
-  return true;
+  WriteRow(Columns(), *this, *AddRow(GenPropTable));
+  characteristics_.ToTable(DimTable, AtrTable);
+  for (const PrnStructureCls* const structure : {&structure1_, &structure2_}) {
+    if (!structure->Name().empty()) structure->ToTable(*AddRow(DimTable), MemTable);
+  }
 }
 
 }  // namespace ORXKMPrintProp

@@ -52,13 +52,11 @@ class PrnPropCls {
   /// Fills a new root; once only. The tables are read, not changed.
   /// @return False for a general table that has not exactly one row, with the words in `gErrorText`.
   /// @throws RunTimeError from a table, or from a cell that does not convert. What has been read stays.
-  bool FromTable(const TableRef& GenPropTable, const TableRef& DimTable, const TableRef& MemTable,
-                 const TableRef& AtrTable);
+  bool FromTable(Table& GenPropTable, Table& DimTable, Table& MemTable, Table& AtrTable);
 
   /// Empties the four tables and writes them anew; the model does not change.
   /// @throws RunTimeError from a table. What has been written stays.
-  bool ToTable(const TableRef& GenPropTable, const TableRef& DimTable, const TableRef& MemTable,
-               const TableRef& AtrTable) const;
+  void ToTable(Table& GenPropTable, Table& DimTable, Table& MemTable, Table& AtrTable) const;
 
  private:
   std::array<Text, 4> layouts_;

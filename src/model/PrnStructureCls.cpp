@@ -33,34 +33,26 @@ constexpr ColumnOf<S> kStructureColumns[] = {
 
 ColumnsOf<PrnStrElemCls> PrnStrElemCls::Columns() { return kElementColumns; }
 
-bool PrnStrElemCls::FromTable(const RowRef& StrElemRow) {
-  ReadRow(Columns(), u"it_mem", *StrElemRow, *this);
-  return true;
+void PrnStrElemCls::FromTable(const Row& StrElemRow) { ReadRow(Columns(), u"it_mem", StrElemRow, *this); }
+
+void PrnStrElemCls::ToTable(Row& StrElemRow, TextView StrIObjName) const {
+  StrElemRow.Value(kOwner, ORXKMPrintProp::Text(StrIObjName));
+  WriteRow(Columns(), *this, StrElemRow);
 }
 
-bool PrnStrElemCls::ToTable(const RowRef& StrElemRow, TextView StrIObjName) const {
-  StrElemRow->Value(kOwner, ORXKMPrintProp::Text(StrIObjName));
-  WriteRow(Columns(), *this, *StrElemRow);
-  return true;
-}
-
-bool PrnStrElemCollCls::FromTable(const RowRef& StrRow, const TableRef& it_mem) {
-  const Text structure = ToText(StrRow->Value(kOwner));
-  const auto rows = EachRow(*it_mem);
+void PrnStrElemCollCls::FromTable(const Row& StrRow, Table& it_mem) {
+  const Text structure = ToText(StrRow.Value(kOwner));
+  const auto rows = EachRow(it_mem);
   while (const RowRef row = rows->Next()) {
     if (ToText(row->Value(kOwner)) != structure) continue;
     auto element = std::make_shared<PrnStrElemCls>();
-    if (!element->FromTable(row)) return false;
+    element->FromTable(*row);
     AddItemAsObj(std::move(element));
   }
-  return true;
 }
 
-bool PrnStrElemCollCls::ToTable(const TableRef& it_mem, TextView StrIObjName) const {
-  for (const auto& element : *this) {
-    if (!element->ToTable(AddRow(*it_mem), StrIObjName)) return false;
-  }
-  return true;
+void PrnStrElemCollCls::ToTable(Table& it_mem, TextView StrIObjName) const {
+  for (const auto& element : *this) element->ToTable(*AddRow(it_mem), StrIObjName);
 }
 
 PrnStrElemCollCls::ItemRef PrnStrElemCollCls::Add(const Text& Name, const Text& UID, bool Hidden, std::int16_t Position,
@@ -81,16 +73,14 @@ PrnStrElemCollCls::ItemRef PrnStrElemCollCls::Add(const Text& Name, const Text& 
 
 ColumnsOf<PrnStructureCls> PrnStructureCls::Columns() { return kStructureColumns; }
 
-bool PrnStructureCls::FromTable(const RowRef& StrRow, const TableRef& it_mem) {
-  ReadRow(Columns(), u"it_dim", *StrRow, *this);
+void PrnStructureCls::FromTable(const Row& StrRow, Table& it_mem) {
+  ReadRow(Columns(), u"it_dim", StrRow, *this);
   elements_.FromTable(StrRow, it_mem);
-  return true;
 }
 
-bool PrnStructureCls::ToTable(const RowRef& StrRow, const TableRef& it_mem) const {
-  WriteRow(Columns(), *this, *StrRow);
+void PrnStructureCls::ToTable(Row& StrRow, Table& it_mem) const {
+  WriteRow(Columns(), *this, StrRow);
   elements_.ToTable(it_mem, Name());
-  return true;
 }
 
 }  // namespace ORXKMPrintProp

@@ -22,17 +22,17 @@ class PrnStrElemCls : public PrnItemCls {
   /// The columns of a member row but for `IOBJNM`, which names the structure and is written first.
   static ColumnsOf<PrnStrElemCls> Columns();
 
-  bool FromTable(const RowRef& StrElemRow);
-  bool ToTable(const RowRef& StrElemRow, TextView StrIObjName) const;
+  void FromTable(const Row& StrElemRow);
+  void ToTable(Row& StrElemRow, TextView StrIObjName) const;
 };
 
 /// The elements of one structure, in the order of their rows in the member table.
 class PrnStrElemCollCls : public CollCls<PrnStrElemCls> {
  public:
   /// Reads the rows whose `IOBJNM` is that of `StrRow`; they may stand anywhere in the table.
-  bool FromTable(const RowRef& StrRow, const TableRef& it_mem);
+  void FromTable(const Row& StrRow, Table& it_mem);
   /// Appends one row per element.
-  bool ToTable(const TableRef& it_mem, TextView StrIObjName) const;
+  void ToTable(Table& it_mem, TextView StrIObjName) const;
 
   /// Makes and appends an element, under `sKey` unless that is empty. `Text` stays empty.
   /// @throws RunTimeError (KeyExists) when the key is there already; nothing is added then.
@@ -57,8 +57,8 @@ class PrnStructureCls {
   /// The cells of a structure row of the dimension table.
   static ColumnsOf<PrnStructureCls> Columns();
 
-  bool FromTable(const RowRef& StrRow, const TableRef& it_mem);
-  bool ToTable(const RowRef& StrRow, const TableRef& it_mem) const;
+  void FromTable(const Row& StrRow, Table& it_mem);
+  void ToTable(Row& StrRow, Table& it_mem) const;
 
  private:
   PrnStrElemCollCls elements_;

@@ -8,8 +8,13 @@
 namespace ORXKMPrintProp {
 
 // What the control needs of a host's table object. The control creates no table and no column: it reads rows,
-// empties tables, appends rows and sets cells. An operation that fails throws RunTimeError (kind Table for the
-// table's own failures); the error leaves the public operation that the host called.
+// empties tables, appends rows and sets cells.
+//
+// - An operation that fails throws RunTimeError, of kind Table where nothing else fits, or what derives from it: the
+//   very object leaves the public operation that the host called.
+// - A table is called on the thread that has handed it in, and may call the control back from inside an operation.
+// - The control holds tables until others take their place or it ends, the text table until `ORXControlTexts` takes
+//   another or `ReleaseSharedValues`; rows, lists and columns no longer than the call in which it has asked for them.
 
 /// One cell per column. Wherever a row comes from (`Rows`, `Add`, `Item`, the enumeration), this is its interface.
 class Row {

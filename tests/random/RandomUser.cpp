@@ -55,7 +55,7 @@ std::vector<int> NumbersIn(const EntryWidget& widget) {
 
 Settings Written() {
   Settings written("", "", "", "");
-  gPrnProp->ToTable(written.gen, written.dim, written.mem, written.atr);
+  gPrnProp->ToTable(*written.gen, *written.dim, *written.mem, *written.atr);
   return written;
 }
 

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "support/table_text.h"
-#include "tables/RunTimeError.h"
 
 namespace ORXKMPrintProp::test {
 namespace {
@@ -93,7 +92,7 @@ class WatchedTable : public Seen<Table> {
 
 void Watch::Note(const std::string& call) {
   calls.push_back(call);
-  if (calls.size() == failAt) throw RunTimeError(ErrorKind::Table, Wide(call));
+  if (calls.size() == failAt) throw WatchFailure(ErrorKind::Table, Wide(call));
 }
 
 TableRef Watched(std::string name, TableRef table, std::shared_ptr<Watch> watch) {
