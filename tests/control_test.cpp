@@ -143,5 +143,33 @@ TEST(Control, MakesTheTextTablesKeyItsKeyColumn) {
   gTextTable.reset();
 }
 
+TEST(SharedValues, AreSetAsideForALookUpAndReleasedAtAnEnd) {
+  const auto texts = MemoryTable::Create({u"TARGETID", u"CAPTION"});
+  const Settings settings("IOBJNM='A' AXIS='Y'"), other("IOBJNM='B' AXIS='Y'");
+  ORXQueryPrnProp control;
+  control.ORXControlTexts(texts);
+  settings.LoadInto(control);
+  control.GetDialog().TabStrip().UserPick(kCharTab);
+  control.GetDialog().Get<TextBox>(u"txtCharColTitle").UserEdit(u"typed");
+  gErrorText = u"said before";
+  {
+    const SharedValuesGuard guard;
+    EXPECT_FALSE(gPrnProp || gTextTable || !gErrorText.empty());
+    ORXQueryPrnProp lookUp;
+    other.LoadInto(lookUp);
+    EXPECT_EQ(lookUp.ORXDimTable(), other.dim);
+    Settings("", "", "", "").LoadInto(lookUp);
+  }
+  EXPECT_EQ(gErrorText, u"said before");
+  control.ORXGenPropTable();
+  EXPECT_EQ(settings.Brief(),
+            "general:\nTITLE='T'\ndimension:\nIOBJNM='A' POSIT=1 AXIS='Y' PR_COL1_HEADER='typed' "
+            "PR_COL2_HEADER='typed'\nmember:\nattribute:\n");
+
+  ReleaseSharedValues();
+  EXPECT_EQ(texts.use_count(), 1);
+  EXPECT_EQ(control.ORXDimTable(), nullptr);
+}
+
 }  // namespace
 }  // namespace ORXKMPrintProp::test
