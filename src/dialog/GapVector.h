@@ -7,7 +7,7 @@
 
 namespace ORXKMPrintProp {
 
-/// A sequence in which inserting and erasing next to the place of the last change costs no more than at the end:
+/// A sequence in which inserting and taking next to the place of the last change costs no more than at the end:
 /// the room for new elements is a gap that moves to where it is needed.
 template <class T>
 class GapVector {
@@ -24,13 +24,11 @@ class GapVector {
     slots_[gapBegin_++] = std::move(value);
   }
 
-  void Erase(std::size_t place) {
-    if (place + 1 == gapBegin_) {
-      slots_[--gapBegin_] = T();
-    } else {
-      MoveGap(place);
-      slots_[gapEnd_++] = T();
-    }
+  /// Takes the element out. The next insertion needs no memory.
+  T Take(std::size_t place) {
+    if (place + 1 == gapBegin_) return std::exchange(slots_[--gapBegin_], T());
+    MoveGap(place);
+    return std::exchange(slots_[gapEnd_++], T());
   }
 
   void Clear() {

@@ -33,16 +33,25 @@ void EntryWidget::AddItem(Text text, std::optional<std::int16_t> index) {
   entry->text = std::move(text);
   // At its sorted place an entry is the greatest up to there, and no greatest one behind it changes.
   entry->greatest = entry.get();
-  ranked_ = toSortedPlace ? ranked_ + 1 : std::min(ranked_, place);
-  entries_.Insert(place, std::move(entry));
-  newIndex_ = static_cast<std::int16_t>(place);
-  if (IndexFollowsEntry() && listIndex_ >= newIndex_) ++listIndex_;
-  context_.view->EntryAdded(*this, newIndex_);
+  const std::size_t ranked = toSortedPlace ? ranked_ + 1 : std::min(ranked_, place);
+  Put(place, std::move(entry));
+  ranked_ = ranked;
 }
 
-void EntryWidget::RemoveItem(std::int16_t index) {
-  OnRemove(At(index));
-  entries_.Erase(static_cast<std::size_t>(index));
+void EntryWidget::RemoveItem(std::int16_t index) { Take(index); }
+
+void EntryWidget::MoveItem(std::int16_t index, std::int16_t to) {
+  if (!Has(to)) ThrowIndex(to);
+  auto entry = Take(index);
+  const auto place = static_cast<std::size_t>(to);
+  ranked_ = std::min(ranked_, place);
+  Put(place, std::move(entry));
+}
+
+std::unique_ptr<EntryWidget::Entry> EntryWidget::Take(std::int16_t index) {
+  Entry& taken = At(index);
+  OnRemove(taken);
+  auto entry = entries_.Take(static_cast<std::size_t>(index));
   ranked_ = std::min(ranked_, static_cast<std::size_t>(index));
   if (IndexFollowsEntry()) {
     if (listIndex_ == index) {
@@ -52,6 +61,14 @@ void EntryWidget::RemoveItem(std::int16_t index) {
     }
   }
   context_.view->EntryRemoved(*this, index);
+  return entry;
+}
+
+void EntryWidget::Put(std::size_t place, std::unique_ptr<Entry> entry) {
+  entries_.Insert(place, std::move(entry));
+  newIndex_ = static_cast<std::int16_t>(place);
+  if (IndexFollowsEntry() && listIndex_ >= newIndex_) ++listIndex_;
+  context_.view->EntryAdded(*this, newIndex_);
 }
 
 void EntryWidget::Clear() {
@@ -201,7 +218,9 @@ void ListBox::OnListIndex(std::int16_t index) {
   }
 }
 
-void ListBox::OnRemove(const Entry& entry) { selCount_ = static_cast<std::int16_t>(selCount_ - entry.selected); }
+void ListBox::OnRemove(Entry& entry) {
+  selCount_ = static_cast<std::int16_t>(selCount_ - std::exchange(entry.selected, false));
+}
 
 void ListBox::Mark(std::int16_t index, bool selected) {
   Entry& entry = At(index);

@@ -28,6 +28,9 @@ class EntryWidget : public Widget {
   /// @throws RunTimeError (Overflow) when there are 32,767 entries.
   void AddItem(Text text, std::optional<std::int16_t> index = {});
   void RemoveItem(std::int16_t index);
+  /// What `RemoveItem` does, and then `AddItem` of the same entry with its ItemData; never runs out of memory.
+  /// @param to 0 to `ListCount` - 1, where the entry then stands.
+  void MoveItem(std::int16_t index, std::int16_t to);
   void Clear();
 
   const Text& List(std::int16_t index) const;
@@ -56,11 +59,13 @@ class EntryWidget : public Widget {
   virtual bool IndexFollowsEntry() const { return true; }
   /// The index is to be the one that has been written.
   virtual void OnListIndex(std::int16_t index) { Place(index); }
-  virtual void OnRemove(const Entry&) {}
+  virtual void OnRemove(Entry&) {}
   virtual void OnClear() {}
 
  private:
   std::size_t SortedPlace(TextView text);
+  std::unique_ptr<Entry> Take(std::int16_t index);
+  void Put(std::size_t place, std::unique_ptr<Entry> entry);
 
   GapVector<std::unique_ptr<Entry>> entries_;
   std::size_t ranked_ = 0;  ///< how many entries, from the first, know the greatest one up to them
@@ -115,7 +120,7 @@ class ListBox : public EntryWidget {
  protected:
   bool IndexFollowsEntry() const override { return !held_; }
   void OnListIndex(std::int16_t index) override;
-  void OnRemove(const Entry& entry) override;
+  void OnRemove(Entry& entry) override;
   void OnClear() override {
     selCount_ = 0;
     held_ = false;  // what was under the pointer is gone

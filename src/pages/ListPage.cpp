@@ -24,9 +24,18 @@ ListPage::ListPage(PageState& state, std::int16_t tab, std::int16_t& current)
   lstPrint.MouseUp = state.WhenReady([this](std::int16_t button) { MouseUp(button); });
 }
 
-void ListPage::ResetPage() {
+void ListPage::ResetPage() { EndDrag(); }
+
+void ListPage::EndDrag() {
   mDragIndex = -1;
   state_.dialog.MousePointer(Dialog::kDefaultPointer);
+}
+
+void ListPage::FollowDragged(std::int32_t item) {
+  std::int16_t index = 0;
+  while (index < lstPrint.ListCount() && lstPrint.ItemData(index) != item) ++index;
+  if (index == lstPrint.ListCount()) return EndDrag();
+  mDragIndex = mDragStart = index;
 }
 
 void ListPage::StorePage() {
@@ -119,7 +128,10 @@ void ListPage::EnableLists() {
 }
 
 void ListPage::Transfer(ListBox& source, ListBox& target) {
+  const bool isDragged = mDragIndex != -1;
+  const std::int32_t dragged = isDragged ? lstPrint.ItemData(mDragIndex) : 0;
   const std::int16_t moved = ModPrnGen::MoveSelectedItems(source, target);
+  if (isDragged) FollowDragged(dragged);
   StoreOrder();
   SelectionChanged();
   if (moved > 0) OnTransferred();
@@ -135,11 +147,7 @@ void ListPage::MouseMove(std::int16_t Button) {
   state_.dialog.MousePointer(Dialog::kDragPointer);
   const std::int16_t New = lstPrint.ListIndex();
   if (New == mDragIndex) return;
-  const Text text = lstPrint.List(mDragIndex);
-  const std::int32_t item = lstPrint.ItemData(mDragIndex);
-  lstPrint.RemoveItem(mDragIndex);
-  lstPrint.AddItem(text, New);
-  lstPrint.ItemData(New, item);
+  lstPrint.MoveItem(mDragIndex, New);
   const std::int16_t former = std::exchange(mDragIndex, New);
   lstPrint.Selected(New, true);
   lstPrint.Selected(former, false);
@@ -148,9 +156,9 @@ void ListPage::MouseMove(std::int16_t Button) {
 void ListPage::MouseUp(std::int16_t Button) {
   // A drag can't begin in read-only mode; one that has begun before ends as it would.
   if (Button != ListBox::kLeftButton || mDragIndex == -1) return;
-  state_.dialog.MousePointer(Dialog::kDefaultPointer);
+  const bool isElsewhere = mDragIndex != mDragStart;
   // Settled ahead of what follows, which may fail.
-  const bool isElsewhere = std::exchange(mDragIndex, std::int16_t{-1}) != mDragStart;
+  EndDrag();
   OnDragEnded(isElsewhere);
 }
 

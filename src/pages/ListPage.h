@@ -28,7 +28,7 @@ Collection<PrnItemRef> ItemsOf(const Items& items) {
 /// the new item: the writes raise Click and come back here, and find nothing left to do.
 class ListPage : public Page {
  public:
-  /// Ends a drag, since the lists will be filled anew.
+  /// Ends a drag, as the lists will be filled anew.
   void ResetPage() override;
   void StorePage() override;
 
@@ -74,6 +74,10 @@ class ListPage : public Page {
   /// Makes the item the current one and shows its settings, or none for -1.
   void ShowItem(std::int16_t item);
   void Transfer(ListBox& source, ListBox& target);
+  /// A transfer in the middle of a drag, whose order is stored: the drag goes on from where the entry of that item stands
+  /// now, or ends when that is gone.
+  void FollowDragged(std::int32_t item);
+  void EndDrag();
   void MouseDown(std::int16_t Button);
   void MouseMove(std::int16_t Button);
   void MouseUp(std::int16_t Button);

@@ -12,15 +12,14 @@ std::int16_t MoveSelectedItems(ListBox& Source, ListBox& Target) {
   const std::int16_t behind = Target.ListCount();
   for (auto i = static_cast<std::int16_t>(Source.ListCount() - 1); i >= 0; --i) {
     if (!Source.Selected(i)) continue;
-    Text text = Source.List(i);
-    const std::int32_t item = Source.ItemData(i);
-    Source.RemoveItem(i);
+    // It comes before it goes: when memory runs out, no entry is lost.
     if (Target.Sorted()) {
-      Target.AddItem(std::move(text));
+      Target.AddItem(Source.List(i));
     } else {
-      Target.AddItem(std::move(text), behind);
+      Target.AddItem(Source.List(i), behind);
     }
-    Target.ItemData(Target.NewIndex(), item);
+    Target.ItemData(Target.NewIndex(), Source.ItemData(i));
+    Source.RemoveItem(i);
   }
   return moved;
 }

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <utility>
 #include <variant>
 
 #include "tables/Text.h"
@@ -15,8 +16,37 @@ class Object {
 };
 using ObjectRef = std::shared_ptr<Object>;
 
+using PlainVariant = std::variant<std::monostate, bool, std::int16_t, std::int32_t, double, Text, ObjectRef>;
+
 /// A cell, or an argument whose type the caller chooses. A default one is empty, which is not the empty text.
 /// In what the library writes, a cell is a text or a 16-bit integer.
-using Variant = std::variant<std::monostate, bool, std::int16_t, std::int32_t, double, Text, ObjectRef>;
+///
+/// It is a `std::variant` but for the copy: there are standard libraries whose own leaves a variant that can't be
+/// destroyed when memory runs out while a text is copied. Here the text is copied first and then moved in.
+class Variant : public PlainVariant {
+ public:
+  using PlainVariant::PlainVariant;
+  using PlainVariant::operator=;
+
+  Variant() = default;
+  Variant(const Variant& other) : PlainVariant() { Copy(other); }
+  Variant(Variant&&) noexcept = default;
+  Variant& operator=(const Variant& other) {
+    Copy(other);
+    return *this;
+  }
+  Variant& operator=(Variant&&) noexcept = default;
+  ~Variant() = default;
+
+ private:
+  void Copy(const Variant& other) {
+    std::visit(
+        [this](const auto& value) {
+          auto copy = value;
+          PlainVariant::operator=(std::move(copy));
+        },
+        static_cast<const PlainVariant&>(other));
+  }
+};
 
 }  // namespace ORXKMPrintProp
