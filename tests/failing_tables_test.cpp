@@ -1,9 +1,12 @@
 #include <gtest/gtest.h>
 
 #include "control/ORXQueryPrnProp.h"
+#include "control/SharedValues.h"
 #include "host/SettingsDocument.h"
+#include "support/loaded.h"
 #include "support/table_text.h"
 #include "support/watched_table.h"
+#include "support/widget_text.h"
 #include "tables/RunTimeError.h"
 
 namespace ORXKMPrintProp::test {
@@ -41,6 +44,126 @@ struct Realistic : host::SettingsDocument {
 
   std::shared_ptr<Watch> watch = std::make_shared<Watch>();
 };
+
+/// Two sets of tables under one watch, and controls that load them.
+struct Nested {
+  explicit Nested(const std::string& a, const std::string& b) : first(SetOf(a)), second(SetOf(b)) {}
+
+  struct Set {
+    Settings settings;
+    TableRef gen, dim, mem, atr;
+    bool LoadInto(ORXQueryPrnProp& control) const { return control.ORXSetPrnTables(gen, dim, mem, atr); }
+    /// What the tables hold and the control shows.
+    std::string State(ORXQueryPrnProp& control) const {
+      return settings.Brief() + StateOf(control.GetDialog().Get<ListBox>(u"lstPrint", kCharTab));
+    }
+  };
+
+  Set SetOf(const std::string& name) const {
+    const std::string structure = "IOBJNM='S" + name + "' IOBJTXT='S" + name + "' IS_STRUCTURE='X'";
+    const Settings settings("IOBJNM='" + name + "1' AXIS='Y' IOBJPRSNT='0'\nIOBJNM='" + name + "2'\n" + structure,
+                            "IOBJNM='" + name + "1' ATTRINM='" + name + "a'\nIOBJNM='" + name + "1'",
+                            "IOBJNM='S" + name + "' CHAVL='" + name + "e'", "TITLE='" + name + "'");
+    return {settings, Watched("gen", settings.gen, watch), Watched("dim", settings.dim, watch),
+            Watched("mem", settings.mem, watch), Watched("atr", settings.atr, watch)};
+  }
+
+  /// Does the action with `act` inside its call number `k`. @return how it fails.
+  std::string Acting(std::size_t k, std::function<void()> act, const std::function<void()>& action) const {
+    watch->calls.clear();
+    watch->actAt = k;
+    watch->act = std::move(act);
+    std::string failure = "none";
+    try {
+      action();
+    } catch (const RunTimeError& error) {
+      failure = NameOf(error.Kind());
+    }
+    watch->actAt = 0;
+    return failure;
+  }
+
+  /// A read-back, or the load of the first set.
+  std::function<void()> Use(ORXQueryPrnProp& control, bool read) const {
+    return [this, &control, read] { read ? static_cast<void>(control.ORXDimTable()) : void(first.LoadInto(control)); };
+  }
+
+  std::shared_ptr<Watch> watch = std::make_shared<Watch>();
+  Set first, second;
+};
+
+/// The pages that a load has filled take what is typed, and a read commits it.
+void Type(ORXQueryPrnProp& control) { control.GetDialog().Get<TextBox>(u"txtGenPrnTitle").UserEdit(u"typed"); }
+
+/// What the tables of a name hold after a load and a read-back, and the print list that is shown.
+std::string Undisturbed(const std::string& name) {
+  const Nested nested(name, "x");
+  ORXQueryPrnProp control;
+  nested.first.LoadInto(control);
+  Type(control);
+  control.ORXDimTable();
+  return nested.first.State(control);
+}
+
+TEST(TablesThatCallBack, LoadOtherSettingsWhichStay) {
+  const std::string expected = Undisturbed("b");
+  const struct { bool inRead, inAnother; } rows[] = {{false, false}, {false, true}, {true, false}, {true, true}};
+  for (const auto& row : rows) {
+    bool wasCalled = true;
+    for (std::size_t k = 1; wasCalled; ++k) {
+      ReleaseSharedValues();
+      const Nested nested("a", "b");
+      ORXQueryPrnProp control, other;
+      control.ORXControlTexts(
+          Watched("texts", TableFrom(Kind::Texts, "TARGETID='ID_PRN_NONE' CAPTION='-'"), nested.watch));
+      if (row.inRead) nested.first.LoadInto(control);
+      ORXQueryPrnProp& inner = row.inAnother ? other : control;
+      wasCalled = false;
+      const std::string failure = nested.Acting(
+          k, [&] { wasCalled = nested.second.LoadInto(inner); }, nested.Use(control, row.inRead));
+      if (!wasCalled) {
+        EXPECT_GT(k, 100u);
+        break;
+      }
+      ASSERT_EQ(failure, "table") << k;
+      Type(inner);
+      ASSERT_NE(inner.ORXDimTable(), nullptr);
+      ASSERT_EQ(nested.second.State(inner), expected) << k;
+      if (row.inAnother && !row.inRead) {
+        ASSERT_EQ(control.ORXDimTable(), nullptr) << "it keeps none of its tables";
+      }
+    }
+  }
+  ReleaseSharedValues();
+}
+
+TEST(TablesThatCallBack, AreNotReadBackFromInside) {
+  const std::string expected = Undisturbed("a");
+  for (const bool inRead : {false, true}) {
+    bool wasCalled = true;
+    for (std::size_t k = 1; wasCalled; ++k) {
+      ReleaseSharedValues();
+      const Nested nested("a", "b");
+      ORXQueryPrnProp control, loaded;
+      (inRead ? nested.first : nested.second).LoadInto(inRead ? control : loaded);
+      wasCalled = false;
+      std::string inner = "none";
+      const auto readBack = [&] {
+        wasCalled = true;
+        try {
+          (inRead ? control : loaded).ORXMemTable();
+        } catch (const RunTimeError& error) {
+          inner = NameOf(error.Kind());
+        }
+      };
+      ASSERT_EQ(nested.Acting(k, readBack, nested.Use(control, inRead)), "none");
+      ASSERT_EQ(inner, wasCalled ? "table" : "none") << k;
+      Type(control);
+      control.ORXDimTable();
+      ASSERT_EQ(nested.first.State(control), expected) << k;
+    }
+  }
+}
 
 TEST(FailingTables, FailTheCallAndNeverTheNext) {
   Realistic settings;

@@ -66,42 +66,50 @@ void ORXQueryPrnProp::Raise(Event event) {
 }
 
 bool ORXQueryPrnProp::ORXSetPrnTables(TableRef GenPropTable, TableRef DimTable, TableRef MemTable, TableRef AtrTable) {
-  for (const TableRef& table : {GenPropTable, DimTable, MemTable, AtrTable}) Needed(table);
+  Tables tables{std::move(GenPropTable), std::move(DimTable), std::move(MemTable), std::move(AtrTable)};
+  for (const TableRef& table : {tables.GenPropTable, tables.DimTable, tables.MemTable, tables.AtrTable}) Needed(table);
 
+  TableOperation::OvertakeAll();
+  const TableOperation operation;
   if (!mTextsDone) dialog_.ApplyTexts();
   mTextsDone = true;
+  TableOperation::CheckNotOvertaken();
+
   gPrnProp.reset();
   // Held, since a table may load other settings from inside an operation.
   const auto root = std::make_shared<PrnPropCls>();
   gPrnProp = root;
-  const bool loaded = root->FromTable(*GenPropTable, *DimTable, *MemTable, *AtrTable);
+  const bool loaded = root->FromTable(*tables.GenPropTable, *tables.DimTable, *tables.MemTable, *tables.AtrTable);
 
-  mGenPropTable = std::move(GenPropTable);
-  mDimTable = std::move(DimTable);
-  mMemTable = std::move(MemTable);
-  mAtrTable = std::move(AtrTable);
+  const Tables former = std::exchange(mTables, tables);
+  const int load = ++loads_;
   pages_->SetLoaded();
-  const TableRef general = mGenPropTable;
-  RowsOf(*general)->RemoveAll();
-  if (loaded) pages_->FillAllPages();
+  try {
+    RemoveRows(*tables.GenPropTable);
+    if (loaded) pages_->FillAllPages();
+  } catch (const Overtaken&) {
+    if (load == loads_) mTables = former;
+    throw;
+  }
   return loaded;
 }
 
-TableRef ORXQueryPrnProp::ReadBack(const TableRef ORXQueryPrnProp::*table) {
-  if (!gPrnProp || !mGenPropTable) return nullptr;
+TableRef ORXQueryPrnProp::ReadBack(const TableRef Tables::*table) {
+  if (!gPrnProp || !mTables.GenPropTable) return nullptr;
+  TableOperation::CheckNoneUnderWay();
   pages_->StoreCurrentPage();
+  const TableOperation operation;
   const std::shared_ptr<PrnPropCls> root = gPrnProp;
-  // The fields may change under the call: a table may load other settings from inside an operation.
-  const TableRef asked = this->*table;
-  const TableRef general = mGenPropTable, dimension = mDimTable, member = mMemTable, attribute = mAtrTable;
-  root->ToTable(*general, *dimension, *member, *attribute);
-  return asked;
+  // The fields may change under the call.
+  const Tables tables = mTables;
+  root->ToTable(*tables.GenPropTable, *tables.DimTable, *tables.MemTable, *tables.AtrTable);
+  return tables.*table;
 }
 
-TableRef ORXQueryPrnProp::ORXGenPropTable() { return ReadBack(&ORXQueryPrnProp::mGenPropTable); }
-TableRef ORXQueryPrnProp::ORXDimTable() { return ReadBack(&ORXQueryPrnProp::mDimTable); }
-TableRef ORXQueryPrnProp::ORXMemTable() { return ReadBack(&ORXQueryPrnProp::mMemTable); }
-TableRef ORXQueryPrnProp::ORXAtrTable() { return ReadBack(&ORXQueryPrnProp::mAtrTable); }
+TableRef ORXQueryPrnProp::ORXGenPropTable() { return ReadBack(&Tables::GenPropTable); }
+TableRef ORXQueryPrnProp::ORXDimTable() { return ReadBack(&Tables::DimTable); }
+TableRef ORXQueryPrnProp::ORXMemTable() { return ReadBack(&Tables::MemTable); }
+TableRef ORXQueryPrnProp::ORXAtrTable() { return ReadBack(&Tables::AtrTable); }
 
 bool ORXQueryPrnProp::ORXControlTexts(TableRef TextTable) {
   const TableRef table = Needed(std::move(TextTable));
@@ -120,7 +128,7 @@ bool ORXQueryPrnProp::ORXControlTexts(TableRef TextTable) {
 }
 
 Variant ORXQueryPrnProp::ORXSetPrintLayout(Text FBLayout, const Variant& ButtonID, const Text& CharIObjName) {
-  if (!gPrnProp || !mGenPropTable)
+  if (!gPrnProp || !mTables.GenPropTable)
     throw RunTimeError(ErrorKind::Index, u"No settings are loaded, so there is no place for a layout.");
   if (!IsTotalsRowButton(ButtonID)) {
     gPrnProp->FBLayout(LayoutSlot(ButtonID), std::move(FBLayout));

@@ -31,7 +31,8 @@ class ORXQueryPrnPropEvents {
 /// ends there. The model lives in `gPrnProp`, shared by all controls of a thread; it outlives them, until the thread
 /// ends or `ReleaseSharedValues`. Controls of different threads share nothing.
 ///
-/// An operation that fails throws RunTimeError: an error of a table object, as it came, or a cell that does not convert.
+/// An operation that fails throws RunTimeError: an error of a table object, as it came, or a cell that does not
+/// convert.
 class ORXQueryPrnProp {
  public:
   /// The dialog opens on the General page, with the captions stored with the form.
@@ -46,12 +47,14 @@ class ORXQueryPrnProp {
   /// @return False when the general table has not exactly one row. The tables are the control's all the same.
   /// @throws RunTimeError (Object) when a table is none; nothing is changed then. An error while reading
   /// leaves the control with its former tables and the model as far as it was read; one from emptying the general
-  /// table or filling the pages leaves it with the new ones.
+  /// table or filling the pages leaves it with the new ones. (Table) when a table has loaded other settings from inside
+  /// a call, in whichever control: those stay, and the control keeps none of these tables.
   bool ORXSetPrnTables(TableRef GenPropTable, TableRef DimTable, TableRef MemTable, TableRef AtrTable);
 
   /// Commits the page on top, then rewrites all four tables and gives the one that is asked for: the object that the
   /// host handed in, or none before the first load.
-  /// @throws RunTimeError from a table; what was written until then stays.
+  /// @throws RunTimeError from a table; what was written until then stays. (Table) from inside a call on a table:
+  /// nothing is committed or written then; and when a table has loaded other settings from inside a call.
   TableRef ORXGenPropTable();
   TableRef ORXDimTable();
   TableRef ORXMemTable();
@@ -88,12 +91,14 @@ class ORXQueryPrnProp {
  private:
   template <class Event>
   void Raise(Event event);
-  TableRef ReadBack(const TableRef ORXQueryPrnProp::*table);
+  struct Tables {
+    TableRef GenPropTable, DimTable, MemTable, AtrTable;
+  };
 
-  TableRef mGenPropTable;
-  TableRef mDimTable;
-  TableRef mMemTable;
-  TableRef mAtrTable;
+  TableRef ReadBack(const TableRef Tables::*table);
+
+  Tables mTables;  ///< of the last load
+  int loads_ = 0;  ///< how many have set them
   bool mTextsDone = false;
   Dialog dialog_;
   std::unique_ptr<Pages> pages_;

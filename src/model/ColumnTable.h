@@ -10,7 +10,7 @@
 #include "tables/CellCodecs.h"
 #include "tables/Conversions.h"
 #include "tables/RunTimeError.h"
-#include "tables/Table.h"
+#include "tables/TableCalls.h"
 
 namespace ORXKMPrintProp {
 
@@ -105,7 +105,7 @@ template <class Class>
 void ReadRow(ColumnsOf<Class> columns, TextView tableName, const Row& row, Class& object) {
   for (const ColumnOf<Class>& column : columns) {
     if (!column.read) continue;
-    Variant cell = row.Value(column.name);
+    Variant cell = CellOf(row, column.name);
     try {
       column.read(object, std::move(cell));
     } catch (const RunTimeError& error) {
@@ -119,7 +119,7 @@ void ReadRow(ColumnsOf<Class> columns, TextView tableName, const Row& row, Class
 template <class Class>
 void WriteRow(ColumnsOf<Class> columns, const Class& object, Row& row) {
   for (const ColumnOf<Class>& column : columns) {
-    if (column.write) row.Value(column.name, column.write(object));
+    if (column.write) SetCell(row, column.name, column.write(object));
   }
 }
 

@@ -1,7 +1,6 @@
 #include "model/PrnAttrCls.h"
 
 #include "model/TwoColumns.h"
-#include "tables/TableCalls.h"
 
 namespace ORXKMPrintProp {
 namespace {
@@ -21,11 +20,11 @@ constexpr auto kColumns = Joined(
     },
     kTwoColumns<C>);
 
-Text OwnerOf(const Row& row) { return ToText(row.Value(kOwner)); }
+Text OwnerOf(const Row& row) { return ToText(CellOf(row, kOwner)); }
 
 /// Enters the first row of every run.
 void FillIndex(AttrRowIndex& index, Table& it_atr) {
-  const std::int16_t last = ToInteger16(it_atr.RowCount());
+  const std::int16_t last = ToInteger16(RowCountOf(it_atr));
   Text current;
   for (std::int32_t number = 1; number <= last; ++number) {
     Text name = OwnerOf(*RowAt(it_atr, number));
@@ -47,7 +46,7 @@ ColumnsOf<PrnAttrCls> PrnAttrCls::Columns() { return kColumns; }
 void PrnAttrCls::FromTable(const Row& AttrRow) { ReadRow(Columns(), kTableName, AttrRow, *this); }
 
 void PrnAttrCls::ToTable(Row& AttrRow, TextView CharIObjName) const {
-  AttrRow.Value(kOwner, ORXKMPrintProp::Text(CharIObjName));
+  SetCell(AttrRow, kOwner, ORXKMPrintProp::Text(CharIObjName));
   WriteRow(Columns(), *this, AttrRow);
 }
 
@@ -55,7 +54,7 @@ void PrnAttrCollCls::FromTable(const Row& ChaRow, Table& it_atr) {
   // Held, since a table may load another model from inside an operation.
   const std::shared_ptr<AttrRowIndex> index = gAttrRowIndex;
   if (!index) return;
-  if (index->Count() == 0 && it_atr.RowCount() > 0) FillIndex(*index, it_atr);
+  if (index->Count() == 0 && RowCountOf(it_atr) > 0) FillIndex(*index, it_atr);
 
   std::int32_t current = 0;
   try {
@@ -73,7 +72,7 @@ void PrnAttrCollCls::FromTable(const Row& ChaRow, Table& it_atr) {
     attribute->FromTable(*RowAt(it_atr, current));
     AddItemAsObj(std::move(attribute));
     ++current;
-  } while (current <= it_atr.RowCount() && OwnerOf(*RowAt(it_atr, current)) == name);
+  } while (current <= RowCountOf(it_atr) && OwnerOf(*RowAt(it_atr, current)) == name);
 }
 
 void PrnAttrCollCls::ToTable(Table& it_atr, TextView CharIObjName) const {

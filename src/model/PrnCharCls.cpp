@@ -1,7 +1,6 @@
 #include "model/PrnCharCls.h"
 
 #include "model/TwoColumns.h"
-#include "tables/TableCalls.h"
 
 namespace ORXKMPrintProp {
 namespace {
@@ -48,8 +47,8 @@ void PrnCharCls::ToTable(Row& DimRow, Table& it_atr) const {
 void PrnCharCollCls::FromTable(Table& it_dim, Table& it_atr, std::int16_t& StrIndex1, std::int16_t& StrIndex2) {
   StrIndex1 = StrIndex2 = -1;
   const auto rows = EachRow(it_dim);
-  while (const RowRef row = rows->Next()) {
-    if (ToText(row->Value(u"IS_STRUCTURE")) != u"X") {
+  while (const RowRef row = NextRow(*rows)) {
+    if (ToText(CellOf(*row, u"IS_STRUCTURE")) != u"X") {
       auto characteristic = std::make_shared<PrnCharCls>();
       characteristic->FromTable(*row, it_atr);
       AddItemAsObj(std::move(characteristic));

@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "tables/TableCalls.h"
-
 namespace ORXKMPrintProp {
 namespace {
 
@@ -53,7 +51,7 @@ ColumnsOf<PrnPropCls> PrnPropCls::Columns() { return kColumns; }
 
 bool PrnPropCls::FromTable(Table& GenPropTable, Table& DimTable, Table& MemTable, Table& AtrTable) {
   gAttrRowIndex = std::make_shared<AttrRowIndex>();
-  if (GenPropTable.RowCount() != 1) {
+  if (RowCountOf(GenPropTable) != 1) {
     gErrorText = u"Table with general print properties GenPropTable must have exactly one row.";
     return false;
   }
@@ -68,7 +66,7 @@ bool PrnPropCls::FromTable(Table& GenPropTable, Table& DimTable, Table& MemTable
 }
 
 void PrnPropCls::ToTable(Table& GenPropTable, Table& DimTable, Table& MemTable, Table& AtrTable) const {
-  for (Table* const table : {&GenPropTable, &DimTable, &MemTable, &AtrTable}) RowsOf(*table)->RemoveAll();
+  for (Table* const table : {&GenPropTable, &DimTable, &MemTable, &AtrTable}) RemoveRows(*table);
 
   WriteRow(Columns(), *this, *AddRow(GenPropTable));
   characteristics_.ToTable(DimTable, AtrTable);

@@ -1,7 +1,5 @@
 #include "model/PrnStructureCls.h"
 
-#include "tables/TableCalls.h"
-
 namespace ORXKMPrintProp {
 namespace {
 
@@ -36,15 +34,15 @@ ColumnsOf<PrnStrElemCls> PrnStrElemCls::Columns() { return kElementColumns; }
 void PrnStrElemCls::FromTable(const Row& StrElemRow) { ReadRow(Columns(), u"it_mem", StrElemRow, *this); }
 
 void PrnStrElemCls::ToTable(Row& StrElemRow, TextView StrIObjName) const {
-  StrElemRow.Value(kOwner, ORXKMPrintProp::Text(StrIObjName));
+  SetCell(StrElemRow, kOwner, ORXKMPrintProp::Text(StrIObjName));
   WriteRow(Columns(), *this, StrElemRow);
 }
 
 void PrnStrElemCollCls::FromTable(const Row& StrRow, Table& it_mem) {
-  const Text structure = ToText(StrRow.Value(kOwner));
+  const Text structure = ToText(CellOf(StrRow, kOwner));
   const auto rows = EachRow(it_mem);
-  while (const RowRef row = rows->Next()) {
-    if (ToText(row->Value(kOwner)) != structure) continue;
+  while (const RowRef row = NextRow(*rows)) {
+    if (ToText(CellOf(*row, kOwner)) != structure) continue;
     auto element = std::make_shared<PrnStrElemCls>();
     element->FromTable(*row);
     AddItemAsObj(std::move(element));

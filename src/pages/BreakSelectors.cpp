@@ -5,8 +5,6 @@
 #include <cstddef>
 
 #include "pages/ListRoutines.h"
-#include "texts/LookupText.h"
-
 namespace ORXKMPrintProp {
 namespace {
 
@@ -54,7 +52,7 @@ BreakSelectors::BreakSelectors(const PageState& state)
 void BreakSelectors::FillBreakCombos() {
   for (const Selector& selector : selectors_) selector.combo.Clear();
   for (const Selector& selector : selectors_) {
-    ModPrnGen::AppendItem(selector.combo, ModPrnGen::LookupText(u"ID_PRN_NONE", u"<None>"), kNoBreak);
+    ModPrnGen::AppendItem(selector.combo, PageState::LookUp(u"ID_PRN_NONE", u"<None>"), kNoBreak);
   }
 
   const PrnCharCollCls& characteristics = state_.Characteristics();

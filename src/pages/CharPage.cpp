@@ -1,7 +1,5 @@
 #include "pages/CharPage.h"
 
-#include "texts/LookupText.h"
-
 namespace ORXKMPrintProp {
 namespace {
 
@@ -100,8 +98,8 @@ void CharPage::StoreOrder() {
 
 bool CharPage::MayTake(std::int16_t more) {
   if (lstPrint.ListCount() + more <= kMaxPrintCharacteristics) return true;
-  const Text text = ModPrnGen::LookupText(u"ID_PRN_MSGMAX10", u"You may only use up to ten print characteristics");
-  const Text title = ModPrnGen::LookupText(u"ID_PRN_ERROR", u"Error");
+  const Text text = PageState::LookUp(u"ID_PRN_MSGMAX10", u"You may only use up to ten print characteristics");
+  const Text title = PageState::LookUp(u"ID_PRN_ERROR", u"Error");
   state_.dialog.GetView().MsgBox(text, title);
   return false;
 }

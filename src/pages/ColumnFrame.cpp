@@ -3,8 +3,6 @@
 #include <initializer_list>
 #include <utility>
 
-#include "texts/LookupText.h"
-
 namespace ORXKMPrintProp {
 namespace {
 
@@ -81,8 +79,8 @@ void ColumnFrame::OnPresentation() const {
 }
 
 void SetColumnLabels(std::int32_t Presentation, Label& Label1, Label& Label2) {
-  const auto key = [] { return ModPrnGen::LookupText(u"ID_DLG_VALPRES_3", u"Key"); };
-  const auto description = [] { return ModPrnGen::LookupText(u"ID_DLG_VALPRES_2", u"Description"); };
+  const auto key = [] { return PageState::LookUp(u"ID_DLG_VALPRES_3", u"Key"); };
+  const auto description = [] { return PageState::LookUp(u"ID_DLG_VALPRES_2", u"Description"); };
   switch (Presentation) {
     case PP_VALP_KEYTEXT:
       Label1.Caption(key());

@@ -61,6 +61,8 @@ void ListPage::ShowItem(std::int16_t item) {
   current_ = item;
   try {
     ShowProps();
+  } catch (const Overtaken&) {
+    throw;
   } catch (...) {
     // The settings of one item are never stored into another.
     current_ = -1;

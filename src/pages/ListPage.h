@@ -74,8 +74,8 @@ class ListPage : public Page {
   /// Makes the item the current one and shows its settings, or none for -1.
   void ShowItem(std::int16_t item);
   void Transfer(ListBox& source, ListBox& target);
-  /// A transfer in the middle of a drag, whose order is stored: the drag goes on from where the entry of that item stands
-  /// now, or ends when that is gone.
+  /// A transfer in the middle of a drag, whose order is stored: the drag goes on from where the entry of that item
+  /// stands now, or ends when that is gone.
   void FollowDragged(std::int32_t item);
   void EndDrag();
   void MouseDown(std::int16_t Button);

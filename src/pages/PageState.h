@@ -5,6 +5,8 @@
 
 #include "dialog/Dialog.h"
 #include "model/PrnPropCls.h"
+#include "tables/TableOperation.h"
+#include "texts/LookupText.h"
 
 namespace ORXKMPrintProp {
 
@@ -29,6 +31,15 @@ struct PageState {
 
   PrnPropCls& Root() const { return *gPrnProp; }
   PrnCharCollCls& Characteristics() const { return Root().Characteristics(); }
+
+  /// The text for that key. @throws Overtaken when the text table has loaded other settings: the rest of what was to be
+  /// shown is about settings that are gone.
+  static Text LookUp(TextView key, TextView text) {
+    const TableOperation operation;
+    Text found = ModPrnGen::LookupText(key, text);
+    TableOperation::CheckNotOvertaken();
+    return found;
+  }
 
   /// The handler of a widget's event, which does nothing while the pages can't act.
   template <class Handler>

@@ -40,6 +40,8 @@ template <class Routine>
 void Pages::Fill(Routine routine) {
   try {
     routine();
+  } catch (const Overtaken&) {
+    throw;  // the pages are those of the load that has overtaken this one
   } catch (...) {
     // Half of a page is never committed.
     filledFrom_.reset();

@@ -92,6 +92,7 @@ class WatchedTable : public Seen<Table> {
 
 void Watch::Note(const std::string& call) {
   calls.push_back(call);
+  if (calls.size() == actAt) act();
   if (calls.size() == failAt) throw WatchFailure(ErrorKind::Table, Wide(call));
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -18,6 +19,8 @@ struct WatchFailure : RunTimeError {
 struct Watch {
   std::vector<std::string> calls;  ///< "it_dim.Rows", "it_dim.Rows(2)", "it_dim[2].Value(POSIT)", ...
   std::size_t failAt = 0;          ///< counted from 1, 0 for none
+  std::size_t actAt = 0;           ///< the same, at which `act` is called first
+  std::function<void()> act;
 
   /// Notes the call. @throws WatchFailure (Table) with the call as its message when it is the one to fail.
   void Note(const std::string& call);
