@@ -83,22 +83,38 @@ struct Nested {
     return failure;
   }
 
-  /// A read-back, or the load of the first set.
-  std::function<void()> Use(ORXQueryPrnProp& control, bool read) const {
-    return [this, &control, read] { read ? static_cast<void>(control.ORXDimTable()) : void(first.LoadInto(control)); };
+  /// The load of the first set, or of a control that has it: a read-back, or a click that shows the settings of an
+  /// item.
+  enum Action { Load, Read, Select };
+  std::function<void()> Use(ORXQueryPrnProp& control, Action action) const {
+    return [this, &control, action] {
+      if (action == Load) first.LoadInto(control);
+      if (action == Read) control.ORXDimTable();
+      for (int click = 0; action == Select && click < 2; ++click) {
+        auto& list = control.GetDialog().Get<ListBox>(u"lstPrint", kCharTab);
+        list.UserMouseDown(0, ListBox::kLeftButton);
+        list.UserMouseUp(ListBox::kLeftButton);
+      }
+    };
   }
 
   std::shared_ptr<Watch> watch = std::make_shared<Watch>();
   Set first, second;
 };
 
-/// The pages that a load has filled take what is typed, and a read commits it.
-void Type(ORXQueryPrnProp& control) { control.GetDialog().Get<TextBox>(u"txtGenPrnTitle").UserEdit(u"typed"); }
+/// The page on top takes what is typed, and a read commits it.
+void Type(ORXQueryPrnProp& control) {
+  for (const TextView box : {u"txtGenPrnTitle", u"txtCharColTitle"}) {
+    control.GetDialog().Get<TextBox>(box).UserEdit(u"typed");
+  }
+}
 
-/// What the tables of a name hold after a load and a read-back, and the print list that is shown.
-std::string Undisturbed(const std::string& name) {
+/// What the tables of a name hold after a load, with that page on top, and a read-back, and the print list that is
+/// shown.
+std::string Undisturbed(const std::string& name, std::int16_t tab) {
   const Nested nested(name, "x");
   ORXQueryPrnProp control;
+  control.GetDialog().TabStrip().UserPick(tab);
   nested.first.LoadInto(control);
   Type(control);
   control.ORXDimTable();
@@ -106,39 +122,46 @@ std::string Undisturbed(const std::string& name) {
 }
 
 TEST(TablesThatCallBack, LoadOtherSettingsWhichStay) {
-  const std::string expected = Undisturbed("b");
-  const struct { bool inRead, inAnother; } rows[] = {{false, false}, {false, true}, {true, false}, {true, true}};
+  const struct {
+    Nested::Action action;
+    bool inAnother;
+  } rows[] = {{Nested::Load, false},
+              {Nested::Load, true},
+              {Nested::Read, false},
+              {Nested::Read, true},
+              {Nested::Select, false}};
   for (const auto& row : rows) {
-    bool wasCalled = true;
-    for (std::size_t k = 1; wasCalled; ++k) {
+    const std::int16_t tab = row.action == Nested::Select ? kCharTab : kGeneralTab;
+    const std::string expected = Undisturbed("b", tab);
+    std::size_t k = 1;
+    for (bool wasCalled = true; wasCalled; ++k) {
       ReleaseSharedValues();
       const Nested nested("a", "b");
       ORXQueryPrnProp control, other;
       control.ORXControlTexts(
           Watched("texts", TableFrom(Kind::Texts, "TARGETID='ID_PRN_NONE' CAPTION='-'"), nested.watch));
-      if (row.inRead) nested.first.LoadInto(control);
+      control.GetDialog().TabStrip().UserPick(tab);
+      if (row.action != Nested::Load) nested.first.LoadInto(control);
       ORXQueryPrnProp& inner = row.inAnother ? other : control;
       wasCalled = false;
       const std::string failure = nested.Acting(
-          k, [&] { wasCalled = nested.second.LoadInto(inner); }, nested.Use(control, row.inRead));
-      if (!wasCalled) {
-        EXPECT_GT(k, 100u);
-        break;
-      }
+          k, [&] { wasCalled = nested.second.LoadInto(inner); }, nested.Use(control, row.action));
+      if (!wasCalled) continue;
       ASSERT_EQ(failure, "table") << k;
       Type(inner);
       ASSERT_NE(inner.ORXDimTable(), nullptr);
       ASSERT_EQ(nested.second.State(inner), expected) << k;
-      if (row.inAnother && !row.inRead) {
+      if (row.inAnother && row.action == Nested::Load) {
         ASSERT_EQ(control.ORXDimTable(), nullptr) << "it keeps none of its tables";
       }
     }
+    EXPECT_GT(k, row.action == Nested::Select ? 4u : 100u);
   }
   ReleaseSharedValues();
 }
 
 TEST(TablesThatCallBack, AreNotReadBackFromInside) {
-  const std::string expected = Undisturbed("a");
+  const std::string expected = Undisturbed("a", kGeneralTab);
   for (const bool inRead : {false, true}) {
     bool wasCalled = true;
     for (std::size_t k = 1; wasCalled; ++k) {
@@ -156,7 +179,7 @@ TEST(TablesThatCallBack, AreNotReadBackFromInside) {
           inner = NameOf(error.Kind());
         }
       };
-      ASSERT_EQ(nested.Acting(k, readBack, nested.Use(control, inRead)), "none");
+      ASSERT_EQ(nested.Acting(k, readBack, nested.Use(control, inRead ? Nested::Read : Nested::Load)), "none");
       ASSERT_EQ(inner, wasCalled ? "table" : "none") << k;
       Type(control);
       control.ORXDimTable();
