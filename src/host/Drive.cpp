@@ -232,8 +232,8 @@ class Driver : private View, private ORXQueryPrnPropEvents {
     if (!arguments[0].quoted) {
       const auto number = WholeNumber(arguments[0]);
       if (!number) return {};
-      const auto small = static_cast<std::int32_t>(*number);
-      button = small == *number ? Variant(small) : Variant(static_cast<double>(*number));
+      const auto narrow = static_cast<std::int32_t>(*number);
+      button = narrow == *number ? Variant(narrow) : Variant(static_cast<double>(*number));
     }
     return [this, button, name = FromUtf8(arguments[1].text), layout = FromUtf8(arguments[2].text)] {
       Try([&] { control_.ORXSetPrintLayout(layout, button, name); });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <cstdio>
 #include <string>
 #include <string_view>
 
@@ -10,7 +11,10 @@ namespace ORXKMPrintProp::host {
 inline constexpr std::string_view kStandardStream = "-";
 
 /// How a message calls a file to read: its path, or "standard input".
-std::string InputName(const std::string& path);
+inline std::string InputName(const std::string& path) { return path == kStandardStream ? "standard input" : path; }
+
+/// Whether somebody sees what is written to the stream.
+bool IsTerminal(std::FILE* stream);
 
 /// The whole file, or all of standard input. @throws DocumentError (file and reason)
 std::string ReadFile(const std::string& path);
@@ -24,7 +28,7 @@ struct FileStamp {
 };
 FileStamp StampOf(const std::string& path);
 
-/// Tells ahead of any work whether `ReplaceFile` has a chance to replace or make a regular file: the folder must be
+/// Tells ahead of any work whether `SaveFile` has a chance to replace or make a regular file: the folder must be
 /// there and take files, and a file that is there must be one that can be written. @throws DocumentError (file and
 /// reason)
 void CheckReplaceable(const std::string& path);
@@ -33,6 +37,6 @@ void CheckReplaceable(const std::string& path);
 /// permissions and, where the system lets it, its owner; a symbolic link stays, and what it points to is replaced.
 /// What is no regular file, such as a device or a pipe, is written to as it is.
 /// @throws DocumentError (file and reason). A regular file is untouched then, and nothing is left behind beside it.
-void ReplaceFile(const std::string& path, std::string_view content);
+void SaveFile(const std::string& path, std::string_view content);
 
 }  // namespace ORXKMPrintProp::host

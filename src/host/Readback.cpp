@@ -14,7 +14,7 @@ void Readback(const std::string& path, const std::string& outPath, std::ostream&
   if (outPath == kStandardStream) {
     out << ToJson(document);
   } else {
-    ReplaceFile(outPath, ToJson(document));
+    SaveFile(outPath, ToJson(document));
   }
 }
 

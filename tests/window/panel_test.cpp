@@ -3,8 +3,8 @@
 #include "host/Files.h"
 #include "host/Load.h"
 #include "host/Utf8.h"
-#include "host/window/ComparedTable.h"
-#include "host/window/PageSketch.h"
+#include "host/editor/ComparedTable.h"
+#include "host/editor/PageSketch.h"
 
 namespace ORXKMPrintProp::host::test {
 namespace {

@@ -23,7 +23,7 @@
 #include "control/SharedValues.h"
 #include "host/Files.h"
 #include "host/Load.h"
-#include "host/window/EditedSettings.h"
+#include "host/editor/EditedSettings.h"
 #include "views/qt/QtPlatform.h"
 
 namespace ORXKMPrintProp::host::test {
@@ -34,7 +34,7 @@ class SettingsWindowTest : public testing::Test {
   SettingsWindowTest() {
     gPrnProp.reset();
     gTextTable.reset();
-    ReplaceFile(file, before);
+    SaveFile(file, before);
     QObject::connect(&timer, &QTimer::timeout, [this] {
       auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
       if (!dialog) return;
@@ -104,11 +104,11 @@ class SettingsWindowTest : public testing::Test {
 
 TEST_F(SettingsWindowTest, WhatASaveLosesIsToldBeforeTheFirstAndLayoutsAreHandedBack) {
   const std::string characteristic = R"({"POSIT":1,"AXIS":"Y","PR_COL1_WIDTH":1,"PR_COL2_WIDTH":1,"STRT_LVL":0,)";
-  ReplaceFile(file, R"({"general":[{"TITLE":"Sales","MARGIN_TOP":1,"MARGIN_BOTTOM":2,"MARGIN_LEFT":3,
+  SaveFile(file, R"({"general":[{"TITLE":"Sales","MARGIN_TOP":1,"MARGIN_BOTTOM":2,"MARGIN_LEFT":3,
       "MARGIN_RIGHT":4,"HEADER_LAYOUT":"head","LASTPAGE_LAYOUT":"end"}],"dimension":[)" +
-                        characteristic + R"("IOBJNM":"A","PR_SUM_LAYOUT":"<sum>\r\n of A"},)" + characteristic +
-                        R"("IOBJNM":"A","PR_SUM_LAYOUT":"two","COLOR":"red"},)" + characteristic +
-                        R"("IOBJNM":"B","PR_SUM_LAYOUT":"sum of B"},
+                     characteristic + R"("IOBJNM":"A","PR_SUM_LAYOUT":"<sum>\r\n of A"},)" + characteristic +
+                     R"("IOBJNM":"A","PR_SUM_LAYOUT":"two","COLOR":"red"},)" + characteristic +
+                     R"("IOBJNM":"B","PR_SUM_LAYOUT":"sum of B"},
       {"IS_STRUCTURE":"X","IOBJTXT":"nameless","POSIT":1}]})");
   before = ReadFile(file);
   SettingsDocument expected = ReadSettings(file);
@@ -200,7 +200,7 @@ TEST_F(SettingsWindowTest, WhoeverOnlyLooksChangesNothing) {
        {std::pair(R"("POSIT": 1)", R"("POSIT": 0)"), std::pair(R"("PR_AUTO_WIDTH": " ")", R"("PR_AUTO_WIDTH": "X")")}) {
     before.replace(before.find(from, before.find(name)), std::string_view(from).size(), to);
   }
-  ReplaceFile(file, before);
+  SaveFile(file, before);
   for (const bool readOnly : {false, true}) {
     Open({.readOnly = readOnly});
     for (int tab = 0; tab < 4; ++tab) {
@@ -218,7 +218,7 @@ TEST_F(SettingsWindowTest, WhoeverOnlyLooksChangesNothing) {
 TEST_F(SettingsWindowTest, AFileThatSomebodyElseHasWrittenIsNotReplacedUnasked) {
   Open();
   Type("!");
-  ReplaceFile(file, before += "\n");
+  SaveFile(file, before += "\n");
   const std::string question = "The file has changed since it was opened.\nReplace " + file + " all the same?";
   Answer(QMessageBox::Cancel, question);
   Press(QDialogButtonBox::Ok);
@@ -244,7 +244,7 @@ TEST_F(SettingsWindowTest, AWriteThatFailsKeepsTheWindowAndAnotherTargetLeavesTh
   EXPECT_TRUE(window->close());
 
   before.insert(before.find("\"IOBJNM\": \"REGION\""), "\"COLOR\": \"red\", ");
-  ReplaceFile(file, before);
+  SaveFile(file, before);
   Open({.out = Path("b.json")});
   EXPECT_EQ(State(), "open apply") << "there is no such file yet";
   Answer(QMessageBox::Save,

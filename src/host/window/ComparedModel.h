@@ -2,7 +2,7 @@
 
 #include <QAbstractTableModel>
 
-#include "host/window/ComparedTable.h"
+#include "host/editor/ComparedTable.h"
 
 namespace ORXKMPrintProp::host {
 

@@ -1,7 +1,5 @@
 #include "host/window/Edit.h"
 
-#include <unistd.h>
-
 #include <QApplication>
 #include <QIcon>
 #include <QMessageBox>
@@ -14,8 +12,8 @@
 #include "host/DocumentError.h"
 #include "host/Files.h"
 #include "host/Load.h"
+#include "host/editor/EditedSettings.h"
 #include "host/window/Display.h"
-#include "host/window/EditedSettings.h"
 #include "host/window/FirstPaint.h"
 #include "host/window/SettingsWindow.h"
 #include "views/qt/QtPlatform.h"
@@ -63,7 +61,7 @@ int Edit(const EditOptions& options) {
   try {
     settings = Load(options, platform);
   } catch (const std::exception& error) {
-    const bool isSeen = ::isatty(STDERR_FILENO) != 0 || QGuiApplication::platformName() == QStringLiteral("offscreen");
+    const bool isSeen = IsTerminal(stderr) || QGuiApplication::platformName() == QStringLiteral("offscreen");
     if (!isSeen) Tell(error.what());
     throw;
   }

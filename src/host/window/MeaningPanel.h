@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "host/window/Snapshot.h"
+#include "host/editor/Snapshot.h"
 
 class QLabel;
 class QPushButton;

@@ -3,7 +3,7 @@
 #include <QWidget>
 #include <vector>
 
-#include "host/window/PageSketch.h"
+#include "host/editor/PageSketch.h"
 
 class QPainter;
 

@@ -17,7 +17,7 @@
 #include <utility>
 
 #include "host/DocumentError.h"
-#include "host/window/EditedSettings.h"
+#include "host/editor/EditedSettings.h"
 #include "host/window/LayoutEditor.h"
 #include "host/window/MeaningPanel.h"
 #include "tables/RunTimeError.h"

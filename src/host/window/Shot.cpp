@@ -11,8 +11,8 @@
 #include <ostream>
 
 #include "host/Files.h"
+#include "host/editor/EditedSettings.h"
 #include "host/window/Display.h"
-#include "host/window/EditedSettings.h"
 #include "host/window/SettingsWindow.h"
 #include "views/qt/PrnPropView.h"
 #include "views/qt/QtPlatform.h"
@@ -99,7 +99,7 @@ void Shot(const ShotOptions& options, std::ostream& out) {
   if (options.out == kStandardStream) {
     out << bytes;
   } else {
-    ReplaceFile(options.out, bytes);
+    SaveFile(options.out, bytes);
   }
 }
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <vector>
 
-#include "host/window/Snapshot.h"
+#include "host/editor/Snapshot.h"
 #include "tables/PrnEnums.h"
 
 namespace ORXKMPrintProp::host {

@@ -1,4 +1,4 @@
-#include "host/window/Layouts.h"
+#include "host/editor/Layouts.h"
 
 #include <unordered_set>
 

@@ -1,4 +1,4 @@
-#include "host/window/EditedSettings.h"
+#include "host/editor/EditedSettings.h"
 
 #include <set>
 #include <string_view>
@@ -79,7 +79,7 @@ void EditedSettings::SetUnchanged() {
 
 void EditedSettings::Save() {
   Read();
-  ReplaceFile(target_, ToJson(document_));
+  SaveFile(target_, ToJson(document_));
   targetStamp_ = StampOf(target_);
   file_ = now_;
   SetUnchanged();

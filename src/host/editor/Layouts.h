@@ -6,7 +6,7 @@
 #include <set>
 
 #include "control/ORXQueryPrnProp.h"
-#include "host/window/Snapshot.h"
+#include "host/editor/Snapshot.h"
 
 namespace ORXKMPrintProp::host {
 

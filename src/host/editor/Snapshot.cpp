@@ -1,4 +1,4 @@
-#include "host/window/Snapshot.h"
+#include "host/editor/Snapshot.h"
 
 #include <algorithm>
 

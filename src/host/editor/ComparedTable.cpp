@@ -1,4 +1,4 @@
-#include "host/window/ComparedTable.h"
+#include "host/editor/ComparedTable.h"
 
 #include <deque>
 #include <unordered_map>

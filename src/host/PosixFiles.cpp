@@ -1,4 +1,4 @@
-#include "host/Files.h"
+// Files and streams by the calls of POSIX.
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "host/DocumentError.h"
+#include "host/Files.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
@@ -115,7 +116,7 @@ class TemporaryFile {
 
 }  // namespace
 
-std::string InputName(const std::string& path) { return path == kStandardStream ? "standard input" : path; }
+bool IsTerminal(std::FILE* stream) { return ::isatty(::fileno(stream)) != 0; }
 
 std::string ReadFile(const std::string& path) {
   const bool standard = path == kStandardStream;
@@ -151,7 +152,7 @@ void CheckReplaceable(const std::string& path) {
   if (::access(folder.c_str(), W_OK | X_OK) != 0) Fail(path, errno);
 }
 
-void ReplaceFile(const std::string& path, std::string_view content) {
+void SaveFile(const std::string& path, std::string_view content) {
   const Target target(path);
   if (!target.IsRegularOrNew()) {
     Descriptor device(::open(target.path.c_str(), O_WRONLY | O_CLOEXEC));

@@ -1,4 +1,4 @@
-#include "host/window/PageSketch.h"
+#include "host/editor/PageSketch.h"
 
 #include <algorithm>
 #include <cstdint>

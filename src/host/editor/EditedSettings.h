@@ -7,8 +7,8 @@
 #include "control/ORXQueryPrnProp.h"
 #include "host/Files.h"
 #include "host/SettingsDocument.h"
-#include "host/window/Layouts.h"
-#include "host/window/Snapshot.h"
+#include "host/editor/Layouts.h"
+#include "host/editor/Snapshot.h"
 
 namespace ORXKMPrintProp::host {
 

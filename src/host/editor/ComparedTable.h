@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/window/Snapshot.h"
+#include "host/editor/Snapshot.h"
 
 namespace ORXKMPrintProp::host {
 

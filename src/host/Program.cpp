@@ -1,0 +1,122 @@
+#include "host/Program.h"
+
+#include <CLI/CLI.hpp>
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <iostream>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/Check.h"
+#include "host/Drive.h"
+#include "host/ExitStatus.h"
+#include "host/Files.h"
+#include "host/Load.h"
+#include "host/Readback.h"
+#include "host/Show.h"
+
+namespace ORXKMPrintProp::host {
+namespace {
+
+bool WantsColor() {
+  const char* const noColor = std::getenv("NO_COLOR");
+  return IsTerminal(stdout) && (!noColor || *noColor == '\0');
+}
+
+void AddCheck(CLI::App& program, int& status) {
+  struct Options {
+    std::vector<std::string> files;
+    bool json = false;
+  };
+  const auto options = std::make_shared<Options>();
+  CLI::App* const check =
+      program.add_subcommand("check", "Tells what a load and a read-back would change in documents");
+  check->add_option("FILE", options->files, "Settings documents")->required();
+  check->add_flag("--json", options->json, "One JSON object per document, a line each");
+  check->footer(
+      "Ends with 0 when nothing is lost, 1 when something would be or a load fails, 3 when a file is no\n"
+      "settings document. Load errors call the tables GenPropTable, it_dim, it_mem and it_atr.");
+  check->callback([options, &status] { status = Check(options->files, options->json, std::cout, std::cerr); });
+}
+
+void AddShow(CLI::App& program) {
+  const auto file = std::make_shared<std::string>();
+  CLI::App* const show = program.add_subcommand("show", "Tells what would be printed, and what would not");
+  show->add_option("FILE", *file, "Settings document")->required();
+  show->callback([file] { Show(*file, WantsColor(), std::cout); });
+}
+
+void AddReadback(CLI::App& program) {
+  struct Options {
+    std::string file;
+    std::string out{kStandardStream};
+  };
+  const auto options = std::make_shared<Options>();
+  CLI::App* const readback = program.add_subcommand("readback", "Writes a document as it comes back from a load");
+  readback->add_option("FILE", options->file, "Settings document")->required();
+  readback->add_option("-o,--output", options->out, "File to write or replace, instead of standard output")
+      ->type_name("OUT");
+  readback->callback([options] { Readback(options->file, options->out, std::cout); });
+}
+
+void AddDrive(CLI::App& program, int& status) {
+  const auto options = std::make_shared<DriveOptions>();
+  CLI::App* const drive = program.add_subcommand("drive", "Does to the dialog what a script says, without a window");
+  drive->add_option("SETTINGS", options->settings, "Settings document")->required();
+  drive->add_option("--texts", options->texts, "Document whose text table is used")->type_name("FILE");
+  drive->add_flag("--read-only", options->readOnly, "The dialog takes no change");
+  drive->add_option("SCRIPT", options->script, "Actions, a line each, instead of standard input");
+  drive->callback([options, &status] { status = Drive(*options, std::cout, std::cerr); });
+}
+
+int Run(int argc, char** argv, const AddCommands& addCommands) {
+  CLI::App program(
+      "Looks at the batch-print settings of a query, and edits them. FILE is a settings document, - is\n"
+      "standard input.",
+      "prnprop");
+  program.set_version_flag("--version", "prnprop " PRNPROP_VERSION);
+  program.require_subcommand(1);
+  program.failure_message([](const CLI::App* failed, const CLI::Error& error) {
+    const auto unknown = failed->remaining();
+    const bool noCommand = failed->get_subcommands().empty() && !unknown.empty();
+    return "prnprop: " + (noCommand ? "there is no command " + unknown.front() : std::string(error.what())) +
+           "\nprnprop --help tells how it is used.\n";
+  });
+  int status = kSuccess;
+  AddCheck(program, status);
+  AddShow(program);
+  AddReadback(program);
+  AddDrive(program, status);
+  if (addCommands) addCommands(program, status);
+  try {
+    program.parse(argc, argv);
+  } catch (const CLI::ParseError& error) {
+    status = program.exit(error) == 0 ? kSuccess : kUsage;
+  } catch (const LoadError& error) {
+    std::cerr << "prnprop: " << error.what() << "\n";
+    return kLoss;
+  }
+  std::cout.flush();
+  return status;
+}
+
+}  // namespace
+
+int RunProgram(int argc, char** argv, const AddCommands& addCommands) {
+  // What can't be written is told at once, while the system's reason is known; a message must not run into it.
+  std::cerr.tie(nullptr);
+  std::cout.exceptions(std::ios::badbit | std::ios::failbit);
+  try {
+    return Run(argc, argv, addCommands);
+  } catch (const std::ios::failure&) {
+    std::cerr << "prnprop: standard output: " << std::strerror(errno) << "\n";
+    return kBadFile;
+  } catch (const std::exception& error) {
+    std::cerr << "prnprop: " << error.what() << "\n";
+    return kBadFile;
+  }
+}
+
+}  // namespace ORXKMPrintProp::host

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <functional>
+
+namespace CLI {
+class App;
+}
+
+namespace ORXKMPrintProp::host {
+
+/// Adds commands to the program's own. What a command ends with, its callback puts into `status`, as an ExitStatus.
+using AddCommands = std::function<void(CLI::App& program, int& status)>;
+
+/// The program `prnprop`: carries out what the command line says, of the commands check, show, readback, drive and
+/// those that are added. What fails is told on standard error.
+/// @return an ExitStatus
+int RunProgram(int argc, char** argv, const AddCommands& addCommands = {});
+
+}  // namespace ORXKMPrintProp::host
