@@ -53,6 +53,7 @@ class EditedSettings {
   bool IsToBeSaved() const { return isChanged_ || targetIsBehind_; }
   /// Whether somebody else has written the target since it was loaded, or was saved last.
   bool IsTargetOvertaken() const { return StampOf(target_) != targetStamp_; }
+  bool IsTargetThere() const { return StampOf(target_) != FileStamp{}; }
 
   /// Reads the tables and replaces the target. @throws RunTimeError, DocumentError; the target is untouched then.
   void Save();
