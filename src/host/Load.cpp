@@ -16,8 +16,8 @@ namespace {
 }  // namespace
 
 void LoadAndReadBack(const SettingsDocument& document) {
+  const SharedValuesGuard guard;
   ORXQueryPrnProp control;
-  gErrorText.clear();
   try {
     if (!control.ORXSetPrnTables(document.general, document.dimension, document.member, document.attribute)) {
       Fail(document, gErrorText);

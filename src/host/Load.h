@@ -12,8 +12,8 @@ class LoadError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-/// Loads the document's tables into a control and reads each of them back, as a host does that shows no dialog.
-/// The tables then hold what the control has written, and its model stays loaded.
+/// Loads the document's tables into a control of its own and reads each of them back, as a host does that shows no
+/// dialog. The tables then hold what the control has written; controls that are there notice nothing.
 /// @throws LoadError; what the tables hold then is of no use.
 void LoadAndReadBack(const SettingsDocument& document);
 

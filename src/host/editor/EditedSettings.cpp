@@ -30,7 +30,6 @@ EditedSettings::EditedSettings(SettingsDocument document, const EditOptions& opt
       file_(SnapshotOf(document_)),
       control_(platform),
       layouts_(LayoutsIn(file_)) {
-  // By way of controls of its own, which the program's one model must not come from afterwards.
   FindLosses();
   try {
     if (texts) control_.ORXControlTexts(texts);
