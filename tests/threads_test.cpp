@@ -1,0 +1,54 @@
+// Two threads, each with controls of its own, touch nothing in common.
+
+#include <gtest/gtest.h>
+
+#include <barrier>
+#include <thread>
+
+#include "control/SharedValues.h"
+#include "support/loaded.h"
+#include "support/widget_text.h"
+
+namespace ORXKMPrintProp::test {
+namespace {
+
+/// What a user and a host do with settings of that name, again and again. @return what comes of it each time.
+std::string Work(const std::string& name) {
+  const std::string structure = "IOBJNM='S" + name + "' IOBJTXT='S' IS_STRUCTURE='X'";
+  const Settings settings("IOBJNM='" + name + "' IOBJTXT='" + name + "' AXIS='Y'\nIOBJNM='B' IOBJTXT='b'\n" + structure,
+                          "IOBJNM='" + name + "' ATTRINM='1'", "IOBJNM='S" + name + "' CHAVL='e'");
+  ORXQueryPrnProp control;
+  control.ORXControlTexts(TableFrom(Kind::Texts, "TARGETID='ID_PRN_CHAR' CAPTION='" + name + "'"));
+  settings.LoadInto(control);
+  Dialog& dialog = control.GetDialog();
+  for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) dialog.TabStrip().UserPick(tab);
+  dialog.TabStrip().UserPick(kCharTab);
+  dialog.Get<TextBox>(u"txtCharColTitle").UserEdit(Wide(name));
+  dialog.Get<ListBox>(u"lstAvail", kCharTab).UserMouseDown(0, ListBox::kLeftButton);
+  dialog.Get<ListBox>(u"lstAvail", kCharTab).UserMouseUp(ListBox::kLeftButton);
+  dialog.Get<CommandButton>(u"cmdLeftToRight", kCharTab).UserPress();
+  control.ORXGenPropTable();
+  const Settings failing("", "", "", "");
+  failing.LoadInto(control);
+  return settings.Brief() + ToAscii(dialog.TabStrip().TabCaption(kCharTab)) + ToAscii(gErrorText);
+}
+
+TEST(TwoThreads, WorkWithControlsOfTheirOwn) {
+  const std::string expected[] = {Work("X"), Work("Y")};
+  std::barrier start(2);
+  const auto thread = [&](int which) {
+    return std::thread([&, which] {
+      start.arrive_and_wait();
+      for (int i = 0; i < 30; ++i) EXPECT_EQ(Work(which == 0 ? "X" : "Y"), expected[which]);
+      ReleaseSharedValues();
+    });
+  };
+  std::thread first = thread(0);
+  std::thread second = thread(1);
+  first.join();
+  second.join();
+  ReleaseSharedValues();
+}
+
+}  // namespace
+}  // namespace ORXKMPrintProp::test
