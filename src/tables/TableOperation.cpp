@@ -2,7 +2,7 @@
 
 namespace ORXKMPrintProp {
 
-thread_local TableOperation* TableOperation::innermost_ = nullptr;
+constinit thread_local TableOperation* TableOperation::innermost_ = nullptr;
 
 Overtaken::Overtaken()
     : RunTimeError(ErrorKind::Table, u"Other settings have been loaded from inside a call on a table.") {}
@@ -13,10 +13,6 @@ TableOperation::~TableOperation() { innermost_ = outer_; }
 
 void TableOperation::OvertakeAll() {
   for (TableOperation* operation = innermost_; operation; operation = operation->outer_) operation->isOvertaken_ = true;
-}
-
-void TableOperation::CheckNotOvertaken() {
-  if (innermost_ && innermost_->isOvertaken_) throw Overtaken();
 }
 
 void TableOperation::CheckNoneUnderWay() {

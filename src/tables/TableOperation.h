@@ -23,12 +23,14 @@ class TableOperation {
   /// A load begins: whatever is under way on this thread is overtaken.
   static void OvertakeAll();
   /// @throws Overtaken when a load has begun since the operation under way has, if there is one.
-  static void CheckNotOvertaken();
+  static void CheckNotOvertaken() {
+    if (innermost_ && innermost_->isOvertaken_) throw Overtaken();
+  }
   /// @throws RunTimeError (Table) when an operation is under way.
   static void CheckNoneUnderWay();
 
  private:
-  static thread_local TableOperation* innermost_;
+  static constinit thread_local TableOperation* innermost_;
 
   TableOperation* const outer_;
   bool isOvertaken_ = false;

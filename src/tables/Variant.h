@@ -40,12 +40,12 @@ class Variant : public PlainVariant {
 
  private:
   void Copy(const Variant& other) {
-    std::visit(
-        [this](const auto& value) {
-          auto copy = value;
-          PlainVariant::operator=(std::move(copy));
-        },
-        static_cast<const PlainVariant&>(other));
+    if (const Text* const text = std::get_if<Text>(&other)) {
+      Text copy = *text;
+      PlainVariant::operator=(std::move(copy));
+    } else {
+      PlainVariant::operator=(static_cast<const PlainVariant&>(other));
+    }
   }
 };
 
