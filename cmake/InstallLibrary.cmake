@@ -7,7 +7,7 @@ set(package_pkgconfig ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
 orxkmprintprop_install_headers(tables texts model dialog control)
 install(
-  TARGETS Control
+  TARGETS PrnPropControl
   EXPORT ORXKMPrintPropTargets
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
   INCLUDES DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
