@@ -201,6 +201,7 @@ void ViewTest::Play(const std::string& widget, std::initializer_list<Step> steps
     for (std::string action; std::getline(actions >> std::ws, action, ';');) {
       Do(action.insert(std::min(action.find(' '), action.size()), " " + widget));
     }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::MetaCall);
     EXPECT_EQ(HeldBy(played) + heard, step.state) << widget << ": " << step.actions;
     for (const auto& each : dialog.Controls()) {
       Json state = host::StateOf(*each);

@@ -5,6 +5,8 @@
 #include <QStyleOptionComboBox>
 #include <QWheelEvent>
 
+#include "views/qt/QtKeys.h"
+
 namespace ORXKMPrintProp::qt {
 
 ComboBoxView::ComboBoxView(ComboBox& combo, const Reports& reports, QWidget* parent)
@@ -20,6 +22,17 @@ void ComboBoxView::Refresh() {
   entries_->EntriesChanged();
   ShowPicked();
   if (!isEnabled()) hidePopup();
+}
+
+void ComboBoxView::Show(WidgetProperty what) {
+  if (what == WidgetProperty::ListIndex) return ShowPicked();
+  WidgetView::Show(what);
+  if (what == WidgetProperty::Enabled && !isEnabled()) hidePopup();
+}
+
+void ComboBoxView::EntryChanged(int index, EntryProperty) {
+  entries_->EntryChanged(index);
+  ShowPicked();
 }
 
 void ComboBoxView::EntryAdded(int index) {
@@ -45,10 +58,13 @@ void ComboBoxView::showPopup() {
 }
 
 void ComboBoxView::keyPressEvent(QKeyEvent* event) {
-  // With Ctrl the page keys change the page of the dialog, not the entry.
-  if (event->modifiers() & Qt::ControlModifier) {
+  const views::KeyPress press = ToKeyPress(*event);
+  if (const auto entry = views::PickOf(widget_, press, search_)) {
+    Perform([&] { widget_.UserPick(*entry); });
+  } else if (press.control) {
+    // The page keys change the page of the dialog, not the entry.
     event->ignore();
-  } else {
+  } else if (press.key != views::Key::Other || event->text().isEmpty() || !event->text().at(0).isPrint()) {
     QComboBox::keyPressEvent(event);
   }
 }

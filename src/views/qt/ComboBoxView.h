@@ -2,6 +2,7 @@
 
 #include <QComboBox>
 
+#include "views/Keys.h"
 #include "views/qt/EntryModel.h"
 #include "views/qt/WidgetView.h"
 
@@ -11,6 +12,8 @@ class ComboBoxView : public ViewOf<QComboBox, ComboBox> {
  public:
   ComboBoxView(ComboBox& combo, const Reports& reports, QWidget* parent);
   void Refresh() override;
+  void Show(WidgetProperty what) override;
+  void EntryChanged(int index, EntryProperty what) override;
   void EntryAdded(int index) override;
   void EntryRemoved(int index) override;
   void EntriesCleared() override;
@@ -26,6 +29,7 @@ class ComboBoxView : public ViewOf<QComboBox, ComboBox> {
   void ShowPicked();
 
   EntryModel* entries_;
+  views::TypeAhead search_;
 };
 
 }  // namespace ORXKMPrintProp::qt

@@ -1,5 +1,6 @@
 #include "views/qt/EntryModel.h"
 
+#include "views/Fitting.h"
 #include "views/qt/QtText.h"
 
 namespace ORXKMPrintProp::qt {
@@ -9,8 +10,7 @@ EntryModel::EntryModel(const EntryWidget& widget, QObject* parent)
 
 QVariant EntryModel::data(const QModelIndex& index, int role) const {
   if (role != Qt::DisplayRole || !index.isValid() || index.row() >= widget_.ListCount()) return {};
-  // An entry has one line.
-  return ToQString(widget_.List(static_cast<std::int16_t>(index.row()))).replace(u'\n', u' ').replace(u'\r', u' ');
+  return ToQString(views::OnOneLine(widget_.List(static_cast<std::int16_t>(index.row()))));
 }
 
 void EntryModel::EntryAdded(int index) {
@@ -30,6 +30,8 @@ void EntryModel::EntriesCleared() {
   rows_ = 0;
   endResetModel();
 }
+
+void EntryModel::EntryChanged(int index) { emit dataChanged(this->index(index), this->index(index)); }
 
 void EntryModel::EntriesChanged() {
   if (rows_ > 0) emit dataChanged(index(0), index(rows_ - 1));

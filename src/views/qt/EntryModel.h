@@ -18,7 +18,9 @@ class EntryModel : public QAbstractListModel {
   void EntryAdded(int index);
   void EntryRemoved(int index);
   void EntriesCleared();
-  /// Any text, any selection.
+  /// Its text or its selection.
+  void EntryChanged(int index);
+  /// Any of them.
   void EntriesChanged();
 
  private:

@@ -10,11 +10,13 @@
 #include <QStyledItemDelegate>
 #include <QToolTip>
 #include <algorithm>
+#include <utility>
+
+#include "views/qt/QtKeys.h"
+#include "views/qt/QtText.h"
 
 namespace ORXKMPrintProp::qt {
 namespace {
-
-constexpr int kScrollInterval = 60;  // milliseconds an entry
 
 class EntryDelegate : public QStyledItemDelegate {
  public:
@@ -47,6 +49,8 @@ class EntryDelegate : public QStyledItemDelegate {
   const ListBox& list_;
 };
 
+int HeightOf(const QMouseEvent& event) { return event.position().toPoint().y(); }
+
 std::int16_t ButtonOf(const QMouseEvent& event) {
   switch (event.button()) {
     case Qt::LeftButton:
@@ -70,18 +74,13 @@ ListBoxView::ListBoxView(ListBox& list, const Reports& reports, QWidget* parent)
   setTabKeyNavigation(false);
   setAutoScroll(false);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  scrolling_.setInterval(kScrollInterval);
-  connect(&scrolling_, &QTimer::timeout, this, [this] { ScrollDrag(); });
-}
-
-/// What has begun also ends, though nobody is told of it any more.
-ListBoxView::~ListBoxView() {
-  if (pressed_ == 0) return;
-  try {
-    widget_.UserMouseUp(pressed_);
-  } catch (...) {
-    return;
-  }
+  scrolling_.setInterval(views::ListPointer::kScrollInterval);
+  connect(&scrolling_, &QTimer::timeout, this, [this] {
+    // Where another window has taken the mouse, no release comes.
+    const QWidget* const modal = QApplication::activeModalWidget();
+    if (modal && modal != window()) return pointer_.Release();
+    pointer_.OnTimer();
+  });
 }
 
 void ListBoxView::Refresh() {
@@ -89,6 +88,19 @@ void ListBoxView::Refresh() {
   entries_->EntriesChanged();
   ShowSelection();
   ShowCaret();
+}
+
+void ListBoxView::Show(WidgetProperty what) {
+  if (what == WidgetProperty::ListIndex) return ShowCaret();
+  WidgetView::Show(what);
+}
+
+void ListBoxView::EntryChanged(int index, EntryProperty what) {
+  entries_->EntryChanged(index);
+  if (what != EntryProperty::Selected || std::exchange(isSelectionBehind_, true)) return;
+  // What is painted is the list's own selection; Qt's follows when all of a change has come.
+  QMetaObject::invokeMethod(
+      this, [this] { ShowSelection(); }, Qt::QueuedConnection);
 }
 
 void ListBoxView::EntryAdded(int index) {
@@ -104,110 +116,49 @@ void ListBoxView::EntryRemoved(int index) {
 void ListBoxView::EntriesCleared() { entries_->EntriesCleared(); }
 
 void ListBoxView::mousePressEvent(QMouseEvent* event) {
-  const std::int16_t button = ButtonOf(*event);
-  const QModelIndex entry = indexAt(event->position().toPoint());
-  const bool isAnotherHeld = event->buttons() != event->button();
-  if (button == 0 || isAnotherHeld || !entry.isValid()) return;
-  Release(pressed_);
-  pressed_ = button;
-  Perform([&] { widget_.UserMouseDown(static_cast<std::int16_t>(entry.row()), button); });
+  pointer_.Press(ButtonOf(*event), event->buttons() != event->button(), HeightOf(*event));
 }
 
 void ListBoxView::mouseMoveEvent(QMouseEvent* event) {
-  if (pressed_ != ListBox::kLeftButton) return;
-  if (!(event->buttons() & Qt::LeftButton)) {
-    // It went up while something else had the mouse.
-    Release(pressed_);
-  } else if (event->buttons() == Qt::LeftButton) {
-    DragTo(event->position().toPoint());
-  }
+  const Qt::MouseButtons buttons = event->buttons();
+  pointer_.Move(buttons.testFlag(Qt::LeftButton), buttons & ~Qt::MouseButtons(Qt::LeftButton), HeightOf(*event));
 }
 
-void ListBoxView::mouseReleaseEvent(QMouseEvent* event) {
-  if (const std::int16_t button = ButtonOf(*event); button != 0 && button == pressed_) Release(button);
-}
+void ListBoxView::mouseReleaseEvent(QMouseEvent* event) { pointer_.Release(ButtonOf(*event)); }
 
-void ListBoxView::DragTo(QPoint position) {
-  pointer_ = position;
-  const QRect area = viewport()->rect();
-  const bool isOutside = position.y() < area.top() || position.y() > area.bottom();
-  if (!isOutside) scrolling_.stop();
-  if (isOutside && !scrolling_.isActive()) scrolling_.start();
+int ListBoxView::EntryAt(int y) const { return indexAt({viewport()->rect().center().x(), y}).row(); }
 
-  const QModelIndex under = indexAt({area.center().x(), std::clamp(position.y(), area.top(), area.bottom())});
-  const int entry = under.isValid() ? under.row() : widget_.ListCount() - 1;
-  Perform([&] { widget_.UserMouseMove(static_cast<std::int16_t>(entry)); });
-}
-
-void ListBoxView::ScrollDrag() {
-  // Where another window has taken the mouse, no release comes.
-  const QWidget* const modal = QApplication::activeModalWidget();
-  if (modal && modal != window()) return Release(pressed_);
+void ListBoxView::ScrollBy(int step) {
   QScrollBar& bar = *verticalScrollBar();
-  bar.setValue(bar.value() + (pointer_.y() < 0 ? -1 : 1));
-  DragTo(pointer_);
+  bar.setValue(bar.value() + step);
 }
 
-void ListBoxView::Release(std::int16_t button) {
-  if (pressed_ == 0) return;
-  pressed_ = 0;
-  scrolling_.stop();
-  Perform([&] { widget_.UserMouseUp(button); });
+void ListBoxView::RunTimer(bool on) {
+  if (on == scrolling_.isActive()) return;
+  if (on) {
+    scrolling_.start();
+  } else {
+    scrolling_.stop();
+  }
 }
 
 void ListBoxView::ReleaseLater() {
-  if (pressed_ == 0) return;
-  scrolling_.stop();
-  // Not at once: what disables the list may be the handler of the very drag.
-  QTimer::singleShot(0, this, [this] { Release(pressed_); });
+  QTimer::singleShot(0, this, [this] { pointer_.Release(); });
 }
 
 void ListBoxView::keyPressEvent(QKeyEvent* event) {
-  if (pressed_ != 0) return;
-  struct CaretKey {
-    int key;
-    CursorAction action;
-  };
-  static constexpr CaretKey kCaretKeys[] = {
-      {Qt::Key_Up, MoveUp},         {Qt::Key_Down, MoveDown},         {Qt::Key_Left, MoveUp},
-      {Qt::Key_Right, MoveDown},    {Qt::Key_Home, MoveHome},         {Qt::Key_End, MoveEnd},
-      {Qt::Key_PageUp, MovePageUp}, {Qt::Key_PageDown, MovePageDown},
-  };
-  const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
-  const int key = event->key();
-  if (modifiers == Qt::AltModifier && (key == Qt::Key_Up || key == Qt::Key_Down)) {
-    Perform([&] { widget_.UserDragStep(key == Qt::Key_Up ? -1 : 1); });
-    return;
-  }
-  if (modifiers & (Qt::AltModifier | Qt::ControlModifier | Qt::MetaModifier)) {
-    event->ignore();
-    return;
-  }
-  if (key == Qt::Key_Space) {
-    Perform([&] { widget_.UserToggle(); });
-    return;
-  }
-  const auto caret =
-      std::find_if(std::begin(kCaretKeys), std::end(kCaretKeys), [&](const CaretKey& row) { return row.key == key; });
-  if (caret != std::end(kCaretKeys)) {
-    MoveCaret(moveCursor(caret->action, Qt::NoModifier));
-  } else if (!event->text().isEmpty() && event->text().at(0).isPrint()) {
-    keyboardSearch(event->text());
+  if (pointer_.IsHeld()) return;
+  const int rowHeight = std::max(sizeHintForRow(0), 1);
+  const auto action = views::ActionOf(widget_, ToKeyPress(*event), Height() / rowHeight, search_);
+  if (action) {
+    Perform(action);
   } else {
     event->ignore();
   }
 }
 
 void ListBoxView::keyboardSearch(const QString& text) {
-  const int count = widget_.ListCount();
-  if (count == 0) return;
-  const QModelIndex next = entries_->index((widget_.ListIndex() + 1) % count);
-  const QModelIndexList found = entries_->match(next, Qt::DisplayRole, text, 1, Qt::MatchStartsWith | Qt::MatchWrap);
-  if (!found.isEmpty()) MoveCaret(found.front());
-}
-
-void ListBoxView::MoveCaret(const QModelIndex& entry) {
-  if (entry.isValid()) Perform([&] { widget_.UserMoveCaret(static_cast<std::int16_t>(entry.row())); });
+  if (const auto action = views::ActionOf(widget_, {.text = ToText(text)}, 1, search_)) Perform(action);
 }
 
 void ListBoxView::focusInEvent(QFocusEvent* event) {
@@ -218,12 +169,12 @@ void ListBoxView::focusInEvent(QFocusEvent* event) {
 
 void ListBoxView::changeEvent(QEvent* event) {
   QListView::changeEvent(event);
-  if (event->type() == QEvent::EnabledChange && !isEnabled()) ReleaseLater();
+  if (event->type() == QEvent::EnabledChange && !isEnabled()) pointer_.LetGo();
 }
 
 void ListBoxView::hideEvent(QHideEvent* event) {
   QListView::hideEvent(event);
-  ReleaseLater();
+  pointer_.LetGo();
 }
 
 void ListBoxView::paintEvent(QPaintEvent* event) {
@@ -267,10 +218,11 @@ void ListBoxView::ShowCaret() {
   }
   selectionModel()->setCurrentIndex(caret, QItemSelectionModel::NoUpdate);
   // Under the pointer nothing is to slip away.
-  if (pressed_ == 0) scrollTo(caret);
+  if (!pointer_.IsHeld()) scrollTo(caret);
 }
 
 void ListBoxView::ShowSelection() {
+  isSelectionBehind_ = false;
   QItemSelection selection;
   for (int begin = 0, left = widget_.SelCount(); left > 0 && begin < widget_.ListCount(); ++begin) {
     int end = begin;

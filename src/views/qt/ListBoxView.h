@@ -1,9 +1,10 @@
 #pragma once
 
 #include <QListView>
-#include <QPoint>
 #include <QTimer>
 
+#include "views/Keys.h"
+#include "views/ListPointer.h"
 #include "views/qt/EntryModel.h"
 #include "views/qt/WidgetView.h"
 
@@ -11,11 +12,12 @@ namespace ORXKMPrintProp::qt {
 
 /// Selection and caret are those of the ListBox. Qt's selection model follows them, for screen readers; what these
 /// change in it is taken for the user's hand.
-class ListBoxView : public ViewOf<QListView, ListBox> {
+class ListBoxView : public ViewOf<QListView, ListBox>, private views::ListGlass {
  public:
   ListBoxView(ListBox& list, const Reports& reports, QWidget* parent);
-  ~ListBoxView() override;
   void Refresh() override;
+  void Show(WidgetProperty what) override;
+  void EntryChanged(int index, EntryProperty what) override;
   void EntryAdded(int index) override;
   void EntryRemoved(int index) override;
   void EntriesCleared() override;
@@ -35,19 +37,21 @@ class ListBoxView : public ViewOf<QListView, ListBox> {
   QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex& index, const QEvent* event) const override;
 
  private:
-  void DragTo(QPoint position);
-  void ScrollDrag();
-  void Release(std::int16_t button);
-  /// A list that is disabled or hidden hears of no button any more.
-  void ReleaseLater();
-  void MoveCaret(const QModelIndex& entry);
+  int Height() const override { return viewport()->height(); }
+  int EntryAt(int y) const override;
+  void ScrollBy(int step) override;
+  void RunTimer(bool on) override;
+  void ReleaseLater() override;
+  void Perform(const std::function<void()>& action) override { WidgetView::Perform(action); }
+
   void ShowCaret();
   void ShowSelection();
 
   EntryModel* entries_;
-  std::int16_t pressed_ = 0;  ///< the button that is held since it went down on an entry, 0 for none
-  QPoint pointer_;            ///< where it was last, with the left button held
-  QTimer scrolling_;          ///< runs while it is held above or below the list
+  bool isSelectionBehind_ = false;  ///< Qt's selection is that of a while ago
+  QTimer scrolling_;
+  views::TypeAhead search_;
+  views::ListPointer pointer_{widget_, *this};
 };
 
 }  // namespace ORXKMPrintProp::qt

@@ -1,15 +1,15 @@
 #include "views/qt/PrnPropView.h"
 
 #include <QCursor>
+#include <QEvent>
 #include <QImage>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QPointer>
 #include <algorithm>
-#include <cmath>
 
+#include "views/TabOrder.h"
 #include "views/qt/CaptionViews.h"
 #include "views/qt/ComboBoxView.h"
 #include "views/qt/ListBoxView.h"
@@ -69,7 +69,7 @@ PrnPropView::PrnPropView(Dialog& dialog, QWidget* parent)
       dialog_(dialog),
       reports_{[this](const QString& message) { emit failed(message); },
                [this](const Widget& widget) { emit used(widget); }} {
-  setFixedSize(Place(kClientArea).size());
+  setFixedSize(PlaceOf(kClientArea).size());
   // The layout is not mirrored, so its arrows are not either.
   setLayoutDirection(Qt::LeftToRight);
   // What the widgets inherit they need not be given one by one.
@@ -90,32 +90,40 @@ void PrnPropView::MakeWidgets() {
   for (const auto& widget : dialog_.Controls()) {
     const LayoutRow& row = widget->Row();
     WidgetView* const view = MakeView(*widget, reports_, &ParentOf(row));
-    view->Glass().setGeometry(Place(row.geometry));
+    view->Glass().setGeometry(PlaceOf(row.geometry));
     views_.emplace(widget.get(), view);
     if (row.kind == WidgetKind::SSTab) tabs_ = dynamic_cast<TabStripView*>(view);
   }
 }
 
 void PrnPropView::SetTabOrder() {
-  std::vector<const Widget*> widgets;
-  for (const auto& widget : dialog_.Controls()) widgets.push_back(widget.get());
-  std::sort(widgets.begin(), widgets.end(),
-            [](const Widget* a, const Widget* b) { return a->Row().tabIndex < b->Row().tabIndex; });
   QWidget* last = nullptr;
-  for (const Widget* const widget : widgets) {
+  for (const Widget* const widget : views::TabOrder(dialog_)) {
     QWidget& glass = ViewFor(*widget).Glass();
-    if (glass.focusPolicy() == Qt::NoFocus && !glass.focusProxy()) continue;
     if (last) setTabOrder(last, &glass);
     last = &glass;
   }
 }
 
+bool PrnPropView::focusNextPrevChild(bool next) {
+  const auto hasFocus = [this](const Widget* widget) {
+    const QWidget& glass = ViewFor(*widget).Glass();
+    return (glass.focusProxy() ? glass.focusProxy() : &glass) == focusWidget();
+  };
+  const auto order = views::TabOrder(dialog_);
+  const auto from = std::find_if(order.begin(), order.end(), hasFocus);
+  const Widget* const to = from == order.end() ? nullptr : views::NextInTabOrder(dialog_, *from, next ? 1 : -1);
+  if (!to) return QWidget::focusNextPrevChild(next);
+  ViewFor(*to).Glass().setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  return true;
+}
+
 void PrnPropView::GiveNames() {
   for (const auto& widget : dialog_.Controls()) {
     if (widget->Row().kind == WidgetKind::SSTab) continue;
-    const SpokenName name(dialog_, *widget);
+    const views::SpokenName name(dialog_, *widget);
     QWidget& glass = ViewFor(*widget).Glass();
-    glass.setAccessibleName(name.Spoken());
+    glass.setAccessibleName(ToQString(name.Spoken()));
     for (const Label* const label : name.Labels()) {
       auto& shown = dynamic_cast<QLabel&>(ViewFor(*label).Glass());
       if (!shown.buddy() && &shown != &glass) shown.setBuddy(&glass);
@@ -124,13 +132,9 @@ void PrnPropView::GiveNames() {
   }
 }
 
-QRect PrnPropView::Place(const Geometry& geometry) const {
-  constexpr double kTwipsPerInch = 1440;
-  const auto x = [&](int twips) { return static_cast<int>(std::lround(twips * logicalDpiX() / kTwipsPerInch)); };
-  const auto y = [&](int twips) { return static_cast<int>(std::lround(twips * logicalDpiY() / kTwipsPerInch)); };
-  const QPoint topLeft(x(geometry.left), y(geometry.top));
-  const QPoint behind(x(geometry.left + geometry.width), y(geometry.top + geometry.height));
-  return QRect(topLeft, QSize(behind.x() - topLeft.x(), behind.y() - topLeft.y()));
+QRect PrnPropView::PlaceOf(const Geometry& geometry) const {
+  const views::Place place = views::PlaceOf(geometry, ResolutionOf(*this));
+  return {place.left, place.top, place.width, place.height};
 }
 
 QWidget& PrnPropView::ParentOf(const LayoutRow& row) {
@@ -147,25 +151,7 @@ void PrnPropView::changeEvent(QEvent* event) {
   Changed(dialog_.TabStrip(), WidgetProperty::Tab);
 }
 
-void PrnPropView::keyPressEvent(QKeyEvent* event) {
-  struct TabKey {
-    int key;
-    Qt::KeyboardModifiers modifiers;
-    int step;
-  };
-  static constexpr TabKey kTabKeys[] = {
-      {Qt::Key_Tab, Qt::ControlModifier, 1},
-      {Qt::Key_PageDown, Qt::ControlModifier, 1},
-      {Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier, -1},
-      {Qt::Key_PageUp, Qt::ControlModifier, -1},
-  };
-  for (const TabKey& tab : kTabKeys) {
-    if (event->key() != tab.key || (event->modifiers() & ~Qt::KeypadModifier) != tab.modifiers) continue;
-    tabs_->PickNext(tab.step);
-    return;
-  }
-  QWidget::keyPressEvent(event);
-}
+void PrnPropView::keyPressEvent(QKeyEvent* event) { tabs_->PickByKey(*event, false); }
 
 /// A page that was never on top need not have been prepared for it.
 void PrnPropView::BringUp(std::int16_t page) {
@@ -175,16 +161,19 @@ void PrnPropView::BringUp(std::int16_t page) {
   }
 }
 
-void PrnPropView::Changed(Widget& widget, WidgetProperty) {
+void PrnPropView::Changed(Widget& widget, WidgetProperty what) {
   SSTab& tabStrip = dialog_.TabStrip();
   if (&widget == &tabStrip) BringUp(tabStrip.Tab());
-  ViewFor(widget).Refresh();
+  ViewFor(widget).Show(what);
+  const bool isSpoken = what == WidgetProperty::Caption || what == WidgetProperty::ToolTipText;
   for (const auto& [named, name] : names_) {
-    if (name.DependsOn(widget)) ViewFor(*named).Glass().setAccessibleName(name.Spoken());
+    if (isSpoken && name.DependsOn(widget)) ViewFor(*named).Glass().setAccessibleName(ToQString(name.Spoken()));
   }
 }
 
-void PrnPropView::EntryChanged(EntryWidget& widget, std::int16_t, EntryProperty) { ViewFor(widget).Refresh(); }
+void PrnPropView::EntryChanged(EntryWidget& widget, std::int16_t index, EntryProperty what) {
+  ViewFor(widget).EntryChanged(index, what);
+}
 
 void PrnPropView::EntryAdded(EntryWidget& widget, std::int16_t index) { ViewFor(widget).EntryAdded(index); }
 

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "dialog/Dialog.h"
-#include "views/qt/SpokenName.h"
+#include "views/SpokenName.h"
 #include "views/qt/WidgetView.h"
 
 namespace ORXKMPrintProp::qt {
@@ -42,6 +42,7 @@ class PrnPropView : public QWidget, private View {
  protected:
   void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
 
  private:
   void Changed(Widget& widget, WidgetProperty what) override;
@@ -57,14 +58,14 @@ class PrnPropView : public QWidget, private View {
   void GiveNames();
   void BringUp(std::int16_t page);
   /// Where the widget lies, in pixels from its parent.
-  QRect Place(const Geometry& geometry) const;
+  QRect PlaceOf(const Geometry& geometry) const;
   QWidget& ParentOf(const LayoutRow& row);
   WidgetView& ViewFor(const Widget& widget) const { return *views_.at(&widget); }
 
   Dialog& dialog_;
   Reports reports_;
   std::unordered_map<const Widget*, WidgetView*> views_;
-  std::vector<std::pair<const Widget*, SpokenName>> names_;
+  std::vector<std::pair<const Widget*, views::SpokenName>> names_;
   TabStripView* tabs_ = nullptr;
   std::array<bool, SSTab::kTabs> wasOnTop_ = {};
 };

@@ -1,51 +1,43 @@
 #include "views/qt/TabStripView.h"
 
+#include <QKeyEvent>
 #include <QStyleOptionTabWidgetFrame>
 #include <QStylePainter>
 #include <QWheelEvent>
-#include <algorithm>
-#include <cmath>
+#include <functional>
 
-#include "views/qt/FittedText.h"
+#include "views/Fitting.h"
+#include "views/Places.h"
+#include "views/qt/QtKeys.h"
 #include "views/qt/QtText.h"
 
 namespace ORXKMPrintProp::qt {
 namespace {
 
-/// A tab has its share of a full row, and more where its caption needs it.
 class TabBar : public QTabBar {
  public:
   using QTabBar::QTabBar;
 
-  /// @return whether all captions can be read in full in the room that there is.
-  bool Fits() const {
-    int needed = 0;
-    for (int tab = 0; tab < count(); ++tab) needed += WidthOf(tab);
-    return needed <= width();
-  }
+  int Needed(int tab) const { return QTabBar::tabSizeHint(tab).width(); }
+  bool areCut = false;
+  std::function<void(QKeyEvent& event)> onKey;
 
  protected:
-  QSize tabSizeHint(int tab) const override { return {WidthOf(tab), height()}; }
+  QSize tabSizeHint(int tab) const override { return {views::TabWidth(width(), Needed(tab)), height()}; }
   QSize minimumTabSizeHint(int tab) const override {
-    return Fits() ? tabSizeHint(tab) : QSize(width() / count(), height());
+    return areCut ? QSize(width() / count(), height()) : tabSizeHint(tab);
   }
   /// A page that is left is stored; that is not to happen in passing.
   void wheelEvent(QWheelEvent* event) override { event->ignore(); }
-
- private:
-  int WidthOf(int tab) const { return std::max(width() / kTabsPerRow, QTabBar::tabSizeHint(tab).width()); }
+  void keyPressEvent(QKeyEvent* event) override { onKey(*event); }
 };
-
-/// The stored height of a tab counts hundredths of a millimetre: the topmost labels of the pages begin right below.
-int TabHeight(const QWidget& widget) {
-  constexpr double kPerInch = 2540;
-  return static_cast<int>(std::lround(kTabHeight * widget.logicalDpiY() / kPerInch));
-}
 
 }  // namespace
 
-TabStripView::TabStripView(SSTab& strip, const Reports& reports, QWidget* parent)
-    : ViewOf(strip, reports, parent), tabs_(new TabBar(this)) {
+TabStripView::TabStripView(SSTab& strip, const Reports& reports, QWidget* parent) : ViewOf(strip, reports, parent) {
+  auto* const tabs = new TabBar(this);
+  tabs->onKey = [this](QKeyEvent& event) { PickByKey(event, true); };
+  tabs_ = tabs;
   for (QWidget*& page : pages_) {
     page = new QWidget(this);
     tabs_->addTab(QString());
@@ -62,7 +54,7 @@ TabStripView::TabStripView(SSTab& strip, const Reports& reports, QWidget* parent
 
 void TabStripView::Refresh() {
   WidgetView::Refresh();
-  tabs_->setGeometry(0, 0, width(), TabHeight(*this));
+  tabs_->setGeometry(0, 0, width(), views::TabHeightAt(ResolutionOf(*this)));
   BringUp();
   for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) {
     const QString caption = ToQString(widget_.TabCaption(tab));
@@ -85,7 +77,11 @@ void TabStripView::BringUp() {
   }
 }
 
-void TabStripView::PickNext(int step) { Pick((widget_.Tab() + step + SSTab::kTabs) % SSTab::kTabs); }
+void TabStripView::PickByKey(QKeyEvent& event, bool isOnTabs) {
+  const auto tab = views::TabOf(widget_, ToKeyPress(event), isOnTabs);
+  event.setAccepted(tab.has_value());
+  if (tab) Pick(*tab);
+}
 
 void TabStripView::Pick(int tab) {
   Perform([&] { widget_.UserPick(static_cast<std::int16_t>(tab)); });
@@ -93,13 +89,20 @@ void TabStripView::Pick(int tab) {
 
 void TabStripView::FitTabs() {
   auto& tabs = static_cast<TabBar&>(*tabs_);
-  QFont font = StoredFont();
+  const auto take = [&](int percent) {
+    const QFont font = StoredFont(percent);
+    if (tabs.font() != font) tabs.setFont(font);
+  };
   tabs.setElideMode(Qt::ElideNone);
-  if (tabs.font() != font) tabs.setFont(font);
-  while (!tabs.Fits() && Shrink(font, StoredFont())) tabs.setFont(font);
-  if (!tabs.Fits()) tabs.setElideMode(Qt::ElideRight);
+  const views::FittedTabs fitted = views::FitTabs(SSTab::kTabs, tabs.width(), [&](int tab, int percent) {
+    take(percent);
+    return tabs.Needed(tab);
+  });
+  take(fitted.percent);
+  tabs.areCut = fitted.areCut;
+  if (fitted.areCut) tabs.setElideMode(Qt::ElideRight);
   for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) {
-    tabs.setTabToolTip(tab, tabs.Fits() ? QString() : ToQString(widget_.TabCaption(tab)));
+    tabs.setTabToolTip(tab, fitted.areCut ? ToQString(widget_.TabCaption(tab)) : QString());
   }
 }
 

@@ -15,8 +15,8 @@ class TabStripView : public ViewOf<QWidget, SSTab> {
   void Refresh() override;
 
   QWidget& Page(std::int16_t tab) const { return *pages_[static_cast<std::size_t>(tab)]; }
-  /// By keyboard: the page `step` behind the one on top, round and round.
-  void PickNext(int step);
+  /// Picks the page that the key brings to the top, or leaves the key alone.
+  void PickByKey(QKeyEvent& event, bool isOnTabs);
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -1,11 +1,12 @@
 #include "views/qt/WidgetView.h"
 
+#include <QFontMetrics>
 #include <QPointer>
 #include <QTextDocument>
 #include <exception>
 
 #include "tables/RunTimeError.h"
-#include "views/qt/FittedText.h"
+#include "views/Fitting.h"
 #include "views/qt/QtText.h"
 
 namespace ORXKMPrintProp::qt {
@@ -24,6 +25,17 @@ void WidgetView::Refresh() {
   ShowToolTip({});
   glass_.setEnabled(base_.Enabled());
   glass_.setVisible(base_.Visible());
+}
+
+void WidgetView::Show(WidgetProperty what) {
+  switch (what) {
+    case WidgetProperty::Enabled:
+      return glass_.setEnabled(base_.Enabled());
+    case WidgetProperty::Visible:
+      return glass_.setVisible(base_.Visible());
+    default:
+      Refresh();
+  }
 }
 
 void WidgetView::Perform(const std::function<void()>& action) {
@@ -55,7 +67,15 @@ void WidgetView::SetFont(const QFont& font) {
   if (glass_.font() != font) glass_.setFont(font);
 }
 
-QFont WidgetView::StoredFont() const { return ToQFont(base_.GetFont()); }
+QFont WidgetView::StoredFont(int percent) const {
+  QFont font = ToQFont(base_.GetFont());
+  if (percent < 100) font.setPointSizeF(font.pointSizeF() * percent / 100);
+  return font;
+}
+
+views::Resolution ResolutionOf(const QWidget& widget) {
+  return {static_cast<double>(widget.logicalDpiX()), static_cast<double>(widget.logicalDpiY())};
+}
 
 QFont ToQFont(const Font& stored) {
   QFont font(ToQString(stored.Name));
@@ -65,18 +85,17 @@ QFont ToQFont(const Font& stored) {
 }
 
 void WidgetView::ShowToolTip(const QString& cutText) {
-  QString text = cutText;
-  if (!text.isEmpty() && !base_.ToolTipText().empty()) text += u'\n';
-  text += ToQString(base_.ToolTipText());
-  glass_.setToolTip(ToolTipOf(text));
+  glass_.setToolTip(ToolTipOf(ToQString(views::ToolTipWith(ToText(cutText), base_.ToolTipText()))));
 }
 
 QString WidgetView::FitCaption(int width) {
-  const QString caption = ToQString(base_.Caption());
-  const FittedText fitted(caption, StoredFont(), width);
-  SetFont(fitted.font);
-  if (fitted.isCut) ShowToolTip(caption);
-  return fitted.text;
+  const auto measure = [this](TextView text, int percent) {
+    return QFontMetrics(StoredFont(percent)).horizontalAdvance(ToQString(text));
+  };
+  const views::FittedText fitted = views::Fit(base_.Caption(), width, measure);
+  SetFont(StoredFont(fitted.percent));
+  if (fitted.isCut) ShowToolTip(ToQString(base_.Caption()));
+  return ToQString(fitted.text);
 }
 
 }  // namespace ORXKMPrintProp::qt

@@ -5,7 +5,8 @@
 #include <QWidget>
 #include <functional>
 
-#include "dialog/Widgets.h"
+#include "dialog/Lists.h"
+#include "views/Places.h"
 
 namespace ORXKMPrintProp::qt {
 
@@ -31,6 +32,9 @@ class WidgetView {
 
   /// Shows all that the widget holds now.
   virtual void Refresh();
+  /// Shows what has changed; what is not one property's own is shown with all the rest.
+  virtual void Show(WidgetProperty what);
+  virtual void EntryChanged(int /*index*/, EntryProperty) {}
   virtual void EntryAdded(int /*index*/) {}
   virtual void EntryRemoved(int /*index*/) {}
   virtual void EntriesCleared() {}
@@ -42,7 +46,8 @@ class WidgetView {
   /// The same for what changes nothing.
   void Attempt(const std::function<void()>& action);
 
-  QFont StoredFont() const;
+  /// @param percent of the stored size
+  QFont StoredFont(int percent = 100) const;
   void SetFont(const QFont& font);
   /// The widget's tooltip, and ahead of it a text that could not be shown in full.
   void ShowToolTip(const QString& cutText);
@@ -57,6 +62,7 @@ class WidgetView {
 };
 
 QFont ToQFont(const Font& stored);
+views::Resolution ResolutionOf(const QWidget& widget);
 
 /// The same as a Qt widget of that class.
 template <class QtWidget, class W>

@@ -1,12 +1,9 @@
-#include "views/qt/SpokenName.h"
+#include "views/SpokenName.h"
 
-#include <QStringList>
 #include <algorithm>
-#include <string>
+#include <cstddef>
 
-#include "views/qt/QtText.h"
-
-namespace ORXKMPrintProp::qt {
+namespace ORXKMPrintProp::views {
 namespace {
 
 constexpr std::size_t kPrefix = 3;  // "txt", "cmb", "lst" ...
@@ -50,12 +47,13 @@ bool SpokenName::DependsOn(const Widget& widget) const {
   return std::find(sources_.begin(), sources_.end(), &widget) != sources_.end();
 }
 
-QString SpokenName::Spoken() const {
-  QStringList parts;
+Text SpokenName::Spoken() const {
+  Text name;
   for (const Widget* const source : sources_) {
-    parts += ToQString(IsTransferButton(*source) ? source->ToolTipText() : source->Caption());
+    if (!name.empty()) name += u", ";
+    name += IsTransferButton(*source) ? source->ToolTipText() : source->Caption();
   }
-  return parts.join(QStringLiteral(", "));
+  return name;
 }
 
 std::vector<const Label*> SpokenName::Labels() const {
@@ -66,4 +64,4 @@ std::vector<const Label*> SpokenName::Labels() const {
   return labels;
 }
 
-}  // namespace ORXKMPrintProp::qt
+}  // namespace ORXKMPrintProp::views

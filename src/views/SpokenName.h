@@ -1,11 +1,10 @@
 #pragma once
 
-#include <QString>
 #include <vector>
 
 #include "dialog/Dialog.h"
 
-namespace ORXKMPrintProp::qt {
+namespace ORXKMPrintProp::views {
 
 /// How a screen reader calls a widget: by its own caption; a field by the label beside it, and in a table of
 /// columns by the label above it too; a transfer button, which shows but an arrow, by its tooltip.
@@ -14,7 +13,7 @@ class SpokenName {
   SpokenName(const Dialog& dialog, const Widget& widget);
 
   bool DependsOn(const Widget& widget) const;
-  QString Spoken() const;
+  Text Spoken() const;
   /// Those of the name that are labels.
   std::vector<const Label*> Labels() const;
 
@@ -23,4 +22,4 @@ class SpokenName {
   std::vector<const Widget*> sources_;
 };
 
-}  // namespace ORXKMPrintProp::qt
+}  // namespace ORXKMPrintProp::views
