@@ -22,31 +22,17 @@
 namespace ORXKMPrintProp::host {
 namespace {
 
-enum class CellKind { NotWritten, WriteOnly, Text, Integer, LeadingNumber, Code };
-
-/// What kind of cells a column holds shows in what becomes of a text that starts with a number and is no code.
-template <class Class>
-CellKind KindOf(const ColumnOf<Class>& reader, const ColumnOf<Class>& writer) {
-  Class object;
-  try {
-    reader.read(object, Text(u"7?"));
-  } catch (const RunTimeError&) {
-    return CellKind::Integer;
-  }
-  const Text written = ToText(writer.write(object));
-  return written == u"7?" ? CellKind::Text : written == u"7" ? CellKind::LeadingNumber : CellKind::Code;
-}
-
-using Kinds = std::unordered_map<Text, CellKind>;
+/// By column, of those that the control writes; none for one that it never reads.
+using Kinds = std::unordered_map<Text, std::optional<CellKind>>;
 
 template <class Class>
 Kinds KindsOf(ColumnsOf<Class> columns) {
   Kinds kinds;
   for (const auto& writer : columns) {
     if (!writer.write) continue;
-    const auto reader = std::find_if(columns.begin(), columns.end(),
-                                     [&](const auto& column) { return column.read && column.name == writer.name; });
-    kinds[Text(writer.name)] = reader == columns.end() ? CellKind::WriteOnly : KindOf(*reader, writer);
+    const bool isRead = std::any_of(columns.begin(), columns.end(),
+                                    [&](const auto& column) { return column.read && column.name == writer.name; });
+    kinds[Text(writer.name)] = isRead ? std::optional(writer.kind) : std::nullopt;
   }
   return kinds;
 }
@@ -120,15 +106,16 @@ bool IsSame(const Variant& from, const Variant& to) {
   return from == to;
 }
 
-std::optional<ChangeKind> KindOfChange(CellKind kind, bool isAxis, bool isStructure, const Variant& from,
+std::optional<ChangeKind> KindOfChange(std::optional<CellKind> kind, bool isAxis, bool isStructure, const Variant& from,
                                        const Variant& to) {
   if (IsSame(from, to)) return {};
   if (std::holds_alternative<std::monostate>(to)) return ChangeKind::ColumnDropped;
   if (IsEmpty(from)) return ChangeKind::CellFilled;
   const Text text = ToText(Variant(from));
   if (text == ToText(Variant(to))) return ChangeKind::TypeChanged;
-  switch (kind) {
-    case CellKind::Integer:
+  if (!kind) return ChangeKind::Replaced;
+  switch (*kind) {
+    case CellKind::WholeNumber:
     case CellKind::LeadingNumber:
       if (IsBlank(from)) return ChangeKind::CellFilled;
       return NumberOf(from) == NumberOf(to) ? ChangeKind::TypeChanged : ChangeKind::NumberChanged;
@@ -137,10 +124,8 @@ std::optional<ChangeKind> KindOfChange(CellKind kind, bool isAxis, bool isStruct
       // The one code that two texts stand for; of a structure the cell says nothing.
       if (isAxis && (isStructure || ModPrnGen::AxisFromCell(text))) return ChangeKind::CodeNormalized;
       return ChangeKind::UnknownCode;
-    case CellKind::Text:
-      return ChangeKind::TextChanged;
     default:
-      return ChangeKind::Replaced;
+      return ChangeKind::TextChanged;
   }
 }
 
@@ -177,7 +162,7 @@ std::vector<Change> CellChanges(const TableRules& rules, const std::vector<Text>
   std::vector<Change> changes;
   for (const Text& column : columns) {
     const auto known = rules.kinds.find(column);
-    const CellKind cellKind = known == rules.kinds.end() ? CellKind::NotWritten : known->second;
+    const auto cellKind = known == rules.kinds.end() ? std::nullopt : known->second;
     Change change{.row = before.RowNumber(), .column = column, .from = before.Value(column), .to = after.Value(column)};
     const auto kind = KindOfChange(cellKind, column == u"AXIS", isStructure, change.from, change.to);
     if (!kind) continue;

@@ -16,11 +16,15 @@ namespace ORXKMPrintProp {
 
 enum class Direction { Both, ReadOnly, WriteOnly };
 
+/// What the cells of a column hold: any text, a whole number, one with anything behind it, or a code.
+enum class CellKind { Text, WholeNumber, LeadingNumber, Code };
+
 /// One column of a table, for rows that a `Class` reads and writes. A null function means that the column is not
 /// read, or not written.
 template <class Class>
 struct ColumnOf {
   TextView name;
+  CellKind kind;
   void (*read)(Class&, Variant&& cell);
   Variant (*write)(const Class&);
 };
@@ -28,26 +32,30 @@ struct ColumnOf {
 template <class Class>
 using ColumnsOf = std::span<const ColumnOf<Class>>;
 
-// What stands between a cell and a property: `Read` converts a cell, `Write` a value.
+// What stands between a cell and a property: `kKind` is the kind of cell, `Read` converts a cell, `Write` a value.
 
 struct TextCell {
+  static constexpr CellKind kKind = CellKind::Text;
   static Text Read(Variant&& cell) { return ToText(std::move(cell)); }
   static Variant Write(const Text& value) { return value; }
 };
 
 struct IntegerCell {
+  static constexpr CellKind kKind = CellKind::WholeNumber;
   static std::int16_t Read(const Variant& cell) { return ToInteger(cell); }
   static Variant Write(std::int16_t value) { return value; }
 };
 
 /// Tolerates anything behind the number, and is written as a text.
 struct LeadingNumberCell {
+  static constexpr CellKind kKind = CellKind::LeadingNumber;
   static std::int16_t Read(Variant&& cell) { return LeadingNumber(ToText(std::move(cell))); }
   static Variant Write(std::int16_t value) { return ToText(std::int32_t{value}); }
 };
 
 template <auto Decode, auto Encode>
 struct CodeCell {
+  static constexpr CellKind kKind = CellKind::Code;
   static auto Read(Variant&& cell) { return Decode(ToText(std::move(cell))); }
   template <class Value>
   static Variant Write(Value value) {
@@ -66,6 +74,7 @@ using NoSumsCell = CodeCell<ModPrnGen::NoSumsFromCell, ModPrnGen::NoSumsToCell>;
 
 /// On the axis is the opposite of hidden.
 struct HiddenAsAxisCell {
+  static constexpr CellKind kKind = CellKind::Code;
   static bool Read(Variant&& cell) { return !ModPrnGen::AxisFromCell(ToText(std::move(cell))); }
   static Variant Write(bool hidden) { return ModPrnGen::AxisToCell(!hidden); }
 };
@@ -73,7 +82,7 @@ struct HiddenAsAxisCell {
 /// The column of that name holds the property, in a cell of that kind.
 template <class Class, auto Member, class Cell>
 constexpr ColumnOf<Class> PropertyColumn(TextView name, Direction direction = Direction::Both) {
-  ColumnOf<Class> column{name, nullptr, nullptr};
+  ColumnOf<Class> column{name, Cell::kKind, nullptr, nullptr};
   if (direction != Direction::WriteOnly) {
     column.read = [](Class& object, Variant&& cell) { (object.*Member)(Cell::Read(std::move(cell))); };
   }
@@ -95,7 +104,7 @@ constexpr auto Joined(const std::array<ColumnOf<Class>, Sizes>&... tables) {
 /// A column that is written only, always with this text.
 template <class Class, char16_t Character>
 constexpr ColumnOf<Class> ConstantColumn(TextView name) {
-  return {name, nullptr, [](const Class&) -> Variant { return Text(1, Character); }};
+  return {name, CellKind::Text, nullptr, [](const Class&) -> Variant { return Text(1, Character); }};
 }
 
 /// Sets the properties from the row, column by column in the order of the table. Nothing is undone when a column

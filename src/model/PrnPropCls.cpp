@@ -7,7 +7,7 @@ namespace {
 
 template <std::int16_t Index>
 constexpr ColumnOf<PrnPropCls> LayoutColumn(TextView name) {
-  return {name, nullptr, [](const PrnPropCls& root) -> Variant { return root.FBLayout(Index); }};
+  return {name, CellKind::Text, nullptr, [](const PrnPropCls& root) -> Variant { return root.FBLayout(Index); }};
 }
 
 using C = PrnPropCls;
