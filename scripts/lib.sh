@@ -1,7 +1,7 @@
 # What the scripts share: the Debian packages and the builds. Sourced from the project's root.
 
 build_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base-dev fonts-dejavu-core)
-test_packages=(libgtest-dev pkg-config xvfb openbox)
+test_packages=(libgtest-dev pkg-config xvfb openbox xdotool)
 bench_packages=(libbenchmark-dev libsqlite3-dev)
 fuzz_packages=(clang libclang-rt-14-dev)
 

@@ -2,7 +2,7 @@
 #include <QLabel>
 #include <cstdlib>
 
-#include "host/window/FirstPaint.h"
+#include "FirstPaint.h"
 
 /// The least that a program with a window does, and the least that one with a text in it does: what the start of any
 /// other is measured against.
@@ -13,7 +13,7 @@ int main(int argc, char** argv) {
   QWidget window;
   window.resize(std::atoi(argv[1]), std::atoi(argv[2]));
   if (argc > 3) new QLabel(QString::fromUtf8(argv[3]), &window);
-  new ORXKMPrintProp::host::ExitAfterFirstPaint(window);
+  new ORXKMPrintProp::bench::ExitAfterFirstPaint(window);
   window.show();
   return QApplication::exec();
 }

@@ -37,17 +37,16 @@ double Median(std::vector<double> times) {
 
 }  // namespace
 
-/// start_bench RUNS PRNPROP DOCUMENT EMPTY WIDTH HEIGHT
+/// start_bench RUNS EDIT DOCUMENT EMPTY WIDTH HEIGHT
 int main(int argc, char** argv) {
   if (argc != 7) return 2;
   ::setenv("QT_QPA_PLATFORM", "offscreen", 0);
-  ::setenv("PRNPROP_EXIT_AFTER_FIRST_PAINT", "1", 1);
   struct Program {
     const char* name;
     Command command;
     std::vector<double> times = {};
   };
-  Program programs[] = {{"prnprop edit", {argv[2], "edit", argv[3]}},
+  Program programs[] = {{"prnprop edit", {argv[2], argv[3]}},
                         {"an empty window", {argv[4], argv[5], argv[6]}},
                         {"a window with one word", {argv[4], argv[5], argv[6], "word"}}};
   // Files and fonts are in memory after a first run.

@@ -5,7 +5,6 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QTimer>
-#include <memory>
 #include <stdexcept>
 #include <utility>
 
@@ -14,7 +13,6 @@
 #include "host/Load.h"
 #include "host/editor/EditedSettings.h"
 #include "host/window/Display.h"
-#include "host/window/FirstPaint.h"
 #include "host/window/SettingsWindow.h"
 #include "views/qt/QtPlatform.h"
 
@@ -48,27 +46,27 @@ std::unique_ptr<EditedSettings> Load(const EditOptions& options, qt::QtPlatform&
 
 }  // namespace
 
-int Edit(const EditOptions& options) {
+EditProgram::EditProgram(const EditOptions& options) {
   if (!HasDisplay()) throw LoadError("there is no display to open a window on");
   TakeQtMessages(true);
-  int argc = 1;
-  char name[] = "prnprop";
-  char* argv[] = {name, nullptr};
-  QApplication application(argc, argv);
+  application_ = std::make_unique<QApplication>(argc_, argv_);
   QGuiApplication::setDesktopFileName(QStringLiteral("prnprop"));
-  qt::QtPlatform platform;
-  std::unique_ptr<EditedSettings> settings;
+  platform_ = std::make_unique<qt::QtPlatform>();
   try {
-    settings = Load(options, platform);
+    settings_ = Load(options, *platform_);
   } catch (const std::exception& error) {
     const bool isSeen = IsTerminal(stderr) || QGuiApplication::platformName() == QStringLiteral("offscreen");
     if (!isSeen) Tell(error.what());
     throw;
   }
-  SettingsWindow window(*settings);
-  window.FitInto(window.screen()->availableSize());
-  if (qEnvironmentVariableIsSet("PRNPROP_EXIT_AFTER_FIRST_PAINT")) new ExitAfterFirstPaint(window);
-  window.show();
+  window_ = std::make_unique<SettingsWindow>(*settings_);
+  window_->FitInto(window_->screen()->availableSize());
+}
+
+EditProgram::~EditProgram() = default;
+
+int EditProgram::Run() {
+  window_->show();
   QTimer::singleShot(0, [] { QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("prnprop"))); });
   return QApplication::exec();
 }

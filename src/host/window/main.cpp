@@ -24,7 +24,7 @@ void AddEdit(CLI::App& program, int& status) {
     if (options->out.value_or(options->file) == kStandardStream) {
       throw CLI::ValidationError("-o OUT is needed, with the name of a file to save to");
     }
-    status = Edit(*options);
+    status = EditProgram(*options).Run();
   });
 }
 

@@ -5,7 +5,7 @@
 #include <QWidget>
 #include <cstdlib>
 
-namespace ORXKMPrintProp::host {
+namespace ORXKMPrintProp::bench {
 
 /// Ends the program, without any tidying up, as soon as the window has been painted once. For measuring the start.
 class ExitAfterFirstPaint : public QObject {
@@ -20,4 +20,4 @@ class ExitAfterFirstPaint : public QObject {
   }
 };
 
-}  // namespace ORXKMPrintProp::host
+}  // namespace ORXKMPrintProp::bench
