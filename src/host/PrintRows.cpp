@@ -27,6 +27,20 @@ Text FirstText(const Row& row, std::initializer_list<TextView> columns) {
   return {};
 }
 
+Text OwnerName(const Row& row) { return FirstText(row, {u"IOBJTXT", u"IOBJNM"}); }
+Text AttributeName(const Row& row) { return FirstText(row, {u"ATTRITXT", u"ATTRINM"}); }
+Text ElementName(const Row& row) { return FirstText(row, {u"CHAVLTXT", u"CHAVL"}); }
+
+Text Joined(const std::vector<Text>& parts, TextView separator) {
+  Text joined;
+  for (const Text& part : parts) {
+    if (part.empty()) continue;
+    if (!joined.empty()) joined += separator;
+    joined += part;
+  }
+  return joined;
+}
+
 bool IsPrinted(const Row& characteristic) { return AxisFromCell(RawText(characteristic, u"AXIS")); }
 
 Text PageLimit(const Row& general) {

@@ -22,6 +22,16 @@ Text Digits(int number);
 /// The first of the columns that says something, on one line.
 Text FirstText(const Row& row, std::initializer_list<TextView> columns);
 
+// What people call an item: by its text, else by its technical name.
+
+/// Of a row of the dimension table.
+Text OwnerName(const Row& row);
+Text AttributeName(const Row& row);
+Text ElementName(const Row& row);
+
+/// A list in words; empty parts are left out.
+Text Joined(const std::vector<Text>& parts, TextView separator = u", ");
+
 bool IsPrinted(const Row& characteristic);
 
 /// "At most" so much; empty for no limit.

@@ -20,17 +20,6 @@ namespace {
 
 using namespace ModPrnGen;
 
-/// A list in words; empty parts are left out.
-Text Joined(const std::vector<Text>& parts, TextView separator = u", ") {
-  Text joined;
-  for (const Text& part : parts) {
-    if (part.empty()) continue;
-    if (!joined.empty()) joined += separator;
-    joined += part;
-  }
-  return joined;
-}
-
 Text If(bool condition, TextView words) { return Text(condition ? words : TextView()); }
 
 TextView Alignment(const Row& row, TextView column) {
@@ -185,33 +174,32 @@ void ShowCharacteristics(std::span<const Owner> characteristics, Grid& grid) {
     grid.Line({Numbered(indent, itemNumber, name), LineText(row, u"PR_COL1_HEADER"), columns.first, columns.second});
   };
   for (const Owner& characteristic : characteristics) {
-    line(2, ++number, FirstText(*characteristic.row, {u"IOBJTXT", u"IOBJNM"}), *characteristic.row);
+    line(2, ++number, OwnerName(*characteristic.row), *characteristic.row);
     if (const Text details = Details(*characteristic.row); !details.empty()) grid.Detail(Text(6, u' ') + details);
     std::size_t attributeNumber = 0;
     for (const RowRef& attribute : characteristic.printed) {
-      line(6, ++attributeNumber, FirstText(*attribute, {u"ATTRITXT", u"ATTRINM"}), *attribute);
+      line(6, ++attributeNumber, AttributeName(*attribute), *attribute);
     }
   }
   if (number == 0) grid.Detail(u"  none");
 }
 
 void ShowStructure(const Owner& structure, Grid& grid) {
-  grid.Heading({FirstText(*structure.row, {u"IOBJTXT", u"IOBJNM"}), u"Title", u"Column"});
+  grid.Heading({OwnerName(*structure.row), u"Title", u"Column"});
   std::size_t number = 0;
   for (const RowRef& element : structure.printed) {
-    grid.Line({Numbered(2, ++number, FirstText(*element, {u"CHAVLTXT", u"CHAVL"})),
-               LineText(*element, u"PR_COL1_HEADER"), Placing(*element, u"PR_COL1_ALIGN", u"PR_COL1_WIDTH")});
+    grid.Line({Numbered(2, ++number, ElementName(*element)), LineText(*element, u"PR_COL1_HEADER"),
+               Placing(*element, u"PR_COL1_ALIGN", u"PR_COL1_WIDTH")});
   }
   if (number == 0) grid.Detail(u"  none");
 }
 
 /// The names of what hangs below each owner and is not printed, a line for each.
-void ShowHidden(TextView what, const std::vector<std::pair<Text, Rows>>& owners, TextView text, TextView name,
-                Grid& grid) {
+void ShowHidden(TextView what, const std::vector<std::pair<Text, Rows>>& owners, Text (*name)(const Row&), Grid& grid) {
   Text label = u"  " + Text(what);
   for (const auto& [owner, rows] : owners) {
     std::vector<Text> names;
-    for (const RowRef& row : rows) names.push_back(FirstText(*row, {text, name}));
+    for (const RowRef& row : rows) names.push_back(name(*row));
     // A name is more likely to hold a comma than a semicolon.
     const Text list = Joined(names, u"; ");
     if (!list.empty()) grid.Line({std::exchange(label, Text()), Joined({owner, list}, u": ")});
@@ -253,17 +241,16 @@ void Show(const SettingsDocument& document, bool color, std::ostream& out) {
   for (const Owner& owner : owners) {
     Rows rows = owner.hidden;
     if (!IsPrinted(*owner.row)) rows.insert(rows.begin(), owner.printed.begin(), owner.printed.end());
-    attributes.emplace_back(FirstText(*owner.row, {u"IOBJTXT", u"IOBJNM"}), rows);
+    attributes.emplace_back(OwnerName(*owner.row), rows);
   }
   std::vector<std::pair<Text, Rows>> elements;
   elements.reserve(structures.size());
-  for (const Owner& owner : structures)
-    elements.emplace_back(FirstText(*owner.row, {u"IOBJTXT", u"IOBJNM"}), owner.hidden);
+  for (const Owner& owner : structures) elements.emplace_back(OwnerName(*owner.row), owner.hidden);
 
   Grid rest(color, out);
-  ShowHidden(u"Characteristics", {{Text(), hidden}}, u"IOBJTXT", u"IOBJNM", rest);
-  ShowHidden(u"Attributes", attributes, u"ATTRITXT", u"ATTRINM", rest);
-  ShowHidden(u"Structure elements", elements, u"CHAVLTXT", u"CHAVL", rest);
+  ShowHidden(u"Characteristics", {{Text(), hidden}}, OwnerName, rest);
+  ShowHidden(u"Attributes", attributes, AttributeName, rest);
+  ShowHidden(u"Structure elements", elements, ElementName, rest);
   rest.PrintBelow(u"Not printed");
 }
 

@@ -62,14 +62,14 @@ class Sketcher {
   /// The sketch draws margins up to a size, and none below 0.
   void NoteMargins() {
     static constexpr TextView sides[] = {u"top ", u"bottom ", u"left ", u"right "};
-    Text words;
+    std::vector<Text> words;
     bool areDrawn = true;
     for (std::size_t side = 0; side < std::size(sides); ++side) {
       const int margin = sketch_.margins[side];
       areDrawn = areDrawn && margin >= 0 && margin <= PageSketch::kMostMargin;
-      words += (words.empty() ? u"Margins: " : u", ") + Text(sides[side]) + Digits(margin);
+      words.push_back(Text(sides[side]) + Digits(margin));
     }
-    if (!areDrawn) sketch_.notes.push_back(words);
+    if (!areDrawn) sketch_.notes.push_back(u"Margins: " + Joined(words));
   }
 
   void Columns() {
@@ -83,10 +83,9 @@ class Sketcher {
       if (!IsPrinted(*owner.row)) continue;
       const std::size_t level = levels_.size();
       levels_.push_back(owner.row);
-      AddTextColumns(*owner.row, {.level = level, .name = FirstText(*owner.row, {u"IOBJTXT", u"IOBJNM"})});
+      AddTextColumns(*owner.row, {.level = level, .name = OwnerName(*owner.row)});
       for (const RowRef& attribute : owner.printed) {
-        AddTextColumns(*attribute,
-                       {.level = level, .isAttribute = true, .name = FirstText(*attribute, {u"ATTRITXT", u"ATTRINM"})});
+        AddTextColumns(*attribute, {.level = level, .isAttribute = true, .name = AttributeName(*attribute)});
       }
     }
 
@@ -94,7 +93,7 @@ class Sketcher {
     for (const Owner& structure : OwnersOf(structures, tables_.Member().rows)) {
       for (const RowRef& row : structure.printed) {
         SketchColumn column{.title = FirstText(*row, {u"PR_COL1_HEADER", u"CHAVLTXT", u"CHAVL"}),
-                            .what = FirstText(*structure.row, {u"IOBJTXT", u"IOBJNM"})};
+                            .what = OwnerName(*structure.row)};
         Place(*row, u"PR_COL1_WIDTH", u"PR_COL1_ALIGN", column);
         column.isNumber = true;
         if (CurrencyPosition() == PP_PRN_CUPOS_HEAD) column.title += u" (EUR)";
@@ -132,12 +131,11 @@ class Sketcher {
 
   /// The lines show the totals of a few characteristics only.
   void NoteSums(PP_NoSums noSums, TextView words) {
-    Text names;
+    std::vector<Text> names;
     for (const RowRef& row : levels_) {
-      if (NoSumsFromCell(RawText(*row, u"NOSUMS")) != noSums) continue;
-      names += (names.empty() ? u"" : u"; ") + FirstText(*row, {u"IOBJTXT", u"IOBJNM"});
+      if (NoSumsFromCell(RawText(*row, u"NOSUMS")) == noSums) names.push_back(OwnerName(*row));
     }
-    if (!names.empty()) sketch_.notes.push_back(Text(words) + names);
+    if (const Text list = Joined(names, u"; "); !list.empty()) sketch_.notes.push_back(Text(words) + list);
   }
 
   void Add(SketchColumn column, Source source) {
