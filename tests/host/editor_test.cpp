@@ -34,7 +34,6 @@ class ScriptedWindow : public EditorWindow {
   }
   std::optional<Text> EditLayout(const Text&, const Text&, bool) override { return u"<head>"; }
   void ReadLater() override { readsLater = true; }
-  Text SpokenName(const Widget& widget) const override { return Text(widget.Row().name.name); }
 
   EditorState state;
   std::deque<std::pair<std::string, Choice>> answers;
@@ -157,11 +156,11 @@ TEST_F(EditorTest, ClosingAsksWhenSomethingHasChanged) {
 TEST_F(EditorTest, AFieldIsToldBeforeASaveWhenItsSettingCantTakeTheText) {
   Open();
   const std::tuple<TextView, const char16_t*, std::string> rows[] = {
-      {u"txtGenMarginTop", u"32768", "Page margins, txtGenMarginTop: 32768"},
-      {u"txtGenMarginTop", u"", "Page margins, txtGenMarginTop: (empty)"},
+      {u"txtGenMarginTop", u"32768", "Page margins, Top: 32768"},
+      {u"txtGenMarginTop", u"", "Page margins, Top: (empty)"},
       {u"txtGenMarginTop", u"1e2", ""},
       {u"txtGenMaxPages", u"", ""},
-      {u"txtGenMaxPages", u"32768", "General, txtGenMaxPages: 32768"},
+      {u"txtGenMaxPages", u"32768", "General, Maximal number of pages: 32768"},
   };
   for (const auto& [box, text, told] : rows) {
     Type(box, text);

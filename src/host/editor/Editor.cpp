@@ -7,6 +7,7 @@
 #include "host/DocumentError.h"
 #include "host/Utf8.h"
 #include "tables/RunTimeError.h"
+#include "views/SpokenName.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
@@ -106,7 +107,7 @@ std::vector<std::string> Editor::NotStored() const {
     const Widget& parent = *dialog.Find({row.parent});
     const Text& where = &parent == &dialog.TabStrip() ? dialog.TabStrip().TabCaption(row.page) : parent.Caption();
     const Text text = box->GetText().empty() ? u"(empty)" : box->GetText();
-    fields.push_back(ToUtf8(where + u", " + window_.SpokenName(*box) + u": " + text));
+    fields.push_back(ToUtf8(where + u", " + views::SpokenName(dialog, *box).Spoken() + u": " + text));
   }
   return fields;
 }

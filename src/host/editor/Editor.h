@@ -46,8 +46,6 @@ class EditorWindow {
   /// Is to call `Editor::Read` when the user's action has come to its end; not while a message of the dialog, which
   /// stands in the middle of an action, is open.
   virtual void ReadLater() = 0;
-  /// How a screen reader calls the widget.
-  virtual Text SpokenName(const Widget& widget) const = 0;
 };
 
 /// The rules of an editor: what counts as changed, when the tables are read, and what is asked before they are saved.

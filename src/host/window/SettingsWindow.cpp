@@ -195,8 +195,4 @@ void SettingsWindow::ReadLater() {
   QMetaObject::invokeMethod(this, read, Qt::QueuedConnection);
 }
 
-Text SettingsWindow::SpokenName(const Widget& widget) const {
-  return qt::ToText(view_->findChild<QWidget*>(ToQString(widget.Row().name.Spelled()))->accessibleName());
-}
-
 }  // namespace ORXKMPrintProp::host

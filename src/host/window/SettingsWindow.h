@@ -36,7 +36,6 @@ class SettingsWindow : public QWidget, private EditorWindow {
   Choice Ask(const Question& question) override;
   std::optional<Text> EditLayout(const Text& name, const Text& layout, bool readOnly) override;
   void ReadLater() override;
-  Text SpokenName(const Widget& widget) const override;
 
   QWidget* MakeButtons();
   void Fold(bool unfold);
