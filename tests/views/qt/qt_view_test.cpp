@@ -1,0 +1,241 @@
+// What only the Qt view has: its styles, its fonts, its undo, and what Qt's widgets take besides mouse and keys.
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QDropEvent>
+#include <QGroupBox>
+#include <QHelpEvent>
+#include <QInputMethodEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPointer>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTest>
+#include <QTimer>
+#include <QToolTip>
+#include <QWheelEvent>
+
+#include "control/ORXQueryPrnProp.h"
+#include "control/SharedValues.h"
+#include "host/SettingsDocument.h"
+#include "qt_hand.h"
+#include "support/loaded.h"
+#include "support/stage.h"
+#include "support/widget_text.h"
+#include "views/qt/QtPlatform.h"
+#include "views/qt/QtText.h"
+
+namespace ORXKMPrintProp::qt::test {
+namespace {
+
+using namespace ORXKMPrintProp::test;
+
+class QtViewTest : public testing::Test {
+ protected:
+  QtViewTest() : control((ReleaseSharedValues(), gDefaultFontName.clear(), platform)), view(dialog) {
+    view.show();
+    QApplication::setActiveWindow(&view);
+    static_cast<void>(QTest::qWaitForWindowExposed(&view));
+  }
+
+  void Load(const std::string& characteristics, std::int16_t tab = kCharTab) {
+    ASSERT_TRUE(Settings(Characteristics(characteristics)).LoadInto(control));
+    dialog.TabStrip().Tab(tab);
+    QApplication::processEvents();
+  }
+  std::string PrintList() const { return StateOf(dialog.Get<ListBox>(u"lstPrint", kCharTab)); }
+
+  QtPlatform platform;
+  ORXQueryPrnProp control;
+  Dialog& dialog = control.GetDialog();
+  PrnPropView view;
+};
+
+TEST_F(QtViewTest, TextThatIsComposedIsFilteredAndTextThatIsDroppedIsNot) {
+  Load("a", kGeneralTab);
+  auto& field = Glass<QLineEdit>(view, "txtGenMaxPages");
+  const auto text = [&] { return ToAscii(dialog.Get<TextBox>(u"txtGenMaxPages").GetText()); };
+  field.clear();
+  QInputMethodEvent commit;
+  commit.setCommitString(QStringLiteral("4x2"));
+  QApplication::sendEvent(&field, &commit);
+  EXPECT_EQ(text(), "42");
+  QMimeData dropped;
+  dropped.setText(QStringLiteral("-z"));
+  const QPoint end(field.width() - 3, field.height() / 2);
+  QDragEnterEvent enter(end, Qt::CopyAction, &dropped, Qt::LeftButton, {});
+  QApplication::sendEvent(&field, &enter);
+  QDropEvent drop(end, Qt::CopyAction, &dropped, Qt::LeftButton, {});
+  QApplication::sendEvent(&field, &drop);
+  EXPECT_EQ(text(), "42-z");
+  control.ORXSetReadOnly(true);
+  field.setText(QStringLiteral("66"));
+  EXPECT_EQ(text() + field.text().toStdString(), "42-z42-z");
+}
+
+TEST_F(QtViewTest, TheWheelPicksInAComboBoxThatHasTheFocusAlone) {
+  Load("a", kGeneralTab);
+  auto& combo = Glass(view, "cmbGenSignPrsnt");
+  const auto turned = [&] {
+    QWheelEvent wheel({10, 10}, {10, 10}, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&combo, &wheel);
+    return StateOf(dialog.Get<ComboBox>(u"cmbGenSignPrsnt"));
+  };
+  Glass(view, "txtGenMaxPages").setFocus();
+  EXPECT_EQ(turned(), ">-X X- (X)");
+  combo.setFocus();
+  EXPECT_EQ(turned(), "-X >X- (X)");
+}
+
+TEST_F(QtViewTest, ASlotThatFailsIsReported) {
+  std::string heard;
+  QObject::connect(&view, &PrnPropView::failed, [&](const QString& why) { heard = why.toStdString(); });
+  QObject::connect(&view, &PrnPropView::used, [] { throw std::runtime_error("nor a slot"); });
+  QTest::keyClick(&Glass(view, "chkGenUseColors"), Qt::Key_Space);
+  EXPECT_EQ(heard, "nor a slot");
+}
+
+TEST_F(QtViewTest, AnAssistiveProgramActsAsTheUser) {
+  Load("a b c");
+  const auto toggle = [](QAccessibleInterface* widget) {
+    ASSERT_TRUE(widget && widget->actionInterface());
+    widget->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+  };
+  toggle(QAccessible::queryAccessibleInterface(&Glass(view, "chkCharColAutoWidth")));
+  EXPECT_EQ(dialog.Get<CheckBox>(u"chkCharColAutoWidth").Value(), 1);
+  auto& glass = Glass<QListView>(view, "lstPrint(1)");
+  auto* const list = QAccessible::queryAccessibleInterface(&glass);
+  toggle(list->child(2));
+  EXPECT_EQ(PrintList(), "*a:1 b:2 >*c:3");
+  toggle(list->child(0));
+  EXPECT_EQ(PrintList(), ">a:1 b:2 *c:3");
+  glass.selectAll();
+  EXPECT_EQ(PrintList(), ">*a:1 b:2 *c:3");
+  for (int row = 0; row < 3; ++row) {
+    EXPECT_EQ(glass.selectionModel()->isRowSelected(row), row != 1) << "Qt's selection follows";
+  }
+  dialog.Get<Label>(u"lblCharCol2").Caption(u"Key & more");
+  EXPECT_EQ(Glass(view, "txtCharColWidth2").accessibleName(), QStringLiteral("Width, Key & more"));
+}
+
+TEST_F(QtViewTest, UndoStaysWithTheTextThatWasTyped) {
+  Load("a b");
+  auto& field = Glass<QLineEdit>(view, "txtCharColTitle");
+  const auto afterKeys = [&](const char* keys) {
+    QTest::keySequence(&field, QKeySequence(QLatin1String(keys)));
+    return ToAscii(dialog.Get<TextBox>(u"txtCharColTitle").GetText());
+  };
+  QTest::keyClicks(&field, QStringLiteral("Region"));
+  EXPECT_EQ(afterKeys("Ctrl+Z"), "");
+  EXPECT_EQ(afterKeys("Ctrl+Y"), "Region");
+  EXPECT_EQ(afterKeys("Ctrl+A, Del"), "");
+  for (const int entry : {0, 1}) {
+    auto& list = Glass<QListView>(view, "lstPrint(1)");
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(list.model()->index(entry, 0)).center());
+  }
+  EXPECT_EQ(PrintList(), "a:1 >*b:2");
+  EXPECT_EQ(afterKeys("Ctrl+Z"), "") << "the text of another";
+}
+
+TEST_F(QtViewTest, AViewMayGoWhileItsMessageIsOpen) {
+  Load("a b c d e f g h i j x- y-");
+  QPointer<PrnPropView> other = new PrnPropView(dialog);
+  other->show();
+  QTest::mouseClick(Glass<QListView>(*other, "lstAvail(1)").viewport(), Qt::LeftButton, {}, {5, 5});
+  QTimer::singleShot(0, [&] {
+    EXPECT_TRUE(qobject_cast<QMessageBox*>(QApplication::activeModalWidget()));
+    other->deleteLater();
+  });
+  QTest::mouseClick(&Glass(*other, "cmdLeftToRight(1)"), Qt::LeftButton);
+  EXPECT_FALSE(other);
+}
+
+TEST_F(QtViewTest, ASecondViewShowsWhatTheControlHoldsAlready) {
+  Load("a b x-");
+  QApplication::setLayoutDirection(Qt::RightToLeft);
+  const PrnPropView second(dialog);
+  QApplication::setLayoutDirection(Qt::LeftToRight);
+  const auto& shown = *second.findChild<QListView*>(QStringLiteral("lstPrint(1)"));
+  EXPECT_EQ(shown.model()->rowCount(), 2);
+  EXPECT_EQ(second.findChild<QTabBar*>()->currentIndex(), 1);
+  EXPECT_EQ(second.size(), QSize(645, 396));
+  EXPECT_EQ(shown.layoutDirection(), Qt::LeftToRight) << "the layout is not mirrored";
+  dialog.Get<ListBox>(u"lstPrint", 1).AddItem(u"new");
+  EXPECT_EQ(shown.model()->rowCount(), 3);
+}
+
+QString Unmarked(QString text) { return text.replace(QStringLiteral("&&"), QStringLiteral("&")); }
+
+/// What a widget shows of its caption; it must have the room for that.
+QString CaptionOf(const QWidget& glass) {
+  QString text;
+  if (const auto* label = qobject_cast<const QLabel*>(&glass)) text = label->text();
+  if (const auto* button = qobject_cast<const QAbstractButton*>(&glass)) text = button->text();
+  if (const auto* frame = qobject_cast<const QGroupBox*>(&glass)) text = frame->title();
+  EXPECT_LE(glass.fontMetrics().horizontalAdvance(Unmarked(text)), glass.width()) << glass.objectName().toStdString();
+  return Unmarked(text);
+}
+
+TEST_F(QtViewTest, EveryCaptionIsReadableInFull) {
+  Load("a");
+  const auto& tabs = *view.findChild<QTabBar*>();
+  const std::pair<const char*, TableRef> looks[] = {
+      {"fusion", nullptr},
+      {"windows", nullptr},
+      {"fusion", host::ReadSettings(PRNPROP_EXAMPLES "/german.json").texts},
+  };
+  for (const auto& [style, texts] : looks) {
+    QApplication::setStyle(QLatin1String(style));
+    if (texts) control.ORXControlTexts(texts);
+    for (const auto& widget : dialog.Controls()) {
+      if (widget->Caption().empty()) continue;
+      EXPECT_EQ(CaptionOf(Glass(view, ToAscii(widget->Row().name.Spelled()))), ToQString(widget->Caption()));
+    }
+    for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) {
+      EXPECT_EQ(Unmarked(tabs.tabText(tab)), ToQString(dialog.TabStrip().TabCaption(tab)));
+      EXPECT_EQ(tabs.tabRect(tab).width(), 641 / 5);
+    }
+  }
+  const QFont font = Glass(view, "txtGenPrnTitle").font();
+  EXPECT_EQ(font.family(), QApplication::font().family());
+  EXPECT_EQ(font.pointSizeF(), 8.25);
+  EXPECT_EQ(font.weight(), QFont::Normal);
+}
+
+TEST_F(QtViewTest, WhatDoesNotFitIsReadInTheTooltip) {
+  auto& label = dialog.Get<Label>(u"lblGenMarginTop");
+  const QWidget& shown = Glass(view, "lblGenMarginTop");
+  label.ToolTipText(u"of the page");
+  label.Caption(u"A <b>caption</b> & much too long for its place on the page");
+  EXPECT_TRUE(CaptionOf(shown).endsWith(QChar(0x2026))) << CaptionOf(shown).toStdString();
+  EXPECT_EQ(shown.toolTip().toStdString(),
+            "<p>A &lt;b&gt;caption&lt;/b&gt; &amp; much too long for its place on the page<br>\nof the page</p>")
+      << "the caption is no markup";
+  label.Caption(u"T&p");
+  EXPECT_EQ(CaptionOf(shown), QStringLiteral("T&p"));
+  EXPECT_EQ(shown.toolTip(), QStringLiteral("of the page"));
+
+  auto& list = Glass<QListView>(view, "lstPrint(1)");
+  Load("a x- an_entry_that_is_much_too_long_for_its_list");
+  for (const auto& [entry, tip] : {std::pair(0, list.toolTip()), {1, list.model()->index(1, 0).data().toString()}}) {
+    const QPoint point = list.visualRect(list.model()->index(entry, 0)).center();
+    QHelpEvent help(QEvent::ToolTip, point, list.viewport()->mapToGlobal(point));
+    QApplication::sendEvent(list.viewport(), &help);
+    EXPECT_EQ(QToolTip::text(), tip);
+  }
+
+  auto& tabs = *view.findChild<QTabBar*>();
+  for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) dialog.TabStrip().TabCaption(tab, Text(60, u'w'));
+  EXPECT_EQ(tabs.tabToolTip(3).size(), 60);
+  EXPECT_LE(tabs.tabRect(3).right(), tabs.width());
+}
+
+}  // namespace
+}  // namespace ORXKMPrintProp::qt::test
