@@ -45,7 +45,7 @@ class ORXQueryPrnProp {
   /// Loads new settings in the place of all former ones, empties the general table and fills the pages. The first
   /// load applies the default texts unless texts have been handed in.
   /// @return False when the general table has not exactly one row. The tables are the control's all the same.
-  /// @throws RunTimeError (Object) when a table is none; nothing is changed then. An error while reading
+  /// @throws RunTimeError (Object) when a table is missing; nothing is changed then. An error while reading
   /// leaves the control with its former tables and the model as far as it was read; one from emptying the general
   /// table or filling the pages leaves it with the new ones. (Table) when a table has loaded other settings from inside
   /// a call, in whichever control: those stay, and the control keeps none of these tables.
@@ -70,10 +70,10 @@ class ORXQueryPrnProp {
   /// Stores a layout, an opaque text, in the model. It reaches the tables when they are read next.
   /// @param ButtonID as in `ORXPrintLayoutGet`; numbers of any type count by their value, an empty one as 0.
   /// @param CharIObjName for button 4 the characteristic, by its exact technical name; the first one that bears it
-  /// gets the layout, and none is no error. Not looked at for the other buttons.
+  /// gets the layout, and to find none is not an error. Not looked at for the other buttons.
   /// @return always empty.
   /// @throws RunTimeError (Index) for any other number, and before this control's first load; (Type) for a
-  /// `ButtonID` that is no number.
+  /// `ButtonID` that is not a number.
   Variant ORXSetPrintLayout(Text FBLayout, const Variant& ButtonID, const Text& CharIObjName);
 
   /// True: the dialog takes no change. The user can still look at everything, and the layout buttons stay usable.

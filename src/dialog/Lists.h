@@ -22,7 +22,7 @@ class EntryWidget : public Widget {
   /// The user's action or a write has changed `ListIndex` or a selection. No other operation raises it.
   std::function<void()> Click;
 
-  /// Places an entry; its ItemData is 0 and it is not selected. `NewIndex` then tells where it went.
+  /// Places an entry; its ItemData is 0 and it is not selected. `NewIndex` is then where it went.
   /// @param index 0 to `ListCount`, where the entry goes, also in a sorted list. Without it the entry goes to the
   /// end, in a sorted list ahead of the first entry that sorts behind it.
   /// @throws RunTimeError (Overflow) when there are 32,767 entries.

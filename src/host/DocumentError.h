@@ -5,7 +5,7 @@
 
 namespace ORXKMPrintProp::host {
 
-/// A file that can't be read, written, or is no valid settings document. `what()` is one line with all that is
+/// A file that can't be read, written, or is not a valid settings document. `what()` is one line with all that is
 /// known of the place: "FILE: dimension, row 3, column AXIS: REASON".
 class DocumentError : public std::runtime_error {
  public:

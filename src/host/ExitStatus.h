@@ -7,7 +7,7 @@ enum ExitStatus : int {
   kSuccess = 0,
   kLoss = 1,     ///< a document loses something in a load, or does not load
   kUsage = 2,    ///< the command line is not understood
-  kBadFile = 3,  ///< a file can't be read or written, or is no valid document
+  kBadFile = 3,  ///< a file can't be read or written, or is not a valid document
 };
 
 }  // namespace ORXKMPrintProp::host

@@ -35,7 +35,7 @@ void CheckReplaceable(const std::string& path);
 
 /// Puts the content in the place of the file in one step, or makes the file. A file that is there keeps its
 /// permissions and, where the system lets it, its owner; a symbolic link stays, and what it points to is replaced.
-/// What is no regular file, such as a device or a pipe, is written to as it is.
+/// What is not a regular file, such as a device or a pipe, is written to as it is.
 /// @throws DocumentError (file and reason). A regular file is untouched then, and nothing is left behind beside it.
 void SaveFile(const std::string& path, std::string_view content);
 

@@ -147,7 +147,7 @@ FileStamp StampOf(const std::string& path) {
 void CheckReplaceable(const std::string& path) {
   const Target target(path);
   if (S_ISDIR(target.old.st_mode)) Fail(path, EISDIR);
-  if (!target.IsRegularOrNew()) throw DocumentError({.file = path}, "It is no regular file");
+  if (!target.IsRegularOrNew()) throw DocumentError({.file = path}, "It is not a regular file");
   const fs::path folder = target.path.has_parent_path() ? target.path.parent_path() : ".";
   if (::access(folder.c_str(), W_OK | X_OK) != 0) Fail(path, errno);
 }

@@ -32,18 +32,18 @@ void AddCheck(CLI::App& program, int& status) {
   };
   const auto options = std::make_shared<Options>();
   CLI::App* const check =
-      program.add_subcommand("check", "Tells what a load and a read-back would change in documents");
+      program.add_subcommand("check", "Shows what a load and a read-back would change in documents");
   check->add_option("FILE", options->files, "Settings documents")->required();
   check->add_flag("--json", options->json, "One JSON object per document, a line each");
   check->footer(
-      "Ends with 0 when nothing is lost, 1 when something would be or a load fails, 3 when a file is no\n"
+      "Ends with 0 when nothing is lost, 1 when something would be or a load fails, 3 when a file is not a\n"
       "settings document. Load errors call the tables GenPropTable, it_dim, it_mem and it_atr.");
   check->callback([options, &status] { status = Check(options->files, options->json, std::cout, std::cerr); });
 }
 
 void AddShow(CLI::App& program) {
   const auto file = std::make_shared<std::string>();
-  CLI::App* const show = program.add_subcommand("show", "Tells what would be printed, and what would not");
+  CLI::App* const show = program.add_subcommand("show", "Shows what would be printed, and what would not");
   show->add_option("FILE", *file, "Settings document")->required();
   show->callback([file] { Show(*file, WantsColor(), std::cout); });
 }
@@ -82,7 +82,7 @@ int Run(int argc, char** argv, const AddCommands& addCommands) {
     const auto unknown = failed->remaining();
     const bool noCommand = failed->get_subcommands().empty() && !unknown.empty();
     return "prnprop: " + (noCommand ? "there is no command " + unknown.front() : std::string(error.what())) +
-           "\nprnprop --help tells how it is used.\n";
+           "\nTry prnprop --help.\n";
   });
   int status = kSuccess;
   AddCheck(program, status);

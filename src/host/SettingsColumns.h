@@ -7,7 +7,7 @@
 
 namespace ORXKMPrintProp::host {
 
-/// In the dimension table the column that tells the row of a structure.
+/// In the dimension table the column that marks the row of a structure.
 inline constexpr TextView kIsStructure = u"IS_STRUCTURE";
 
 /// The columns that every table of that name in a document has, those that the control writes ahead, as it does.

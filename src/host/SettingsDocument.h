@@ -23,7 +23,7 @@ struct SettingsDocument {
   MemoryTableRef member;
   MemoryTableRef attribute;
   MemoryTableRef texts;               ///< none when the document has no such member
-  std::optional<std::string> schema;  ///< the member "$schema", which is no table
+  std::optional<std::string> schema;  ///< the member "$schema", which is not a table
 };
 
 struct TableMember {
@@ -55,7 +55,7 @@ nlohmann::ordered_json RowsToJson(MemoryTable& table);
 /// Null for an empty cell. @throws RunTimeError (Type) for an object.
 nlohmann::ordered_json CellToJson(const Variant& cell);
 
-/// On one line. What is no UTF-8 in it, as a file's name may be, is replaced by U+FFFD.
+/// On one line. What is not UTF-8 in it, as a file's name may be, is replaced by U+FFFD.
 std::string ToLine(const nlohmann::ordered_json& json);
 
 /// Whether a row of the dimension table is that of a structure.

@@ -5,7 +5,7 @@
 
 namespace ORXKMPrintProp::host {
 
-/// Tells a person what would be printed with the document's settings, and what would not.
+/// Shows a person what would be printed with the document's settings, and what would not.
 /// @param color with the escape sequences of a terminal.
 /// @throws DocumentError, LoadError; nothing is written then.
 void Show(const std::string& path, bool color, std::ostream& out);

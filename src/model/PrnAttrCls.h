@@ -25,7 +25,7 @@ class PrnAttrCollCls : public CollCls<PrnAttrCls> {
  public:
   /// Reads the run of rows that `gAttrRowIndex` has for the cell `IOBJNM` of `ChaRow`; fills that index first if it
   /// is still empty. Without a run the collection stays empty.
-  /// @throws RunTimeError (KeyExists) when a name starts a second run; the message tells the name and the row.
+  /// @throws RunTimeError (KeyExists) when a name starts a second run; the message has the name and the row.
   void FromTable(const Row& ChaRow, Table& it_atr);
   /// Appends one row per attribute.
   void ToTable(Table& it_atr, TextView CharIObjName) const;

@@ -33,7 +33,7 @@ class PrnCharCls : public PrnColumnsCls {
   /// The columns of a characteristic row of the dimension table.
   static ColumnsOf<PrnCharCls> Columns();
 
-  /// Reads the row, then the characteristic's attribute rows; to have none is no failure.
+  /// Reads the row, then the characteristic's attribute rows; to have none is not a failure.
   void FromTable(const Row& ChaRow, Table& it_atr);
   void ToTable(Row& DimRow, Table& it_atr) const;
 

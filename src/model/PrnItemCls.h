@@ -22,7 +22,7 @@ class PrnItemCls {
 };
 
 /// What characteristics and attributes have in common: two columns. With key and description both are used, in
-/// the order that the presentation tells; with either alone there is only column 1.
+/// the order of the presentation; with either alone there is only column 1.
 class PrnColumnsCls : public PrnItemCls {
  public:
   Property<PP_ValuePresentation> Presentation;

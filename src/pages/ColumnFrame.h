@@ -42,8 +42,8 @@ class ColumnFrame {
   AutoWidth<PrnColumnsCls> autoWidth_;
 };
 
-/// Sets the captions of the two columns' labels. A presentation that is none leaves them, one with a single column
-/// leaves the second.
+/// Sets the captions of the two columns' labels. Any other number than a presentation leaves them, one with a single
+/// column leaves the second.
 void SetColumnLabels(std::int32_t Presentation, Label& Label1, Label& Label2);
 
 }  // namespace ORXKMPrintProp

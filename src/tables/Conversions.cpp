@@ -73,7 +73,7 @@ HeadNumber ReadHead(const std::string& text) {
   return {negative ? -value : value, end};
 }
 
-/// None for what does not fit into 16 bits, which includes what is no number at all.
+/// None for what does not fit into 16 bits, which includes what is not a number at all.
 std::optional<std::int16_t> TryRounded(double number) {
   double whole = std::floor(number);
   const double fraction = number - whole;
@@ -114,37 +114,40 @@ Text ToText(std::int32_t number) {
 }
 
 Text ToText(Variant&& value) {
-  return std::visit(Overloaded{
-                        [](std::monostate) { return Text(); },
-                        [](bool flag) { return Text(flag ? u"True" : u"False"); },
-                        [](std::int16_t number) { return ToText(std::int32_t{number}); },
-                        [](std::int32_t number) { return ToText(number); },
-                        [](double number) {
-                          char digits[512];  // the largest double has 309 digits, the smallest 326 behind the point
-                          return Widened(digits,
-                                         std::to_chars(digits, std::end(digits), number, std::chars_format::fixed).ptr);
-                        },
-                        [](Text& text) { return std::move(text); },
-                        [](const ObjectRef&) -> Text { throw RunTimeError(ErrorKind::Type, u"An object is no text."); },
-                    },
-                    value);
+  return std::visit(
+      Overloaded{
+          [](std::monostate) { return Text(); },
+          [](bool flag) { return Text(flag ? u"True" : u"False"); },
+          [](std::int16_t number) { return ToText(std::int32_t{number}); },
+          [](std::int32_t number) { return ToText(number); },
+          [](double number) {
+            char digits[512];  // the largest double has 309 digits, the smallest 326 behind the point
+            return Widened(digits, std::to_chars(digits, std::end(digits), number, std::chars_format::fixed).ptr);
+          },
+          [](Text& text) { return std::move(text); },
+          [](const ObjectRef&) -> Text { throw RunTimeError(ErrorKind::Type, u"An object cannot be a text."); },
+      },
+      value);
 }
 
 std::int16_t ToInteger(const Variant& value) {
-  return std::visit(
-      Overloaded{
-          [](std::monostate) -> std::int16_t { throw RunTimeError(ErrorKind::Type, u"An empty cell is no number."); },
-          [](bool flag) { return static_cast<std::int16_t>(flag ? -1 : 0); },
-          [](std::int16_t number) { return number; },
-          [](std::int32_t number) { return ToInteger16(number); },
-          [](double number) { return Rounded(number); },
-          [](const Text& text) {
-            if (const auto number = TryNumber(text)) return Rounded(*number);
-            throw RunTimeError(ErrorKind::Type, u"The text \"" + text + u"\" is no number.");
-          },
-          [](const ObjectRef&) -> std::int16_t { throw RunTimeError(ErrorKind::Type, u"An object is no number."); },
-      },
-      value);
+  return std::visit(Overloaded{
+                        [](std::monostate) -> std::int16_t {
+                          throw RunTimeError(ErrorKind::Type, u"An empty cell is not a number.");
+                        },
+                        [](bool flag) { return static_cast<std::int16_t>(flag ? -1 : 0); },
+                        [](std::int16_t number) { return number; },
+                        [](std::int32_t number) { return ToInteger16(number); },
+                        [](double number) { return Rounded(number); },
+                        [](const Text& text) {
+                          if (const auto number = TryNumber(text)) return Rounded(*number);
+                          throw RunTimeError(ErrorKind::Type, u"The text \"" + text + u"\" is not a number.");
+                        },
+                        [](const ObjectRef&) -> std::int16_t {
+                          throw RunTimeError(ErrorKind::Type, u"An object cannot be a number.");
+                        },
+                    },
+                    value);
 }
 
 std::int16_t LeadingNumber(TextView text) { return Rounded(LeadingValue(text)); }

@@ -6,7 +6,7 @@
 #include "tables/Variant.h"
 
 // The plain conversions between cells, texts and 16-bit integers. Each fails with RunTimeError: Type for a value
-// that is none of what is asked for, Overflow for a number outside -32,768 to 32,767. Fractions round to the
+// that cannot be what is asked for, Overflow for a number outside -32,768 to 32,767. Fractions round to the
 // nearest whole number, ties to the even one.
 
 namespace ORXKMPrintProp {
@@ -20,7 +20,7 @@ Text ToText(std::int32_t number);
 
 /// A number of any type, a Boolean (True is -1, False 0), or a text of which the whole is a number: blanks around
 /// it, a sign, a period as decimal point and an exponent are read, nothing else.
-/// @throws RunTimeError (Type) for an empty value, an empty text, a text that is no number, an object.
+/// @throws RunTimeError (Type) for an empty value, an empty text, a text that is not a number, an object.
 std::int16_t ToInteger(const Variant& value);
 
 /// The longest number at the head of the text, 0 if there is no digit. Blanks are skipped wherever they stand.

@@ -179,7 +179,7 @@ std::unique_ptr<RowEnumerator> MemoryTable::Enumerate() { return std::make_uniqu
 void MemoryTable::KeyColumn(const Variant& index) {
   const std::int32_t* const column = std::get_if<std::int32_t>(&index);
   if (!column || *column < 1 || *column > static_cast<std::int32_t>(ColumnNames().size())) {
-    throw RunTimeError(ErrorKind::Table, u"That is no index of a column of the table.");
+    throw RunTimeError(ErrorKind::Table, u"The table has no column with that index.");
   }
   keyColumn_ = *column;
 }

@@ -27,7 +27,7 @@ Text ValueOf(std::span<const Variant> values, std::int16_t number) {
   try {
     return ToText(Variant(values[static_cast<std::size_t>(number)]));
   } catch (const RunTimeError&) {
-    return {};  // a value that is no text
+    return {};  // a value that cannot be a text
   }
 }
 

@@ -17,7 +17,7 @@ class SettingsWindow;
 /// The program of a document that is edited in a window.
 class EditProgram {
  public:
-  /// Makes the window. Where nobody sees standard error, a message box tells first what is thrown here.
+  /// Makes the window. Where nobody sees standard error, a message box first says what is thrown here.
   /// @throws DocumentError for a document that can't be read, or could not be saved; LoadError for one that does not
   /// load, and where there is no display.
   explicit EditProgram(const EditOptions& options);

@@ -34,7 +34,7 @@ class ButtonView : public ViewOf<QPushButton, CommandButton> {
   void Refresh() override;
 
  protected:
-  /// Enter presses the button that has the focus, once; it is none that a dialog around it presses by itself.
+  /// Enter presses the button that has the focus, once; a dialog around it never presses it by itself.
   void keyPressEvent(QKeyEvent* event) override;
 };
 

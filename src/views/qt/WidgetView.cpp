@@ -63,7 +63,7 @@ void WidgetView::Attempt(const std::function<void()>& action) {
 }
 
 void WidgetView::SetFont(const QFont& font) {
-  // A change of font costs a widget its layout and style, also when it is none.
+  // A change of font costs a widget its layout and style, also when it changes nothing.
   if (glass_.font() != font) glass_.setFont(font);
 }
 
