@@ -20,6 +20,29 @@ struct EntryWidget::Entry {
 EntryWidget::EntryWidget(WidgetContext& context, const LayoutRow& row) : Widget(context, row) {}
 EntryWidget::~EntryWidget() = default;
 
+inline std::unique_ptr<EntryWidget::Entry> EntryWidget::Take(std::int16_t index) {
+  Entry& taken = At(index);
+  OnRemove(taken);
+  auto entry = entries_.Take(static_cast<std::size_t>(index));
+  ranked_ = std::min(ranked_, static_cast<std::size_t>(index));
+  if (IndexFollowsEntry()) {
+    if (listIndex_ == index) {
+      listIndex_ = -1;
+    } else if (listIndex_ > index) {
+      --listIndex_;
+    }
+  }
+  context_.view->EntryRemoved(*this, index);
+  return entry;
+}
+
+inline void EntryWidget::Put(std::size_t place, std::unique_ptr<Entry>&& entry) {
+  entries_.Insert(place, std::move(entry));
+  newIndex_ = static_cast<std::int16_t>(place);
+  if (IndexFollowsEntry() && listIndex_ >= newIndex_) ++listIndex_;
+  context_.view->EntryAdded(*this, newIndex_);
+}
+
 void EntryWidget::AddItem(Text text, std::optional<std::int16_t> index) {
   if (entries_.size() >= std::numeric_limits<std::int16_t>::max()) {
     throw RunTimeError(ErrorKind::Overflow, Text(Row().name.name) + u" can hold no more entries.");
@@ -46,29 +69,6 @@ void EntryWidget::MoveItem(std::int16_t index, std::int16_t to) {
   const auto place = static_cast<std::size_t>(to);
   ranked_ = std::min(ranked_, place);
   Put(place, std::move(entry));
-}
-
-std::unique_ptr<EntryWidget::Entry> EntryWidget::Take(std::int16_t index) {
-  Entry& taken = At(index);
-  OnRemove(taken);
-  auto entry = entries_.Take(static_cast<std::size_t>(index));
-  ranked_ = std::min(ranked_, static_cast<std::size_t>(index));
-  if (IndexFollowsEntry()) {
-    if (listIndex_ == index) {
-      listIndex_ = -1;
-    } else if (listIndex_ > index) {
-      --listIndex_;
-    }
-  }
-  context_.view->EntryRemoved(*this, index);
-  return entry;
-}
-
-void EntryWidget::Put(std::size_t place, std::unique_ptr<Entry> entry) {
-  entries_.Insert(place, std::move(entry));
-  newIndex_ = static_cast<std::int16_t>(place);
-  if (IndexFollowsEntry() && listIndex_ >= newIndex_) ++listIndex_;
-  context_.view->EntryAdded(*this, newIndex_);
 }
 
 void EntryWidget::Clear() {

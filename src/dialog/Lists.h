@@ -65,7 +65,7 @@ class EntryWidget : public Widget {
  private:
   std::size_t SortedPlace(TextView text);
   std::unique_ptr<Entry> Take(std::int16_t index);
-  void Put(std::size_t place, std::unique_ptr<Entry> entry);
+  void Put(std::size_t place, std::unique_ptr<Entry>&& entry);
 
   GapVector<std::unique_ptr<Entry>> entries_;
   std::size_t ranked_ = 0;  ///< how many entries, from the first, know the greatest one up to them

@@ -128,7 +128,9 @@ void ReadRow(ColumnsOf<Class> columns, TextView tableName, const Row& row, Class
 template <class Class>
 void WriteRow(ColumnsOf<Class> columns, const Class& object, Row& row) {
   for (const ColumnOf<Class>& column : columns) {
-    if (column.write) SetCell(row, column.name, column.write(object));
+    if (!column.write) continue;
+    row.Value(column.name, column.write(object));
+    TableOperation::CheckNotOvertaken();
   }
 }
 

@@ -45,7 +45,7 @@ inline Variant CellOf(const Row& row, TextView column) {
   return cell;
 }
 
-inline void SetCell(Row& row, TextView column, Variant cell) {
+inline void SetCell(Row& row, TextView column, Variant&& cell) {
   row.Value(column, std::move(cell));
   TableOperation::CheckNotOvertaken();
 }

@@ -29,23 +29,19 @@ class Variant : public PlainVariant {
   using PlainVariant::operator=;
 
   Variant() = default;
-  Variant(const Variant& other) : PlainVariant() { Copy(other); }
+  Variant(const Variant& other) : PlainVariant(CopyOf(other)) {}
   Variant(Variant&&) noexcept = default;
   Variant& operator=(const Variant& other) {
-    Copy(other);
+    PlainVariant::operator=(CopyOf(other));
     return *this;
   }
   Variant& operator=(Variant&&) noexcept = default;
   ~Variant() = default;
 
  private:
-  void Copy(const Variant& other) {
-    if (const Text* const text = std::get_if<Text>(&other)) {
-      Text copy = *text;
-      PlainVariant::operator=(std::move(copy));
-    } else {
-      PlainVariant::operator=(static_cast<const PlainVariant&>(other));
-    }
+  static PlainVariant CopyOf(const PlainVariant& other) {
+    if (const Text* const text = std::get_if<Text>(&other)) return PlainVariant(std::in_place_type<Text>, *text);
+    return other;
   }
 };
 

@@ -89,8 +89,9 @@ void TabStripView::Pick(int tab) {
 
 void TabStripView::FitTabs() {
   auto& tabs = static_cast<TabBar&>(*tabs_);
+  const QFont full = StoredFont();
   const auto take = [&](int percent) {
-    const QFont font = StoredFont(percent);
+    const QFont font = Scaled(full, percent);
     if (tabs.font() != font) tabs.setFont(font);
   };
   tabs.setElideMode(Qt::ElideNone);

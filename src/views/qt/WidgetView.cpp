@@ -67,9 +67,10 @@ void WidgetView::SetFont(const QFont& font) {
   if (glass_.font() != font) glass_.setFont(font);
 }
 
-QFont WidgetView::StoredFont(int percent) const {
-  QFont font = ToQFont(base_.GetFont());
-  if (percent < 100) font.setPointSizeF(font.pointSizeF() * percent / 100);
+QFont WidgetView::StoredFont() const { return ToQFont(base_.GetFont()); }
+
+QFont Scaled(QFont font, int percent) {
+  if (percent != 100) font.setPointSizeF(font.pointSizeF() * percent / 100);
   return font;
 }
 
@@ -89,11 +90,12 @@ void WidgetView::ShowToolTip(const QString& cutText) {
 }
 
 QString WidgetView::FitCaption(int width) {
-  const auto measure = [this](TextView text, int percent) {
-    return QFontMetrics(StoredFont(percent)).horizontalAdvance(ToQString(text));
+  const QFont full = StoredFont();
+  const auto measure = [&full](TextView text, int percent) {
+    return QFontMetrics(Scaled(full, percent)).horizontalAdvance(ToQString(text));
   };
   const views::FittedText fitted = views::Fit(base_.Caption(), width, measure);
-  SetFont(StoredFont(fitted.percent));
+  SetFont(Scaled(full, fitted.percent));
   if (fitted.isCut) ShowToolTip(ToQString(base_.Caption()));
   return ToQString(fitted.text);
 }

@@ -46,8 +46,7 @@ class WidgetView {
   /// The same for what changes nothing.
   void Attempt(const std::function<void()>& action);
 
-  /// @param percent of the stored size
-  QFont StoredFont(int percent = 100) const;
+  QFont StoredFont() const;
   void SetFont(const QFont& font);
   /// The widget's tooltip, and ahead of it a text that could not be shown in full.
   void ShowToolTip(const QString& cutText);
@@ -62,6 +61,7 @@ class WidgetView {
 };
 
 QFont ToQFont(const Font& stored);
+QFont Scaled(QFont font, int percent);
 views::Resolution ResolutionOf(const QWidget& widget);
 
 /// The same as a Qt widget of that class.
