@@ -160,6 +160,26 @@ TEST(TablesThatCallBack, LoadOtherSettingsWhichStay) {
   ReleaseSharedValues();
 }
 
+TEST(TablesThatCallBack, LookThingsUpInOtherSettingsWithoutHarm) {
+  const std::string expected = Undisturbed("a", kGeneralTab);
+  bool wasCalled = true;
+  for (std::size_t k = 1; wasCalled; k += 10) {
+    ReleaseSharedValues();
+    const Nested nested("a", "b");
+    ORXQueryPrnProp control;
+    wasCalled = false;
+    const auto lookUp = [&] {
+      const SharedValuesGuard guard;
+      ORXQueryPrnProp other;
+      wasCalled = nested.second.LoadInto(other) && other.ORXDimTable();
+    };
+    ASSERT_EQ(nested.Acting(k, lookUp, nested.Use(control, Nested::Load)), "none") << k;
+    Type(control);
+    control.ORXDimTable();
+    ASSERT_EQ(nested.first.State(control), expected) << k;
+  }
+}
+
 TEST(TablesThatCallBack, AreNotReadBackFromInside) {
   const std::string expected = Undisturbed("a", kGeneralTab);
   for (const bool inRead : {false, true}) {

@@ -7,7 +7,8 @@
 
 #include "dialog/DialogFont.h"  // IWYU pragma: export  gDefaultFontName
 #include "model/PrnPropCls.h"   // IWYU pragma: export  gPrnProp, gErrorText, gAttrRowIndex
-#include "texts/LookupText.h"   // IWYU pragma: export  gTextTable
+#include "tables/TableOperation.h"
+#include "texts/LookupText.h"  // IWYU pragma: export  gTextTable
 
 namespace ORXKMPrintProp {
 
@@ -19,7 +20,8 @@ extern thread_local bool gTabSetup;
 void ReleaseSharedValues();
 
 /// As long as one lives, the thread has no model and no text table; afterwards it has those that it had before. For a
-/// control that a host makes only to look something up: made and ended within, it does not touch what others show.
+/// control that a host makes only to look something up, also from inside a call on a table: made and ended within, it
+/// does not touch what others show, load or read back.
 class SharedValuesGuard {
  public:
   SharedValuesGuard();
@@ -32,6 +34,7 @@ class SharedValuesGuard {
   std::shared_ptr<AttrRowIndex> attrRowIndex_;
   TableRef textTable_;
   Text errorText_;
+  TableOperation* operation_;
 };
 
 }  // namespace ORXKMPrintProp

@@ -1,5 +1,7 @@
 #include "tables/TableOperation.h"
 
+#include <utility>
+
 namespace ORXKMPrintProp {
 
 constinit thread_local TableOperation* TableOperation::innermost_ = nullptr;
@@ -10,6 +12,8 @@ Overtaken::Overtaken()
 TableOperation::TableOperation() : outer_(innermost_) { innermost_ = this; }
 
 TableOperation::~TableOperation() { innermost_ = outer_; }
+
+TableOperation* TableOperation::Exchange(TableOperation* underWay) { return std::exchange(innermost_, underWay); }
 
 void TableOperation::OvertakeAll() {
   for (TableOperation* operation = innermost_; operation; operation = operation->outer_) operation->isOvertaken_ = true;

@@ -20,6 +20,9 @@ class TableOperation {
   TableOperation& operator=(const TableOperation&) = delete;
   ~TableOperation();
 
+  /// Sets aside what is under way on this thread, or takes up again what was. @return what was under way until now.
+  static TableOperation* Exchange(TableOperation* underWay);
+
   /// A load begins: whatever is under way on this thread is overtaken.
   static void OvertakeAll();
   /// @throws Overtaken when a load has begun since the operation under way has, if there is one.
