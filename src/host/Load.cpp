@@ -7,25 +7,21 @@
 #include "tables/RunTimeError.h"
 
 namespace ORXKMPrintProp::host {
-namespace {
 
-[[noreturn]] void Fail(const SettingsDocument& document, TextView words) {
-  throw LoadError(OneLine(document.file + ": the load fails: " + ToUtf8(words)));
-}
-
-}  // namespace
+LoadError::LoadError(const SettingsDocument& document, TextView words)
+    : std::runtime_error(OneLine(document.file + ": the load fails: " + ToUtf8(words))) {}
 
 void LoadAndReadBack(const SettingsDocument& document) {
   const SharedValuesGuard guard;
   ORXQueryPrnProp control;
   try {
     if (!control.ORXSetPrnTables(document.general, document.dimension, document.member, document.attribute)) {
-      Fail(document, gErrorText);
+      throw LoadError(document, gErrorText);
     }
     // Any of the four reads rewrites all tables.
-    if (!control.ORXGenPropTable()) Fail(document, u"the tables could not be read back");
+    if (!control.ORXGenPropTable()) throw LoadError(document, u"the tables could not be read back");
   } catch (const RunTimeError& error) {
-    Fail(document, error.Message());
+    throw LoadError(document, error.Message());
   }
 }
 

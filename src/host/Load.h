@@ -10,6 +10,7 @@ namespace ORXKMPrintProp::host {
 class LoadError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
+  LoadError(const SettingsDocument& document, TextView words);
 };
 
 /// Loads the document's tables into a control of its own and reads each of them back, as a host does that shows no

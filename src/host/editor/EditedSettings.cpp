@@ -13,13 +13,6 @@
 #include "tables/RunTimeError.h"
 
 namespace ORXKMPrintProp::host {
-namespace {
-
-[[noreturn]] void Fail(const SettingsDocument& document, TextView words) {
-  throw LoadError(OneLine(document.file + ": the load fails: " + ToUtf8(words)));
-}
-
-}  // namespace
 
 EditedSettings::EditedSettings(SettingsDocument document, const EditOptions& options, const MemoryTableRef& texts,
                                const Platform& platform)
@@ -38,14 +31,14 @@ EditedSettings::EditedSettings(SettingsDocument document, const EditOptions& opt
     control_.ORXSetReadOnly(options.readOnly);
     Read();
   } catch (const RunTimeError& error) {
-    Fail(document_, error.Message());
+    throw LoadError(document_, error.Message());
   }
   SetUnchanged();
 }
 
 void EditedSettings::Load() {
   if (!control_.ORXSetPrnTables(document_.general, document_.dimension, document_.member, document_.attribute)) {
-    Fail(document_, gErrorText);
+    throw LoadError(document_, gErrorText);
   }
 }
 
