@@ -53,7 +53,7 @@ class EditorTest : public testing::Test {
     fs::remove_all(folder);
   }
 
-  std::string Path(const char* name) const { return folder / name; }
+  std::string Path(const char* name) const { return (folder / name).string(); }
 
   void Open(EditOptions options = {}) {
     options.file = file;

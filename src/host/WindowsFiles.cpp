@@ -1,0 +1,200 @@
+// Files and streams by the calls of Windows.
+
+#define NOMINMAX
+#define WIN32_LEAN_AND_MEAN
+#include <io.h>
+#include <windows.h>
+
+#include <algorithm>
+#include <system_error>
+#include <utility>
+
+#include "host/DocumentError.h"
+#include "host/Files.h"
+#include "host/Utf8.h"
+
+namespace ORXKMPrintProp::host {
+namespace {
+
+/// The calls take their own 16-bit characters.
+std::wstring Wide(std::string_view utf8) {
+  const Text text = FromUtf8(utf8);
+  return {text.begin(), text.end()};
+}
+
+/// In the words of every other system, where it has some.
+std::string Words(DWORD error) {
+  const std::error_code code(static_cast<int>(error), std::system_category());
+  return code.default_error_condition().message();
+}
+
+[[noreturn]] void Fail(const std::string& file, DWORD error = ::GetLastError()) {
+  throw DocumentError({.file = file}, Words(error));
+}
+
+bool IsFolder(const std::wstring& path) {
+  const DWORD attributes = ::GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY);
+}
+
+[[noreturn]] void FailToOpen(const std::string& file, DWORD error = ::GetLastError()) {
+  if (!IsFolder(Wide(file))) Fail(file, error);
+  throw DocumentError({.file = file}, std::make_error_code(std::errc::is_a_directory).message());
+}
+
+class Handle {
+ public:
+  explicit Handle(HANDLE handle) : handle_(handle) {}
+  Handle(const Handle&) = delete;
+  Handle& operator=(const Handle&) = delete;
+  ~Handle() {
+    if (IsOpen()) ::CloseHandle(handle_);
+  }
+
+  HANDLE Get() const { return handle_; }
+  bool IsOpen() const { return handle_ != INVALID_HANDLE_VALUE; }
+  /// @return whether it could be closed; the system's last error tells why not.
+  bool Close() { return ::CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE)) != FALSE; }
+
+ private:
+  HANDLE handle_;
+};
+
+HANDLE Open(const std::wstring& path, DWORD access, DWORD disposition = OPEN_EXISTING) {
+  return ::CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                       disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+bool Write(const Handle& file, std::string_view content) {
+  constexpr std::size_t kMost = 1 << 24;
+  while (!content.empty()) {
+    DWORD written = 0;
+    const DWORD count = static_cast<DWORD>(std::min(content.size(), kMost));
+    if (!::WriteFile(file.Get(), content.data(), count, &written, nullptr)) return false;
+    content.remove_prefix(written);
+  }
+  return true;
+}
+
+/// What stands at the end of the links.
+struct Target {
+  /// @throws DocumentError when it can't be looked at, or is protected.
+  explicit Target(const std::string& file) : path(Wide(file)) {
+    const Handle opened(Open(path, GENERIC_WRITE));
+    if (!opened.IsOpen()) {
+      const DWORD error = ::GetLastError();
+      if (error != ERROR_FILE_NOT_FOUND) FailToOpen(file, error);
+      return;
+    }
+    isThere = true;
+    isRegular = ::GetFileType(opened.Get()) == FILE_TYPE_DISK;
+    wchar_t followed[MAX_PATH];
+    const DWORD length = ::GetFinalPathNameByHandleW(opened.Get(), followed, MAX_PATH, FILE_NAME_NORMALIZED);
+    if (isRegular && length > 0 && length < MAX_PATH) path.assign(followed, length);
+  }
+
+  std::wstring Folder() const {
+    const std::size_t end = path.find_last_of(L"\\/:");
+    return end == std::wstring::npos ? L"" : path.substr(0, end + 1);
+  }
+
+  std::wstring path;
+  bool isThere = false;
+  bool isRegular = true;
+};
+
+/// A file that goes away with this object unless it has been moved to its place.
+class TemporaryFile {
+ public:
+  explicit TemporaryFile(const std::wstring& folder) : file_(Create(folder)) {}
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+  ~TemporaryFile() {
+    if (file_.IsOpen()) file_.Close();
+    if (isThere_) ::DeleteFileW(path_.c_str());
+  }
+
+  /// Open for writing, unless the file could not be made; the system's last error tells why.
+  Handle& File() { return file_; }
+  bool MoveTo(const Target& target) {
+    // A file that is replaced hands its permissions on.
+    const BOOL moved = target.isThere ? ::ReplaceFileW(target.path.c_str(), path_.c_str(), nullptr,
+                                                       REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr)
+                                      : ::MoveFileExW(path_.c_str(), target.path.c_str(), MOVEFILE_WRITE_THROUGH);
+    isThere_ = !moved;
+    return moved;
+  }
+
+ private:
+  HANDLE Create(const std::wstring& folder) {
+    HANDLE file = INVALID_HANDLE_VALUE;
+    ::SetLastError(ERROR_FILE_EXISTS);
+    for (int attempt = 0; attempt < 100 && file == INVALID_HANDLE_VALUE && ::GetLastError() == ERROR_FILE_EXISTS;
+         ++attempt) {
+      path_ = folder + L".prnprop-" + std::to_wstring(::GetCurrentProcessId()) + L"-" + std::to_wstring(attempt) +
+              L".tmp";
+      file = Open(path_, GENERIC_WRITE, CREATE_NEW);
+    }
+    isThere_ = file != INVALID_HANDLE_VALUE;
+    return file;
+  }
+
+  std::wstring path_;
+  bool isThere_ = false;
+  Handle file_;
+};
+
+}  // namespace
+
+bool IsTerminal(std::FILE* stream) { return ::_isatty(::_fileno(stream)) != 0; }
+
+std::string ReadFile(const std::string& path) {
+  const bool standard = path == kStandardStream;
+  const Handle opened(standard ? INVALID_HANDLE_VALUE : Open(Wide(path), GENERIC_READ));
+  if (!standard && !opened.IsOpen()) FailToOpen(path);
+  const HANDLE file = standard ? ::GetStdHandle(STD_INPUT_HANDLE) : opened.Get();
+
+  std::string content;
+  char buffer[1 << 16];
+  for (;;) {
+    DWORD count = 0;
+    if (!::ReadFile(file, buffer, sizeof buffer, &count, nullptr)) {
+      if (::GetLastError() == ERROR_BROKEN_PIPE) return content;  // how a pipe ends
+      Fail(InputName(path));
+    }
+    if (count == 0) return content;
+    content.append(buffer, count);
+  }
+}
+
+FileStamp StampOf(const std::string& path) {
+  WIN32_FILE_ATTRIBUTE_DATA file;
+  if (!::GetFileAttributesExW(Wide(path).c_str(), GetFileExInfoStandard, &file)) return {};
+  const auto joined = [](DWORD high, DWORD low) { return static_cast<std::int64_t>(std::uint64_t{high} << 32 | low); };
+  constexpr std::int64_t kNanosecondsPerTick = 100;
+  return {.time = joined(file.ftLastWriteTime.dwHighDateTime, file.ftLastWriteTime.dwLowDateTime) * kNanosecondsPerTick,
+          .size = joined(file.nFileSizeHigh, file.nFileSizeLow)};
+}
+
+void CheckReplaceable(const std::string& path) {
+  const Target target(path);
+  if (!target.isRegular) throw DocumentError({.file = path}, "It is not a regular file");
+  if (!TemporaryFile(target.Folder()).File().IsOpen()) Fail(path);
+}
+
+void SaveFile(const std::string& path, std::string_view content) {
+  const Target target(path);
+  if (!target.isRegular) {
+    Handle device(Open(target.path, GENERIC_WRITE));
+    if (!device.IsOpen() || !Write(device, content) || !device.Close()) Fail(path);
+    return;
+  }
+  TemporaryFile temporary(target.Folder());
+  Handle& file = temporary.File();
+  if (!file.IsOpen() || !Write(file, content) || !::FlushFileBuffers(file.Get()) || !file.Close() ||
+      !temporary.MoveTo(target)) {
+    Fail(path);
+  }
+}
+
+}  // namespace ORXKMPrintProp::host
