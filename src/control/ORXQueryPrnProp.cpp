@@ -20,6 +20,8 @@ bool IsTotalsRowButton(const Variant& buttonId) {
       [](const auto& value) {
         if constexpr (std::is_arithmetic_v<std::decay_t<decltype(value)>>) {
           return static_cast<double>(value) == kTotalsRowButton;
+        } else if constexpr (std::is_same_v<std::decay_t<decltype(value)>, ObjectRef>) {
+          return IsTotalsRowButton(PlainValueOf(value, Object::Wanted::Number));
         } else {
           return false;
         }

@@ -1,7 +1,5 @@
 // Files and streams by the calls of Windows.
 
-#define NOMINMAX
-#define WIN32_LEAN_AND_MEAN
 #include <io.h>
 #include <windows.h>
 

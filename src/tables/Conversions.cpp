@@ -108,6 +108,15 @@ Overloaded(Cases...) -> Overloaded<Cases...>;
 
 }  // namespace
 
+Variant Object::PlainValue(Wanted wanted) const {
+  throw RunTimeError(ErrorKind::Type, Text(u"An object cannot be a ") + (wanted == Wanted::Text ? u"text." : u"number."));
+}
+
+Variant PlainValueOf(const ObjectRef& object, Object::Wanted wanted) {
+  static const Object none;
+  return (object ? *object : none).PlainValue(wanted);
+}
+
 Text ToText(std::int32_t number) {
   char digits[16];
   return Widened(digits, std::to_chars(digits, std::end(digits), number).ptr);
@@ -125,7 +134,7 @@ Text ToText(Variant&& value) {
             return Widened(digits, std::to_chars(digits, std::end(digits), number, std::chars_format::fixed).ptr);
           },
           [](Text& text) { return std::move(text); },
-          [](const ObjectRef&) -> Text { throw RunTimeError(ErrorKind::Type, u"An object cannot be a text."); },
+          [](const ObjectRef& object) { return ToText(PlainValueOf(object, Object::Wanted::Text)); },
       },
       value);
 }
@@ -143,8 +152,8 @@ std::int16_t ToInteger(const Variant& value) {
                           if (const auto number = TryNumber(text)) return Rounded(*number);
                           throw RunTimeError(ErrorKind::Type, u"The text \"" + text + u"\" is not a number.");
                         },
-                        [](const ObjectRef&) -> std::int16_t {
-                          throw RunTimeError(ErrorKind::Type, u"An object cannot be a number.");
+                        [](const ObjectRef& object) {
+                          return ToInteger(PlainValueOf(object, Object::Wanted::Number));
                         },
                     },
                     value);

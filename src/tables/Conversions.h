@@ -12,15 +12,20 @@
 namespace ORXKMPrintProp {
 
 /// The value as a text: a text unchanged, blanks included; a number in decimal digits, a double in as few as give
-/// it back; a Boolean "True" or "False"; an empty value the empty text. @throws RunTimeError (Type) for an object.
+/// it back; a Boolean "True" or "False"; an empty value the empty text; an object what it has for a text.
+/// @throws RunTimeError (Type) for an object that has nothing.
 Text ToText(Variant&& value);
+
+/// What stands for the object where a text or a number is wanted. @throws RunTimeError (Type), also for none.
+Variant PlainValueOf(const ObjectRef& object, Object::Wanted wanted);
 
 /// A whole number in decimal digits, with a minus sign if negative.
 Text ToText(std::int32_t number);
 
 /// A number of any type, a Boolean (True is -1, False 0), or a text of which the whole is a number: blanks around
-/// it, a sign, a period as decimal point and an exponent are read, nothing else.
-/// @throws RunTimeError (Type) for an empty value, an empty text, a text that is not a number, an object.
+/// it, a sign, a period as decimal point and an exponent are read, nothing else; an object what it has for a number.
+/// @throws RunTimeError (Type) for an empty value, an empty text, a text that is not a number, an object that has
+/// nothing.
 std::int16_t ToInteger(const Variant& value);
 
 /// The longest number at the head of the text, 0 if there is no digit. Blanks are skipped wherever they stand.

@@ -127,6 +127,14 @@ MemoryTable::MemoryTable(Private, const std::vector<Text>& columns)
 
 MemoryTable::~MemoryTable() = default;
 
+void MemoryTable::AddColumn(const Text& name) {
+  if (rowCount_ > 0) throw RunTimeError(ErrorKind::Table, u"A table that has rows takes no more columns.");
+  std::vector<Text> names = ColumnNames();
+  names.push_back(name);
+  // Rows that were removed keep the columns that they had.
+  columns_ = std::make_shared<MemoryColumns>(names);
+}
+
 const std::vector<Text>& MemoryTable::ColumnNames() const { return columns_->Names(); }
 
 std::int32_t MemoryTable::RowCount() { return static_cast<std::int32_t>(rowCount_); }

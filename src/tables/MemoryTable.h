@@ -28,6 +28,8 @@ class MemoryTable final : public Table,
   MemoryTable(Private, const std::vector<Text>& columns);
   ~MemoryTable() override;
 
+  /// Adds a column behind the others. @throws RunTimeError (Table) when it has rows, or a column of that name.
+  void AddColumn(const Text& name);
   /// The columns' names, in order.
   const std::vector<Text>& ColumnNames() const;
 

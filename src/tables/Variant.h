@@ -9,10 +9,17 @@
 
 namespace ORXKMPrintProp {
 
-/// What a variant can refer to; table objects are the only kind that the library knows.
+class Variant;
+
+/// What a variant can refer to: table objects, and values for which the library has no type of its own.
 class Object {
  public:
   virtual ~Object() = default;
+
+  enum class Wanted { Text, Number };
+  /// The plain value, which is no object, that stands for this one where a text or a number is wanted. Table objects
+  /// have none. @throws RunTimeError (Type) when there is none.
+  virtual Variant PlainValue(Wanted wanted) const;
 };
 using ObjectRef = std::shared_ptr<Object>;
 

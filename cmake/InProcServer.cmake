@@ -1,0 +1,14 @@
+# A library of component classes, with version information.
+# prnprop_in_proc_server(TARGET file.dll DESCRIPTION text SOURCES ... [RESOURCES line...])
+function(prnprop_in_proc_server target)
+  cmake_parse_arguments(SERVER "" "NAME;DESCRIPTION" "SOURCES;RESOURCES" ${ARGN})
+  string(REPLACE "." "," numbers ${PROJECT_VERSION})
+  list(JOIN SERVER_RESOURCES "\n" resources)
+  configure_file(${PROJECT_SOURCE_DIR}/cmake/server.rc.in ${CMAKE_CURRENT_BINARY_DIR}/${SERVER_NAME}.rc)
+  add_library(${target} SHARED ${SERVER_SOURCES} ${PROJECT_SOURCE_DIR}/src/automation/InProcServer.def
+                               ${CMAKE_CURRENT_BINARY_DIR}/${SERVER_NAME}.rc)
+  set_target_properties(
+    ${target} PROPERTIES PREFIX "" OUTPUT_NAME ${SERVER_NAME} RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
+  target_link_libraries(${target} PRIVATE PrnPropAutomation)
+  target_link_options(${target} PRIVATE -s -Wl,--gc-sections,--kill-at)
+endfunction()

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <ole2.h>
+
+#include <span>
+
+namespace ORXKMPrintProp::automation {
+
+/// A class that programs create by its number, or by its name.
+struct ServerClass {
+  CLSID id;
+  const wchar_t* programId;  ///< "Library.Class"; with ".1" behind it the name of this version
+  const wchar_t* name;       ///< for people
+  /// Makes an object, with one reference.
+  IUnknown* (*create)();
+};
+
+/// What a library with classes tells the system; its exported entry points call these.
+struct InProcServer {
+  std::span<const ServerClass> classes;
+  const GUID* typeLibrary = nullptr;  ///< which then is a resource of the library's file
+
+  HRESULT GetClassObject(REFCLSID id, REFIID interfaceId, void** result) const noexcept;
+  /// S_OK when no object lives and no host holds a lock.
+  static HRESULT CanUnloadNow() noexcept;
+  /// For all users of the machine, or for this one alone where he may not write for all.
+  HRESULT Register() const noexcept;
+  /// Leaves no entry behind, wherever it was registered.
+  HRESULT Unregister() const noexcept;
+};
+
+/// The type library that the file of this code has as a resource.
+HRESULT LoadOwnTypeLibrary(ITypeLib** library) noexcept;
+
+}  // namespace ORXKMPrintProp::automation

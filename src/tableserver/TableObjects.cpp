@@ -1,0 +1,184 @@
+#include "tableserver/TableObjects.h"
+
+#include <memory>
+#include <new>
+#include <utility>
+
+#include "automation/DispatchObject.h"
+#include "tables/Conversions.h"
+#include "tables/MemoryTable.h"
+#include "tables/TableCalls.h"
+
+namespace ORXKMPrintProp::tableserver {
+namespace {
+
+using namespace automation;
+
+constexpr WORD kGet = DISPATCH_PROPERTYGET;
+constexpr WORD kSet = DISPATCH_PROPERTYPUT;
+constexpr WORD kMethod = DISPATCH_METHOD;
+
+template <class Class>
+class Part : public DispatchObject<Class> {
+ public:
+  static constexpr TextView kSource = u"PrnPropTables.Table";
+};
+
+template <class Made, class... Of>
+void Give(VARIANT& result, Of&&... of) {
+  result.pdispVal = new Made(std::forward<Of>(of)...);
+  result.vt = VT_DISPATCH;
+}
+
+Text TextFrom(const VARIANT& value) { return ToText(PlainFromVariant(value)); }
+
+class RowObject final : public Part<RowObject> {
+ public:
+  explicit RowObject(RowRef row) : row_(std::move(row)) {}
+
+  void Value(const Arguments& arguments, VARIANT& result) { ToVariant(row_->Value(TextFrom(arguments[0])), result); }
+  void SetValue(const Arguments& arguments, VARIANT&) {
+    row_->Value(TextFrom(arguments[0]), FromVariant(arguments[1]));
+  }
+  void RowNumber(const Arguments&, VARIANT& result) { ToVariant(row_->RowNumber(), result); }
+
+  static constexpr DispatchMember<RowObject> kMembers[] = {
+      {L"Value", DISPID_VALUE, kGet, 1, 1, &RowObject::Value},
+      {L"Value", DISPID_VALUE, kSet, 2, 2, &RowObject::SetValue},
+      {L"RowNumber", 3, kGet, 0, 0, &RowObject::RowNumber},
+  };
+
+ private:
+  RowRef row_;
+};
+
+/// By a list's own enumerator, which may be copied at any place.
+class RowsEnumerator final : public ComObject<IEnumVARIANT> {
+ public:
+  explicit RowsEnumerator(TableRef table, std::int32_t next = 1) : table_(std::move(table)), next_(next) {}
+
+  STDMETHODIMP Next(ULONG count, VARIANT* rows, ULONG* given) override {
+    if (!rows || (!given && count != 1)) return E_POINTER;
+    ULONG made = 0;
+    try {
+      for (; made < count && next_ <= table_->RowCount(); ++made, ++next_) {
+        ::VariantInit(&rows[made]);
+        Give<RowObject>(rows[made], table_->Rows(next_));
+      }
+    } catch (...) {
+      while (made > 0) ::VariantClear(&rows[--made]);
+      return CurrentFailure({}).number;
+    }
+    if (given) *given = made;
+    return made == count ? S_OK : S_FALSE;
+  }
+  STDMETHODIMP Skip(ULONG count) override {
+    const auto left = static_cast<ULONG>(table_->RowCount() - next_ + 1);
+    next_ += static_cast<std::int32_t>(count < left ? count : left);
+    return count <= left ? S_OK : S_FALSE;
+  }
+  STDMETHODIMP Reset() override {
+    next_ = 1;
+    return S_OK;
+  }
+  STDMETHODIMP Clone(IEnumVARIANT** copy) override {
+    if (!copy) return E_POINTER;
+    *copy = new (std::nothrow) RowsEnumerator(table_, next_);
+    return *copy ? S_OK : E_OUTOFMEMORY;
+  }
+
+ private:
+  TableRef table_;
+  std::int32_t next_;
+};
+
+class RowListObject final : public Part<RowListObject> {
+ public:
+  explicit RowListObject(TableRef table) : table_(std::move(table)) {}
+
+  void Add(const Arguments&, VARIANT& result) { Give<RowObject>(result, AddRow(*table_)); }
+  void RemoveAll(const Arguments&, VARIANT&) { RemoveRows(*table_); }
+  void Item(const Arguments& arguments, VARIANT& result) {
+    if (RowRef row = RowsOf(*table_)->Item(TextFrom(arguments[0]))) {
+      Give<RowObject>(result, std::move(row));
+    } else {
+      result.vt = VT_DISPATCH;
+      result.pdispVal = nullptr;
+    }
+  }
+  void Count(const Arguments&, VARIANT& result) { ToVariant(table_->RowCount(), result); }
+  void NewEnum(const Arguments&, VARIANT& result) {
+    result.punkVal = new RowsEnumerator(table_);
+    result.vt = VT_UNKNOWN;
+  }
+
+  static constexpr DispatchMember<RowListObject> kMembers[] = {
+      {L"Item", 1, kGet, 1, 1, &RowListObject::Item},
+      {L"Count", 2, kGet, 0, 0, &RowListObject::Count},
+      {L"Add", 3, kMethod, 0, 0, &RowListObject::Add},
+      {L"RemoveAll", 4, kMethod, 0, 0, &RowListObject::RemoveAll},
+      {L"_NewEnum", DISPID_NEWENUM, kGet, 0, 0, &RowListObject::NewEnum},
+  };
+
+ private:
+  TableRef table_;
+};
+
+class ColumnObject final : public Part<ColumnObject> {
+ public:
+  explicit ColumnObject(ColumnRef column) : column_(std::move(column)) {}
+  void Index(const Arguments&, VARIANT& result) { ToVariant(column_->Index(), result); }
+
+  static constexpr DispatchMember<ColumnObject> kMembers[] = {{L"Index", 1, kGet, 0, 0, &ColumnObject::Index}};
+
+ private:
+  ColumnRef column_;
+};
+
+class ColumnListObject final : public Part<ColumnListObject> {
+ public:
+  explicit ColumnListObject(ColumnListRef columns) : columns_(std::move(columns)) {}
+  void SetKeyColumn(const Arguments& arguments, VARIANT&) {
+    columns_->KeyColumn(std::int32_t{ToInteger(PlainFromVariant(arguments[0]))});
+  }
+
+  static constexpr DispatchMember<ColumnListObject> kMembers[] = {
+      {L"KeyColumn", 1, kSet, 1, 1, &ColumnListObject::SetKeyColumn}};
+
+ private:
+  ColumnListRef columns_;
+};
+
+class TableObject final : public Part<TableObject> {
+ public:
+  void RowCount(const Arguments&, VARIANT& result) { ToVariant(table_->RowCount(), result); }
+  void Rows(const Arguments&, VARIANT& result) { Give<RowListObject>(result, table_); }
+  void RowByNumber(const Arguments& arguments, VARIANT& result) {
+    Give<RowObject>(result, table_->Rows(ToInteger(PlainFromVariant(arguments[0]))));
+  }
+  void Columns(const Arguments&, VARIANT& result) { Give<ColumnListObject>(result, table_->Columns()); }
+  void ColumnByName(const Arguments& arguments, VARIANT& result) {
+    Give<ColumnObject>(result, table_->Columns(TextFrom(arguments[0])));
+  }
+  void AddColumn(const Arguments& arguments, VARIANT&) {
+    table_->AddColumn(TextFrom(arguments[0]));
+  }
+
+  static constexpr DispatchMember<TableObject> kMembers[] = {
+      {L"RowCount", 1, kGet, 0, 0, &TableObject::RowCount},
+      {L"Rows", 6, kGet, 0, 0, &TableObject::Rows},
+      {L"Rows", 6, kGet, 1, 1, &TableObject::RowByNumber},
+      {L"Columns", 4, kGet, 0, 0, &TableObject::Columns},
+      {L"Columns", 4, kGet, 1, 1, &TableObject::ColumnByName},
+      {L"AddColumn", 100, kMethod, 1, 1, &TableObject::AddColumn},
+  };
+
+ private:
+  std::shared_ptr<MemoryTable> table_ = MemoryTable::Create({});
+};
+
+}  // namespace
+
+IUnknown* MakeTable() { return new TableObject; }
+
+}  // namespace ORXKMPrintProp::tableserver

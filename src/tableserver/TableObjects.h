@@ -1,0 +1,20 @@
+#pragma once
+
+#include <ole2.h>
+
+namespace ORXKMPrintProp::tableserver {
+
+/// `PrnPropTables.Table`, with one reference: a plain table for hosts that have none of their own. It has no columns.
+///
+/// | Object | Members |
+/// |---|---|
+/// | table | `AddColumn(Name)` while it has no rows; `RowCount`; `Rows`, `Rows(Number)`; `Columns`, `Columns(Name)` |
+/// | its rows | `Add`, `RemoveAll`, `Item(Key)`, `Count`, for-each |
+/// | a row | `Value(Column)`, also to be set; `RowNumber` |
+/// | its columns | `KeyColumn`, to be set |
+/// | a column | `Index` |
+///
+/// `Item` gives nothing for a key that no row has.
+IUnknown* MakeTable();
+
+}  // namespace ORXKMPrintProp::tableserver
