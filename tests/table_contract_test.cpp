@@ -1,43 +1,9 @@
 // What the control may rely on in any table of a host.
 
-#include <gtest/gtest.h>
-
-#include <functional>
-#include <string>
-
-#include "support/table_text.h"
-#include "support/watched_table.h"
-#include "tables/MemoryTable.h"
+#include "support/any_table.h"
 #include "tables/RunTimeError.h"
-#include "tables/TableCalls.h"
 
 namespace ORXKMPrintProp::test {
-namespace {
-
-struct TableMaker {
-  const char* name;
-  std::function<TableRef(const std::vector<Text>& columns)> make;
-};
-
-class AnyTable : public testing::TestWithParam<TableMaker> {
- protected:
-  AnyTable() {
-    for (const char16_t* const key : {u"a", u"b", u"c"}) AddRow(*table)->Value(u"KEY", key);
-  }
-
-  /// The rows in order, each with its number and its cells.
-  std::string Rows() const {
-    std::string text;
-    const auto rows = EachRow(*table);
-    while (const RowRef row = rows->Next()) {
-      text += std::to_string(row->RowNumber()) + ":" + ToString(row->Value(u"KEY")) + "," +
-              ToString(row->Value(u"VALUE")) + " ";
-    }
-    return text;
-  }
-
-  TableRef table = GetParam().make({u"KEY", u"VALUE"});
-};
 
 TEST_P(AnyTable, KeepsCellsOfEveryTypeInRowsThatCountFromOne) {
   EXPECT_EQ(Rows(), "1:'a', 2:'b', 3:'c', ") << "a cell starts empty";
@@ -89,15 +55,4 @@ TEST_P(AnyTable, IsEmptiedWithItsColumnsAndFilledAnew) {
   EXPECT_EQ(table->RowCount(), 1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Each, AnyTable,
-                         testing::Values(TableMaker{"InMemory",
-                                                    [](const auto& columns) { return MemoryTable::Create(columns); }},
-                                         TableMaker{"Watched",
-                                                    [](const auto& columns) {
-                                                      return Watched("table", MemoryTable::Create(columns),
-                                                                     std::make_shared<Watch>());
-                                                    }}),
-                         [](const auto& maker) { return std::string(maker.param.name); });
-
-}  // namespace
 }  // namespace ORXKMPrintProp::test

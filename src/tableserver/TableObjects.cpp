@@ -99,7 +99,9 @@ class RowListObject final : public Part<RowListObject> {
   void Add(const Arguments&, VARIANT& result) { Give<RowObject>(result, AddRow(*table_)); }
   void RemoveAll(const Arguments&, VARIANT&) { RemoveRows(*table_); }
   void Item(const Arguments& arguments, VARIANT& result) {
-    if (RowRef row = RowsOf(*table_)->Item(TextFrom(arguments[0]))) {
+    const Variant which = PlainFromVariant(arguments[0]);
+    const Text* const key = std::get_if<Text>(&which);
+    if (RowRef row = key ? RowsOf(*table_)->Item(*key) : table_->Rows(ToInteger(which))) {
       Give<RowObject>(result, std::move(row));
     } else {
       result.vt = VT_DISPATCH;

@@ -9,7 +9,7 @@ namespace ORXKMPrintProp::tableserver {
 /// | Object | Members |
 /// |---|---|
 /// | table | `AddColumn(Name)` while it has no rows; `RowCount`; `Rows`, `Rows(Number)`; `Columns`, `Columns(Name)` |
-/// | its rows | `Add`, `RemoveAll`, `Item(Key)`, `Count`, for-each |
+/// | its rows | `Add`, `RemoveAll`, `Item(Key)`, `Item(Number)`, `Count`, for-each |
 /// | a row | `Value(Column)`, also to be set; `RowNumber` |
 /// | its columns | `KeyColumn`, to be set |
 /// | a column | `Index` |
