@@ -10,5 +10,5 @@ function(prnprop_in_proc_server target)
   set_target_properties(
     ${target} PROPERTIES PREFIX "" OUTPUT_NAME ${SERVER_NAME} RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
   target_link_libraries(${target} PRIVATE PrnPropAutomation)
-  target_link_options(${target} PRIVATE -s -Wl,--gc-sections,--kill-at)
+  target_link_options(${target} PRIVATE -s -Wl,--kill-at)
 endfunction()

@@ -39,12 +39,10 @@ class ComObject : public Interfaces... {
   }
   STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
   STDMETHODIMP_(ULONG) Release() override {
-    const ULONG left = --references_;
-    if (left == 0) {
-      references_ = 1;  // what the end calls may take and release references of its own
-      delete this;
-    }
-    return left;
+    if (references_ > 1) return --references_;
+    // The last one stays: what the end calls may take and release references of its own.
+    delete this;
+    return 0;
   }
 
  protected:

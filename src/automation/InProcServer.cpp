@@ -99,6 +99,13 @@ LSTATUS Write(HKEY hive, const Entry& entry) {
   return ::RegSetKeyValueW(hive, BelowClasses(entry.key).c_str(), entry.name, REG_SZ, entry.value.c_str(), bytes);
 }
 
+bool HasKey(HKEY hive, const std::wstring& key) {
+  HKEY opened = nullptr;
+  if (::RegOpenKeyExW(hive, BelowClasses(key).c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS) return false;
+  ::RegCloseKey(opened);
+  return true;
+}
+
 /// What was deleted, or was not there, is gone.
 bool IsGone(LSTATUS deleted) { return deleted == ERROR_SUCCESS || deleted == ERROR_FILE_NOT_FOUND; }
 
@@ -132,12 +139,10 @@ HRESULT UnregisterFrom(const Hive& hive, const InProcServer& server) {
       if (!IsGone(status)) result = HRESULT_FROM_WIN32(status);
     }
   }
-  if (server.typeLibrary) {
-    const HRESULT removed =
-        hive.unregisterLibrary(*server.typeLibrary, 1, 0, LANG_NEUTRAL, sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32);
-    if (FAILED(removed) && removed != TYPE_E_REGISTRYACCESS) result = removed;
-  }
-  return result;
+  if (!server.typeLibrary || !HasKey(hive.key, L"TypeLib\\" + Spelled(*server.typeLibrary))) return result;
+  constexpr SYSKIND kSystem = sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32;
+  const HRESULT removed = hive.unregisterLibrary(*server.typeLibrary, 1, 0, LANG_NEUTRAL, kSystem);
+  return FAILED(removed) ? removed : result;
 }
 
 }  // namespace
@@ -177,7 +182,7 @@ HRESULT InProcServer::CanUnloadNow() noexcept { return LiveObjects::Count() == 0
 HRESULT InProcServer::Register() const noexcept {
   try {
     HRESULT result = RegisterIn(kMachine, *this);
-    if (result == E_ACCESSDENIED || result == TYPE_E_REGISTRYACCESS) {
+    if (FAILED(result)) {
       UnregisterFrom(kMachine, *this);
       result = RegisterIn(kUser, *this);
     }

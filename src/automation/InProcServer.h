@@ -23,7 +23,7 @@ struct InProcServer {
   HRESULT GetClassObject(REFCLSID id, REFIID interfaceId, void** result) const noexcept;
   /// S_OK when no object lives and no host holds a lock.
   static HRESULT CanUnloadNow() noexcept;
-  /// For all users of the machine, or for this one alone where he may not write for all.
+  /// For all users of the machine, or for this one alone where the machine refuses.
   HRESULT Register() const noexcept;
   /// Leaves no entry behind, wherever it was registered.
   HRESULT Unregister() const noexcept;

@@ -38,7 +38,11 @@ Bstr::Bstr(TextView text)
   if (!text_) throw std::bad_alloc();
 }
 
-Text TextOf(BSTR text) { return Text(text, text + ::SysStringLen(text)); }
+Text TextOf(BSTR text) { return Text(ViewOf(text)); }
+
+TextView ViewOf(BSTR text) {
+  return text ? TextView(reinterpret_cast<const char16_t*>(text), ::SysStringLen(text)) : TextView();
+}
 
 HostValue::HostValue(const VARIANT& value) { Check(::VariantCopy(&value_, Read(value))); }
 

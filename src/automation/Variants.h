@@ -35,6 +35,9 @@ class Bstr {
 /// The whole text, NUL characters in it included; none is the empty text.
 Text TextOf(BSTR text);
 
+/// The same without a copy, as long as the text lives.
+TextView ViewOf(BSTR text);
+
 /// A variant of automation that ends with this object. It starts empty.
 class OwnedVariant : public VARIANT {
  public:

@@ -36,9 +36,13 @@ class RowObject final : public Part<RowObject> {
  public:
   explicit RowObject(RowRef row) : row_(std::move(row)) {}
 
-  void Value(const Arguments& arguments, VARIANT& result) { ToVariant(row_->Value(TextFrom(arguments[0])), result); }
+  void Value(const Arguments& arguments, VARIANT& result) {
+    Text converted;
+    ToVariant(row_->Value(Column(arguments[0], converted)), result);
+  }
   void SetValue(const Arguments& arguments, VARIANT&) {
-    row_->Value(TextFrom(arguments[0]), FromVariant(arguments[1]));
+    Text converted;
+    row_->Value(Column(arguments[0], converted), FromVariant(arguments[1]));
   }
   void RowNumber(const Arguments&, VARIANT& result) { ToVariant(row_->RowNumber(), result); }
 
@@ -49,6 +53,11 @@ class RowObject final : public Part<RowObject> {
   };
 
  private:
+  /// A name is a text as a rule, which then needs no copy.
+  static TextView Column(const VARIANT& name, Text& converted) {
+    return name.vt == VT_BSTR ? ViewOf(name.bstrVal) : converted = TextFrom(name);
+  }
+
   RowRef row_;
 };
 
@@ -153,6 +162,8 @@ class ColumnListObject final : public Part<ColumnListObject> {
 
 class TableObject final : public Part<TableObject> {
  public:
+  explicit TableObject(std::shared_ptr<MemoryTable> table) : table_(std::move(table)) {}
+
   void RowCount(const Arguments&, VARIANT& result) { ToVariant(table_->RowCount(), result); }
   void Rows(const Arguments&, VARIANT& result) { Give<RowListObject>(result, table_); }
   void RowByNumber(const Arguments& arguments, VARIANT& result) {
@@ -176,11 +187,11 @@ class TableObject final : public Part<TableObject> {
   };
 
  private:
-  std::shared_ptr<MemoryTable> table_ = MemoryTable::Create({});
+  std::shared_ptr<MemoryTable> table_;
 };
 
 }  // namespace
 
-IUnknown* MakeTable() { return new TableObject; }
+IUnknown* MakeTable(std::shared_ptr<MemoryTable> table) { return new TableObject(std::move(table)); }
 
 }  // namespace ORXKMPrintProp::tableserver

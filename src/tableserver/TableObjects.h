@@ -2,9 +2,13 @@
 
 #include <ole2.h>
 
+#include <memory>
+
+#include "tables/MemoryTable.h"
+
 namespace ORXKMPrintProp::tableserver {
 
-/// `PrnPropTables.Table`, with one reference: a plain table for hosts that have none of their own. It has no columns.
+/// `PrnPropTables.Table`, with one reference: a plain table for hosts that have none of their own.
 ///
 /// | Object | Members |
 /// |---|---|
@@ -15,6 +19,6 @@ namespace ORXKMPrintProp::tableserver {
 /// | a column | `Index` |
 ///
 /// `Item` gives nothing for a key that no row has.
-IUnknown* MakeTable();
+IUnknown* MakeTable(std::shared_ptr<MemoryTable> table);
 
 }  // namespace ORXKMPrintProp::tableserver

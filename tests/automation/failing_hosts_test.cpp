@@ -21,11 +21,11 @@ using namespace automation;
 struct HostSettings {
   HostSettings() {
     const auto document = host::ReadSettings(PRNPROP_EXAMPLES "/sales.json");
-    const auto made = [&](MemoryTable& table) { return Foreign(MakeHostTable(table), Known::ByNames, watch); };
-    general = made(*document.general);
-    dimension = made(*document.dimension);
-    member = made(*document.member);
-    attribute = made(*document.attribute);
+    const auto made = [&](std::shared_ptr<MemoryTable> table) { return Foreign(MakeHostTable(std::move(table)), Known::ByNames, watch); };
+    general = made(document.general);
+    dimension = made(document.dimension);
+    member = made(document.member);
+    attribute = made(document.attribute);
     watch->calls.clear();
   }
 

@@ -6,11 +6,8 @@
 #include <span>
 #include <utility>
 
-#include "automation/DispatchTable.h"
-#include "automation/Failures.h"
 #include "automation/Variants.h"
 #include "support/table_text.h"
-#include "tables/TableCalls.h"
 #include "tableserver/TableObjects.h"
 
 namespace ORXKMPrintProp::test {
@@ -206,27 +203,8 @@ ComRef<IDispatch> Foreign(ComRef<IDispatch> object, Known known, std::shared_ptr
   return ComRef<IDispatch>::Taken(new ForeignObject(std::move(object), known, std::move(watch)));
 }
 
-ComRef<IDispatch> MakeHostTable(const std::vector<Text>& columns) {
-  const auto table = ComRef<IUnknown>::Taken(tableserver::MakeTable()).As<IDispatch>();
-  for (const Text& column : columns) {
-    OwnedVariant name;
-    ToVariant(column, name);
-    DISPPARAMS parameters{&name, nullptr, 1, 0};
-    Check(table->Invoke(NumberOf(table.Get(), L"AddColumn"), IID_NULL, 0, DISPATCH_METHOD, &parameters, nullptr,
-                        nullptr, nullptr));
-  }
-  return table;
-}
-
-ComRef<IDispatch> MakeHostTable(MemoryTable& table) {
-  auto made = MakeHostTable(table.ColumnNames());
-  DispatchTable copy(made.Get());
-  const auto rows = EachRow(table);
-  while (const RowRef row = rows->Next()) {
-    const RowRef copied = AddRow(copy);
-    for (const Text& column : table.ColumnNames()) copied->Value(column, row->Value(column));
-  }
-  return made;
+ComRef<IDispatch> MakeHostTable(std::shared_ptr<MemoryTable> table) {
+  return ComRef<IUnknown>::Taken(tableserver::MakeTable(std::move(table))).As<IDispatch>();
 }
 
 }  // namespace ORXKMPrintProp::test

@@ -40,9 +40,7 @@ inline constexpr HRESULT kBareNumber = static_cast<HRESULT>(0x8004004D);
 automation::ComRef<IDispatch> Foreign(automation::ComRef<IDispatch> object, Known known,
                                       std::shared_ptr<HostWatch> watch);
 
-/// A host's table with the columns and no rows.
-automation::ComRef<IDispatch> MakeHostTable(const std::vector<Text>& columns);
-/// The same with the rows of the table.
-automation::ComRef<IDispatch> MakeHostTable(MemoryTable& table);
+/// The table as a host's.
+automation::ComRef<IDispatch> MakeHostTable(std::shared_ptr<MemoryTable> table);
 
 }  // namespace ORXKMPrintProp::test

@@ -8,14 +8,14 @@ using automation::DispatchTable;
 
 TableMaker Made(const char* name, Known known) {
   return {name, [known](const std::vector<Text>& columns) {
-            return DispatchTable::Of(Foreign(MakeHostTable(columns), known, std::make_shared<HostWatch>()).Get());
+            return DispatchTable::Of(Foreign(MakeHostTable(MemoryTable::Create(columns)), known, std::make_shared<HostWatch>()).Get());
           }};
 }
 
 INSTANTIATE_TEST_SUITE_P(OfAHost, AnyTable,
                          testing::Values(TableMaker{"Plain",
                                                     [](const std::vector<Text>& columns) {
-                                                      return DispatchTable::Of(MakeHostTable(columns).Get());
+                                                      return DispatchTable::Of(MakeHostTable(MemoryTable::Create(columns)).Get());
                                                     }},
                                          Made("KnownByNames", Known::ByNames),
                                          Made("KnownByNumbers", Known::ByNumbers),
@@ -24,7 +24,7 @@ INSTANTIATE_TEST_SUITE_P(OfAHost, AnyTable,
 
 TEST(HostTables, AreAskedOnceForEachMemberAndOnceForACell) {
   const auto watch = std::make_shared<HostWatch>();
-  const auto table = DispatchTable::Of(Foreign(MakeHostTable({u"A", u"B"}), Known::ByNumbers, watch).Get());
+  const auto table = DispatchTable::Of(Foreign(MakeHostTable(MemoryTable::Create({u"A", u"B"})), Known::ByNumbers, watch).Get());
   for (int i = 0; i < 20; ++i) AddRow(*table)->Value(u"A", u"x");
   watch->calls.clear();
   const auto rows = EachRow(*table);

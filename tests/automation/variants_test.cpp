@@ -104,7 +104,7 @@ TEST(Variants, OfAnObjectMeanItsDefaultMember) {
   OwnedVariant object;
   object.vt = VT_DISPATCH;
   EXPECT_EQ(Meaning(object), "object object");
-  object.pdispVal = MakeHostTable({}).Detach();
+  object.pdispVal = MakeHostTable(MemoryTable::Create({})).Detach();
   EXPECT_EQ(Meaning(object), "type type") << "it has none";
 }
 
