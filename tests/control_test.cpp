@@ -24,7 +24,6 @@ int FailureOf(Action action) {
 }
 
 constexpr int kType = static_cast<int>(ErrorKind::Type);
-constexpr int kIndex = static_cast<int>(ErrorKind::Index);
 constexpr int kObject = static_cast<int>(ErrorKind::Object);
 
 TEST(Control, EmptiesTheGeneralTableAndGivesTheTablesOfTheLastLoadBack) {
@@ -77,38 +76,6 @@ TEST(Control, RefusesATableThatIsNoneOrHollow) {
   }
   EXPECT_EQ(control.ORXDimTable(), settings.dim);
   EXPECT_EQ(other.gen->RowCount(), 1);
-}
-
-TEST(Control, StoresLayoutsWhereTheButtonSays) {
-  gPrnProp.reset();
-  ORXQueryPrnProp control;
-  EXPECT_EQ(FailureOf([&] { control.ORXSetPrintLayout(u"x", std::int32_t{0}, u""); }), kIndex) << "before a load";
-  const Settings settings("IOBJNM='A'\nIOBJNM='B'\nIOBJNM='B'");
-  settings.LoadInto(control);
-  const struct {
-    Variant button;
-    const char16_t *name, *layout;
-    int failure = -1;
-  } rows[] = {{{}, u"A", u"top"},
-              {1.0, u"A", u"head"},
-              {u" 2 ", u"A", u"foot"},
-              {std::int16_t{3}, u"A", u"end"},
-              {4.0, u"B", u"totals"},
-              {std::int16_t{4}, u"b", u"of nobody"},
-              {std::int32_t{5}, u"A", u"x", kIndex},
-              {4.4, u"A", u"x", kIndex},
-              {true, u"A", u"x", kIndex},
-              {u"four", u"A", u"x", kType},
-              {std::int32_t{40000}, u"A", u"x", kIndex}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(FailureOf([&] { control.ORXSetPrintLayout(row.layout, row.button, row.name); }), row.failure)
-        << ToString(row.button);
-  }
-  control.ORXGenPropTable();
-  EXPECT_EQ(settings.Brief(),
-            "general:\nTITLE='T' FRONTPAGE_LAYOUT='top' HEADER_LAYOUT='head' FOOTER_LAYOUT='foot' "
-            "LASTPAGE_LAYOUT='end'\n"
-            "dimension:\nIOBJNM='A'\nIOBJNM='B' PR_SUM_LAYOUT='totals'\nIOBJNM='B'\nmember:\nattribute:\n");
 }
 
 /// The calls of a load and, below a blank line, of a read-back stand in table_calls.txt.

@@ -5,8 +5,10 @@
 #include <regex>
 #include <sstream>
 
-#include "host/WidgetState.h"
+#include "support/widget_text.h"
+#include "tables/Conversions.h"
 #include "tables/RunTimeError.h"
+#include "tables/TableCalls.h"
 
 namespace ORXKMPrintProp::test {
 namespace {
@@ -49,64 +51,36 @@ std::string LineOf(const LayoutRow& row) {
 /// What a widget shows; of the labels, those that follow the presentation, and of the buttons, the disabled ones.
 std::string FieldOf(const Widget& widget, bool asList) {
   const WidgetName& name = widget.Row().name;
-  if (const auto* const box = dynamic_cast<const TextBox*>(&widget)) return "'" + ToAscii(box->GetText()) + "'";
-  if (const auto* const check = dynamic_cast<const CheckBox*>(&widget)) return std::to_string(check->Value());
-  if (const auto* const list = dynamic_cast<const ListBox*>(&widget)) return "[" + StateOf(*list) + "]";
-  if (const auto* const combo = dynamic_cast<const ComboBox*>(&widget)) {
-    return asList ? "[" + StateOf(*combo) + "]" : std::to_string(combo->ListIndex());
+  switch (widget.Row().kind) {
+    case WidgetKind::TextBox:
+      return "'" + StateOf(widget) + "'";
+    case WidgetKind::ComboBox:
+      if (!asList) return std::to_string(dynamic_cast<const ComboBox&>(widget).ListIndex());
+      [[fallthrough]];
+    case WidgetKind::ListBox:
+      return "[" + StateOf(widget) + "]";
+    case WidgetKind::CommandButton:
+      return widget.Enabled() ? "" : "#" + std::to_string(name.index);
+    case WidgetKind::Label:
+      return name.name.ends_with(u"Col1") || name.name.ends_with(u"Col2") ? ToAscii(widget.Caption()) : "";
+    default:
+      return StateOf(widget);
   }
-  if (dynamic_cast<const CommandButton*>(&widget)) return widget.Enabled() ? "" : "#" + std::to_string(name.index);
-  return name.name.ends_with(u"Col1") || name.name.ends_with(u"Col2") ? ToAscii(widget.Caption()) : "";
 }
 
 }  // namespace
 
-Stage::Stage() {
-  control.Connect(*this);
-  control.GetDialog().SetView(this);
-}
-
-Stage::Stage(const Settings& settings) : Stage() { hasLoaded_ = settings.LoadInto(control); }
-
-Stage::~Stage() { control.GetDialog().SetView(nullptr); }
-
-std::string Stage::Play(const std::string& transcript) {
-  std::istringstream in(transcript);
-  std::string played;
-  auto before = State();
-  for (std::string line; std::getline(in, line);) {
-    if (line.starts_with("  ")) continue;
-    played += line + "\n";
-    const bool isFirstLoad = !hasLoaded_;
-    DoAll(line);
-    const auto now = State();
-    if (isFirstLoad && hasLoaded_) before = now;
-    for (const auto& [name, text] : now) {
-      if (before[name] != text) Tell(name + ": " + text);
-    }
-    before = now;
-    played += std::exchange(told_, "");
+Stage::Stage(const Platform& platform)
+    : Player({"tab", "focus", "error"}), controls_{{ORXQueryPrnProp(platform), ORXQueryPrnProp(platform)}} {
+  for (ORXQueryPrnProp& control : controls_) {
+    control.Connect(*this);
+    control.GetDialog().SetView(this);
   }
-  return played;
+  shown_.lines = otherShown_.lines = State();
 }
 
-std::string Stage::After(const std::string& steps, const std::vector<std::string>& lines) {
-  DoAll(steps);
-  told_.clear();
-  auto state = State();
-  std::string text;
-  for (const std::string& line : lines) text += (text.empty() ? "" : " / ") + state[line];
-  return std::regex_replace(std::regex_replace(text, std::regex(":-?[0-9]+"), ""), std::regex("<None>"), "0");
-}
-
-/// In lines that a page takes; what goes on begins further in.
-void Stage::Tell(std::string line) {
-  while (line.size() > 116) {
-    const std::size_t end = line.rfind(' ', 116);
-    told_ += "  " + line.substr(0, end) + "\n";
-    line = "  " + line.substr(end + 1);
-  }
-  told_ += "  " + line + "\n";
+Stage::~Stage() {
+  for (ORXQueryPrnProp& control : controls_) control.GetDialog().SetView(nullptr);
 }
 
 void Stage::ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) {
@@ -115,17 +89,20 @@ void Stage::ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) {
 
 void Stage::ORXOrderChanged() {
   Tell("event: order of " + ModelText());
-  onOrderChanged();
+  DoAt("order");
 }
 
 void Stage::MsgBox(const Text& text, const Text& title) {
   Tell(ToAscii(title) + ": " + ToAscii(text));
-  onMessage();
+  DoAt("message");
 }
 
-std::map<std::string, std::string> Stage::State() {
-  const Dialog& dialog = control.GetDialog();
-  std::map<std::string, std::string> lines{{"model", ModelText()}, {"pointer", std::to_string(dialog.MousePointer())}};
+Player::Lines Stage::State() {
+  const Dialog& dialog = Control().GetDialog();
+  Lines lines{{"model", ModelText()},
+              {"error", ToAscii(gErrorText)},
+              {"pointer", std::to_string(dialog.MousePointer())},
+              {"tab", StateOf(dialog.TabStrip())}};
   for (const auto& widget : dialog.Controls()) {
     if (widget->Row().page < 0) continue;
     const std::string line = LineOf(widget->Row());
@@ -140,54 +117,61 @@ std::map<std::string, std::string> Stage::State() {
   return lines;
 }
 
-void Stage::DoAll(const std::string& steps) {
-  for (std::size_t at = 0, end = 0; at < steps.size(); at = end + 2) {
-    end = std::min(steps.find("; ", at), steps.size());
-    try {
-      Do(steps.substr(at, end - at));
-    } catch (const RunTimeError& error) {
-      Tell("error: " + ToAscii(error.Message()));
-    }
+void Stage::DoStep(const std::string& line) {
+  const UserStep step(Control().GetDialog(), line);
+  if (DoAsHost(step.verb, line.substr(std::min(step.verb.size() + 1, line.size())))) return;
+  if (!step.widget) {
+    ADD_FAILURE() << "no such step: " << line;
+  } else if (Use(step) != Refusal::None) {
+    Tell("refused");
   }
 }
 
-void Stage::Do(const std::string& step) {
-  std::istringstream in(step);
-  std::string verb, name, rest;
-  in >> verb >> name;
-  in.get();
-  std::getline(in, rest);
-  Dialog& dialog = control.GetDialog();
-  if (verb == "tab") {
-    dialog.TabStrip().UserPick(static_cast<std::int16_t>(std::stoi(name)));
-  } else if (verb == "readonly") {
-    control.ORXSetReadOnly(name == "on");
+bool Stage::DoAsHost(const std::string& verb, const std::string& rest) {
+  if (verb == "general" || verb == "dimension" || verb == "attribute" || verb == "member") {
+    rows_[lastRows_ = verb] += rest + "\n";
+  } else if (verb == "and") {
+    rows_[lastRows_].back() = ' ';
+    rows_[lastRows_] += rest + "\n";
+  } else if (verb == "characteristics") {
+    rows_["dimension"] += Characteristics(rest);
   } else if (verb == "load") {
     Load();
-  } else if (verb == "general" || verb == "dimension" || verb == "attribute" || verb == "member") {
-    rows_[verb] += step.substr(verb.size() + 1) + "\n";
-  } else if (verb == "characteristics") {
-    rows_["dimension"] += Characteristics(step.substr(verb.size()));
   } else if (verb == "read") {
-    Read(name);
-  } else if (verb == "see") {
-    const std::string line = name + (rest.empty() ? "" : " " + rest);
-    Tell(line + ": " + State()[line]);
+    Read(rest);
+  } else if (verb == "readonly") {
+    Control().ORXSetReadOnly(rest == "on");
+  } else if (verb == "layout") {
+    const RowRef row = RowAt(*TableFrom(Kind::Texts, rest), 1);
+    Control().ORXSetPrintLayout(ToText(row->Value(u"LAYOUT")), row->Value(u"BUTTON"), ToText(row->Value(u"NAME")));
+  } else if (verb == "texts") {
+    gTextTable = rest.empty() ? nullptr : MemoryTable::Create({u"TARGETID"});
+    if (!gTextTable) return true;
+    AddRow(*gTextTable)->Value(u"TARGETID", Wide(rest));
+    gTextTable->Columns()->KeyColumn(std::int32_t{1});
+  } else if (verb == "at") {
+    atEvents_[rest.substr(0, rest.find(' '))] = rest.substr(rest.find(' ') + 1);
+  } else if (verb == "fail") {
+    throw RunTimeError(ErrorKind::Table, u"host");
+  } else if (verb == "other") {
+    current_ = 1 - current_;
+    std::swap(shown_, otherShown_);
   } else {
-    Widget* const widget = dialog.FindSpelled(Wide(name));
-    if (!widget) {
-      ADD_FAILURE() << "no such step: " << step;
-    } else if (DoTo(*widget, verb, rest) != Refusal::None) {
-      Tell("refused");
-    }
+    return false;
   }
+  return true;
+}
+
+void Stage::DoAt(const std::string& event) {
+  ForEach(atEvents_[event], ", ", [this](const std::string& step) { Do(step); });
 }
 
 void Stage::Load() {
-  auto rows = std::exchange(rows_, {});
+  Lines rows = std::exchange(rows_, {});
   const std::string general = rows.contains("general") ? rows["general"] : "TITLE='T'";
-  if (!Settings(rows["dimension"], rows["attribute"], rows["member"], general).LoadInto(control)) Tell("false");
-  hasLoaded_ = true;
+  if (!Settings(rows["dimension"], rows["attribute"], rows["member"], general).LoadInto(Control()))
+    Tell("false: " + ToAscii(gErrorText));
+  if (!std::exchange(hasLoaded_[current_], true)) shown_.startsAnew = true;
 }
 
 void Stage::Read(const std::string& name) {
@@ -200,34 +184,11 @@ void Stage::Read(const std::string& name) {
                  {"attribute", Kind::Attribute, &ORXQueryPrnProp::ORXAtrTable},
                  {"member", Kind::Member, &ORXQueryPrnProp::ORXMemTable}};
   for (const auto& table : kTables) {
-    if (table.name != name) continue;
-    const TableRef read = (control.*table.read)();
-    std::istringstream rows(read ? BriefOf(table.kind, *read) : "none");
-    for (std::string row; std::getline(rows, row);) Tell(row);
+    if (!name.empty() && table.name != name) continue;
+    const TableRef read = (Control().*table.read)();
+    ForEach(read ? BriefOf(table.kind, *read) : "none", "\n",
+            [&](const std::string& row) { Tell((name.empty() ? table.name + std::string(" ") : "") + row); });
   }
-}
-
-Refusal Stage::DoTo(Widget& widget, const std::string& verb, const std::string& rest) {
-  if (verb == "press") return dynamic_cast<CommandButton&>(widget).UserPress();
-  if (verb == "toggle") return dynamic_cast<CheckBox&>(widget).UserToggle();
-  if (verb == "edit") return dynamic_cast<TextBox&>(widget).UserEdit(Wide(rest));
-  if (verb == "key") return dynamic_cast<TextBox&>(widget).UserKey(Wide(rest).at(0));
-  std::vector<std::int16_t> entries;
-  std::istringstream in(rest);
-  for (std::int16_t entry = 0; in >> entry;) entries.push_back(entry);
-  if (verb == "pick") return dynamic_cast<ComboBox&>(widget).UserPick(entries.at(0));
-
-  auto& list = dynamic_cast<ListBox&>(widget);
-  std::size_t place = 0;
-  if (verb != "move" && verb != "up") {
-    if (const Refusal refusal = list.UserMouseDown(entries.at(place++), ListBox::kLeftButton);
-        refusal != Refusal::None) {
-      return refusal;
-    }
-  }
-  for (; place < entries.size(); ++place) list.UserMouseMove(entries[place]);
-  if (verb != "move" && verb != "down") list.UserMouseUp(ListBox::kLeftButton);
-  return Refusal::None;
 }
 
 std::string Characteristics(const std::string& words) {

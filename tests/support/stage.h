@@ -1,65 +1,62 @@
 #pragma once
 
-#include <functional>
-#include <map>
+#include <array>
 #include <string>
-#include <vector>
 
 #include "control/SharedValues.h"
 #include "support/loaded.h"
-#include "support/widget_text.h"
+#include "support/transcript.h"
+#include "support/user_step.h"
 
 namespace ORXKMPrintProp::test {
 
-/// A control with settings in it, a user in front of it and a host behind it.
+/// A control with a user in front of it and a host behind it, who has another control besides.
 ///
-/// What they do is played from a transcript: a line holds steps, and the lines behind it, indented by two blanks, say
-/// all that these change in the dialog and the model, and what host and user hear; of the first load nothing is said.
-/// Steps stand apart by "; " and name widgets as the layout does, `lstPrint(1)`:
+/// What is told is what changes in the dialog and the model, and what host and user hear; of the first load nothing is
+/// told. The steps are those of user_step.h and the host's:
 ///
-///     tab 1, pick COMBO 2, toggle CHECK, press BUTTON, key BOX x, edit BOX new text
-///     click LIST 0 (with more entries a drag), down LIST 0, move LIST 1, up LIST
 ///     dimension ROW, the same for general, attribute and member, characteristics a bQ c-, load (these rows)
-///     readonly on, read TABLE (what the host gets), see LINE (of the state)
-class Stage : private ORXQueryPrnPropEvents, private View {
+///     and CELLS (of the row before)
+///     readonly on, read TABLE (what the host gets), read (all four)
+///     layout BUTTON='4' NAME='a' LAYOUT='text' (as cells)
+///     texts KEY (only a table that has this key, and no captions), texts (none)
+///     at order STEP, STEP (what the host does from then on when the order changes), at message STEP, fail
+///     other (whatever follows is done to the other control, or to the first one again)
+///
+/// The state: "general" and "frame 1" to "frame 3", fields in the order of the layout, "(...)" the disabled and "{...}"
+/// the hidden ones; "lists 1" to "lists 3"; "breaks", the three selectors; "pointer"; "model", items with position, "-"
+/// where hidden, the letters of breaks and what they own: `a1Q(p2 q-)`; and aside "tab" and "error", the shared text.
+class Stage : public Player, private ORXQueryPrnPropEvents, private View {
  public:
   /// Before a load.
-  Stage();
-  explicit Stage(const Settings& settings);
+  explicit Stage(const Platform& platform = Platform::Plain());
   ~Stage() override;
 
-  /// Carries the steps out. @return the transcript with what happens now behind each step.
-  std::string Play(const std::string& transcript);
+  ORXQueryPrnProp& Control() { return controls_[current_]; }
 
-  /// The same without the transcript. @return these lines of the state then, without item numbers and with 0 for the
-  /// entry <None>.
-  std::string After(const std::string& steps, const std::vector<std::string>& lines);
-
-  /// By name: "general" and "frame 1" to "frame 3", fields in the order of the layout, "(...)" the disabled and "{...}"
-  /// the hidden ones; "lists 1" to "lists 3"; "breaks", the three selectors; "pointer"; "model", items with position,
-  /// "-" where hidden, the letters of breaks and what they own: `a1Q(p2 q-)`.
-  std::map<std::string, std::string> State();
-
-  ORXQueryPrnProp control;
-  std::function<void()> onOrderChanged = [] {};
-  std::function<void()> onMessage = [] {};
+ protected:
+  Lines State() override;
+  virtual Refusal Use(const UserStep& step) { return step.Do(); }
 
  private:
   void ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) override;
   void ORXOrderChanged() override;
   void MsgBox(const Text& text, const Text& title) override;
 
-  void DoAll(const std::string& steps);
-  void Do(const std::string& step);
+  void DoStep(const std::string& line) override;
+  /// @return whether the host has such a step.
+  bool DoAsHost(const std::string& verb, const std::string& rest);
+  void DoAt(const std::string& event);
   void Load();
   void Read(const std::string& table);
-  Refusal DoTo(Widget& widget, const std::string& verb, const std::string& rest);
-  void Tell(std::string line);
 
-  /// The rows of the next load, by table.
-  std::map<std::string, std::string> rows_;
-  bool hasLoaded_ = false;
-  std::string told_;
+  std::array<ORXQueryPrnProp, 2> controls_;
+  std::size_t current_ = 0;
+  std::array<bool, 2> hasLoaded_{};
+  Shown otherShown_;  ///< of the control that is not the current one
+  Lines rows_;        ///< of the next load, by table
+  std::string lastRows_;
+  Lines atEvents_;  ///< what the host does, by event
 };
 
 /// Dimension rows of print characteristics, in their order: `a b c` with the flags of each behind it, Q, P, A for

@@ -5,28 +5,20 @@
 #include "support/table_text.h"
 
 namespace ORXKMPrintProp::test {
-namespace {
 
-template <class W, class Mark>
-std::string EntriesOf(const W& widget, Mark mark) {
+std::string StateOf(const Widget& widget) {
+  if (const auto* const box = dynamic_cast<const TextBox*>(&widget)) return ToAscii(box->GetText());
+  if (const auto* const check = dynamic_cast<const CheckBox*>(&widget)) return std::to_string(check->Value());
+  if (const auto* const tabs = dynamic_cast<const SSTab*>(&widget)) return std::to_string(tabs->Tab());
+  const auto* const entries = dynamic_cast<const EntryWidget*>(&widget);
+  const auto* const list = dynamic_cast<const ListBox*>(&widget);
   std::string text;
-  for (std::int16_t i = 0; i < widget.ListCount(); ++i) {
-    if (i > 0) text += " ";
-    if (i == widget.ListIndex()) text += ">";
-    text += mark(i) + ToAscii(widget.List(i));
-    if (widget.ItemData(i) != 0) text += ":" + std::to_string(widget.ItemData(i));
+  for (std::int16_t i = 0; entries && i < entries->ListCount(); ++i) {
+    text += std::string(i > 0 ? " " : "") + (i == entries->ListIndex() ? ">" : "") +
+            (list && list->Selected(i) ? "*" : "") + ToAscii(entries->List(i));
+    if (entries->ItemData(i) != 0) text += ":" + std::to_string(entries->ItemData(i));
   }
   return text;
-}
-
-}  // namespace
-
-std::string StateOf(const ListBox& list) {
-  return EntriesOf(list, [&](std::int16_t i) { return std::string(list.Selected(i) ? "*" : ""); });
-}
-
-std::string StateOf(const ComboBox& combo) {
-  return EntriesOf(combo, [](std::int16_t) { return std::string(); });
 }
 
 void Fill(EntryWidget& widget, const std::string& words) {
