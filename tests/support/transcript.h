@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <functional>
 #include <map>
 #include <memory>
@@ -8,16 +7,9 @@
 #include <string>
 #include <utility>
 
-namespace ORXKMPrintProp::test {
+#include "support/user_step.h"
 
-/// Each part of a text that stands apart from the others.
-template <class Action>
-void ForEach(const std::string& text, const std::string& apart, Action action) {
-  for (std::size_t at = 0, end = 0; at < text.size(); at = end + apart.size()) {
-    end = std::min(text.find(apart, at), text.size());
-    action(text.substr(at, end - at));
-  }
-}
+namespace ORXKMPrintProp::test {
 
 /// Who does what a transcript says. A line holds steps, which stand apart by "; ". There is a state of lines with
 /// names, and two steps are for it: `see LINE`, and `watch LINE, LINE`, since nothing is told of the others then.

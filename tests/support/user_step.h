@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -7,6 +8,15 @@
 #include "dialog/Dialog.h"
 
 namespace ORXKMPrintProp::test {
+
+/// Each part of a text that stands apart from the others.
+template <class Action>
+void ForEach(const std::string& text, const std::string& apart, Action action) {
+  for (std::size_t at = 0, end = 0; at < text.size(); at = end + apart.size()) {
+    end = std::min(text.find(apart, at), text.size());
+    action(text.substr(at, end - at));
+  }
+}
 
 /// What a user does to a widget, from a line that names it as the layout does, `lstPrint(1)`:
 ///
