@@ -2,268 +2,158 @@
 
 #include <gtest/gtest.h>
 
-#include <deque>
 #include <filesystem>
-#include <functional>
-#include <memory>
 #include <random>
 
 #include "control/SharedValues.h"
 #include "host/Files.h"
-#include "host/Load.h"
-#include "host/PrintRows.h"
+#include "support/table_text.h"
+#include "support/transcript.h"
+#include "support/user_step.h"
 
 namespace ORXKMPrintProp::host::test {
 namespace {
 
 namespace fs = std::filesystem;
+using namespace ORXKMPrintProp::test;
 
-/// A window with a user who answers as the test says.
-class ScriptedWindow : public EditorWindow {
+/// An editor in a window, with a user who answers as he is told: by Cancel unless told otherwise. He edits a.json, a
+/// copy of an example. The steps are those of user_step.h and:
+///
+///     open, open read-only, open for FILE
+///     end (the user's action has come to its end), save, accept, close, refresh
+///     answer Discard (to the next question)
+///     put OLD -> NEW (somebody else does, in the row of REGION), copy FILE (of the tests), remove (the file)
+///     show FILE
+///
+/// The state: "window", what is seen of it: modified, Apply can be pressed, the panel is older than a change; "note";
+/// and of each file how often it has been written, with its general row.
+class EditorPlayer : public Player, public EditorWindow {
  public:
-  ~ScriptedWindow() override { EXPECT_TRUE(answers.empty()) << "a question was expected that did not come"; }
-
-  void ShowMeaning(const Snapshot&, const Snapshot&) override {}
-  void ShowState(const EditorState& shown) override { state = shown; }
-  Choice Ask(const Question& question) override {
-    const std::string told = question.text + "\n" + question.further;
-    const auto answer = answers.empty() ? std::pair(std::string("none expected"), Choice::Cancel) : answers.front();
-    if (!answers.empty()) answers.pop_front();
-    EXPECT_EQ(told, answer.first);
-    return answer.second;
+  EditorPlayer() : Player({}) {
+    ReleaseSharedValues();
+    fs::create_directory(folder_);
+    SaveFile(Path("a.json"), ReadFile(PRNPROP_EXAMPLES "/small.json"));
+    shown_.lines = State();
   }
-  std::optional<Text> EditLayout(const Text&, const Text&, bool) override { return u"<head>"; }
-  void ReadLater() override { readsLater = true; }
+  ~EditorPlayer() override {
+    editor_.reset();
+    fs::remove_all(folder_);
+  }
 
-  EditorState state;
-  std::deque<std::pair<std::string, Choice>> answers;
-  bool readsLater = false;
-};
-
-class EditorTest : public testing::Test {
  protected:
-  EditorTest() {
-    gPrnProp.reset();
-    gTextTable.reset();
-    fs::create_directory(folder);
-    SaveFile(file, before);
-  }
-  ~EditorTest() override {
-    editor.reset();
-    fs::remove_all(folder);
-  }
+  void DoStep(const std::string& line) override;
+  Lines State() override;
 
-  std::string Path(const char* name) const { return (folder / name).string(); }
+ private:
+  void ShowMeaning(const Snapshot&, const Snapshot&) override {}
+  void ShowState(const EditorState& shown) override { window_ = shown; }
+  Choice Ask(const Question& question) override {
+    TellAll(question.text + "\n" + question.further);
+    return std::exchange(answer_, Choice::Cancel);
+  }
+  std::optional<Text> EditLayout(const Text&, const Text& layout, bool) override {
+    Tell("layout: '" + ToAscii(layout) + "'");
+    return u"<head>";
+  }
+  void ReadLater() override { readsLater_ = true; }
 
-  void Open(EditOptions options = {}) {
-    options.file = file;
-    editor.reset();
-    settings = std::make_unique<EditedSettings>(ReadSettings(file), options, nullptr, Platform::Plain());
-    editor = std::make_unique<Editor>(*settings, window);
-    editor->Show();
-  }
+  std::string Path(const std::string& name) const { return (folder_ / name).string(); }
+  /// With the folder left out.
+  void TellAll(std::string text);
+  void Open(const std::string& how);
+  void Put(const std::string& change);
+  void Show(const std::string& file);
 
-  /// What the editor makes of the user's hand on a widget.
-  template <class W, class Operation>
-  void Use(TextView name, Operation operate) {
-    W& widget = dynamic_cast<W&>(*settings->Control().GetDialog().FindSpelled(name));
-    operate(widget);
-    editor->OnUsed(widget);
-  }
-  void Type(TextView name, const Text& text) {
-    Use<TextBox>(name, [&](TextBox& box) { box.UserEdit(text); });
-  }
-  void TypeTitle(const Text& text) { Type(u"txtGenPrnTitle", text); }
-  void PickTab(std::int16_t tab) {
-    Use<SSTab>(u"tstPrint", [&](SSTab& strip) { strip.UserPick(tab); });
-  }
-  void Press(TextView name) { Use<CommandButton>(name, std::mem_fn(&CommandButton::UserPress)); }
-  /// The user's action has come to its end.
-  void End() {
-    if (std::exchange(window.readsLater, false)) editor->Read();
-  }
-
-  /// What is seen of the window: modified, Apply can be pressed, the panel is older than a change.
-  std::string State() const {
-    return std::string(window.state.isModified ? "modified " : "") + (window.state.canApply ? "apply " : "") +
-           (window.state.isStale ? "older" : "");
-  }
-  void Answer(Choice choice, const std::string& question) { window.answers.emplace_back(question, choice); }
-  std::string Changed() const { return "The settings have changed.\nSave them in " + file + "?"; }
-
-  const fs::path folder = fs::path(testing::TempDir()) / ("editor_test-" + std::to_string(std::random_device{}()));
-  std::string before = ReadFile(PRNPROP_EXAMPLES "/small.json");
-  const std::string file = Path("a.json");
-  ScriptedWindow window;
-  std::unique_ptr<EditedSettings> settings;
-  std::unique_ptr<Editor> editor;
+  const fs::path folder_ = fs::path(testing::TempDir()) / ("editor_test-" + std::to_string(std::random_device{}()));
+  std::map<std::string, std::pair<std::string, int>> contents_;  ///< of the files, and how often they were written
+  EditorState window_;
+  Choice answer_ = Choice::Cancel;
+  bool readsLater_ = false;
+  std::unique_ptr<EditedSettings> settings_;
+  std::unique_ptr<Editor> editor_;
 };
 
-TEST_F(EditorTest, WhatASaveLosesIsToldBeforeTheFirstAndLayoutsAreHandedBack) {
-  const std::string characteristic = R"({"POSIT":1,"AXIS":"Y","PR_COL1_WIDTH":1,"PR_COL2_WIDTH":1,"STRT_LVL":0,)";
-  SaveFile(file, R"({"general":[{"TITLE":"Sales","MARGIN_TOP":1,"MARGIN_BOTTOM":2,"MARGIN_LEFT":3,
-      "MARGIN_RIGHT":4,"HEADER_LAYOUT":"head","LASTPAGE_LAYOUT":"end"}],"dimension":[)" +
-                     characteristic + R"("IOBJNM":"A","PR_SUM_LAYOUT":"<sum>\r\n of A"},)" + characteristic +
-                     R"("IOBJNM":"A","PR_SUM_LAYOUT":"two","COLOR":"red"},)" + characteristic +
-                     R"("IOBJNM":"B","PR_SUM_LAYOUT":"sum of B"},
-      {"IS_STRUCTURE":"X","IOBJTXT":"nameless","POSIT":1}]})");
-  before = ReadFile(file);
-  SettingsDocument expected = ReadSettings(file);
-  Open();
-  EXPECT_EQ(State(), "");
-  TypeTitle(u"Sales!");
-  const std::string losses =
-      "3 things that the file says can't be kept.\n"
-      "• dimension, row 2, column PR_SUM_LAYOUT: only the first characteristic of a name keeps its layout\n"
-      "• dimension, row 2, column COLOR: the control does not write this column\n"
-      "• dimension, row 4: a structure without a name does not exist";
-  Answer(Choice::Cancel, losses);
-  EXPECT_FALSE(editor->Save());
-  EXPECT_EQ(State(), "modified apply ");
-  EXPECT_EQ(ReadFile(file), before);
-  Answer(Choice::Save, losses);
-  EXPECT_TRUE(editor->Save());
-  EXPECT_EQ(State(), "");
-  TypeTitle(u"Sales!?");
-  EXPECT_TRUE(editor->Accept() && editor->MayClose()) << "it is told once";
-
-  expected.general->Rows(1)->Value(u"TITLE", Text(u"Sales!?"));
-  LoadAndReadBack(expected);
-  expected.general->Rows(1)->Value(u"HEADER_LAYOUT", Text(u"head"));
-  expected.general->Rows(1)->Value(u"LASTPAGE_LAYOUT", Text(u"end"));
-  expected.dimension->Rows(1)->Value(u"PR_SUM_LAYOUT", Text(u"<sum>\r\n of A"));
-  expected.dimension->Rows(3)->Value(u"PR_SUM_LAYOUT", Text(u"sum of B"));
-  EXPECT_EQ(ReadFile(file), ToJson(expected));
-}
-
-TEST_F(EditorTest, ClosingAsksWhenSomethingHasChanged) {
-  Open();
-  TypeTitle(u"Orders by region!");
-  TypeTitle(u"Orders by region");
-  EXPECT_EQ(State(), "modified apply older") << "until a read tells better";
-  EXPECT_TRUE(editor->MayClose());
-  TypeTitle(u"Orders by region!");
-  Answer(Choice::Cancel, Changed());
-  EXPECT_FALSE(editor->MayClose());
-  Answer(Choice::Discard, Changed());
-  EXPECT_TRUE(editor->MayClose());
-  EXPECT_EQ(ReadFile(file), before);
-  Answer(Choice::Save, Changed());
-  EXPECT_TRUE(editor->MayClose());
-  EXPECT_NE(ReadFile(file).find("Orders by region!"), std::string::npos);
-}
-
-TEST_F(EditorTest, AFieldIsToldBeforeASaveWhenItsSettingCantTakeTheText) {
-  Open();
-  const std::tuple<TextView, const char16_t*, std::string> rows[] = {
-      {u"txtGenMarginTop", u"32768", "Page margins, Top: 32768"},
-      {u"txtGenMarginTop", u"", "Page margins, Top: (empty)"},
-      {u"txtGenMarginTop", u"1e2", ""},
-      {u"txtGenMaxPages", u"", ""},
-      {u"txtGenMaxPages", u"32768", "General, Maximal number of pages: 32768"},
-  };
-  for (const auto& [box, text, told] : rows) {
-    Type(box, text);
-    EXPECT_EQ(window.state.note, told.empty() ? "" : "No whole number up to 32767: " + told);
-    if (told.empty()) continue;
-    Answer(Choice::Cancel, "Not everything is stored as it was typed.\nNo whole number up to 32767:\n" + told);
-    EXPECT_FALSE(editor->Accept());
-  }
-  Type(u"txtGenMaxPages", u"");
-  EXPECT_TRUE(editor->Save());
-  EXPECT_NE(ReadFile(file).find("\"MARGIN_TOP\": 100"), std::string::npos);
-}
-
-TEST_F(EditorTest, WhoeverOnlyLooksChangesNothing) {
-  // The commit of a page would write a 1, and no width beside an automatic one.
-  const std::string name = "\"IOBJNM\": \"REGION\"";
-  for (const auto& [from, to] :
-       {std::pair(R"("POSIT": 1)", R"("POSIT": 0)"), std::pair(R"("PR_AUTO_WIDTH": " ")", R"("PR_AUTO_WIDTH": "X")")}) {
-    before.replace(before.find(from, before.find(name)), std::string_view(from).size(), to);
-  }
-  SaveFile(file, before);
-  for (const bool readOnly : {false, true}) {
-    Open({.readOnly = readOnly});
-    for (const std::int16_t tab : {kCharTab, kAttrTab, kStrTab, kCharTab}) {
-      PickTab(tab);
-      End();
-    }
-    Use<ListBox>(u"lstPrint(1)", [](ListBox& list) { list.UserMouseDown(1, ListBox::kLeftButton); });
-    EXPECT_EQ(State() + window.state.note, "");
-    EXPECT_TRUE(editor->Accept());
-    EXPECT_EQ(ReadFile(file), before);
+void EditorPlayer::DoStep(const std::string& line) {
+  const std::string verb = line.substr(0, line.find(' '));
+  const std::string rest = line.substr(std::min(verb.size() + 1, line.size()));
+  const auto answer = [this](bool yes) { Tell(yes ? "yes" : "no"); };
+  if (verb == "open") {
+    Open(rest);
+  } else if (verb == "end") {
+    if (std::exchange(readsLater_, false)) editor_->Read();
+  } else if (verb == "save") {
+    answer(editor_->Save());
+  } else if (verb == "accept") {
+    answer(editor_->Accept());
+  } else if (verb == "close") {
+    answer(editor_->MayClose());
+  } else if (verb == "refresh") {
+    answer(editor_->Read());
+  } else if (verb == "answer") {
+    answer_ = rest == "Save" ? Choice::Save : Choice::Discard;
+  } else if (verb == "put") {
+    Put(rest);
+  } else if (verb == "copy") {
+    SaveFile(Path("a.json"), ReadFile(PRNPROP_HOST_TESTS "/" + rest));
+  } else if (verb == "remove") {
+    fs::remove(Path("a.json"));
+  } else if (verb == "show") {
+    Show(rest);
+  } else {
+    const UserStep step(settings_->Control().GetDialog(), line);
+    ASSERT_TRUE(step.widget) << "no such step: " << line;
+    step.Do();
+    editor_->OnUsed(*step.widget);
   }
 }
 
-TEST_F(EditorTest, AFileThatSomebodyElseHasWrittenIsNotReplacedUnasked) {
-  Open();
-  TypeTitle(u"mine");
-  SaveFile(file, before += "\n");
-  const std::string question = "The file has changed since it was opened.\nReplace " + file + " all the same?";
-  Answer(Choice::Cancel, question);
-  EXPECT_FALSE(editor->Accept());
-  EXPECT_EQ(State(), "modified apply ");
-  EXPECT_EQ(ReadFile(file), before);
-  fs::remove(file);
-  Answer(Choice::Save, "The file is gone since it was opened.\nSave in " + file + " all the same?");
-  EXPECT_TRUE(editor->Save());
-  TypeTitle(u"mine again");
-  EXPECT_TRUE(editor->Save());
-  EXPECT_NE(ReadFile(file).find("mine again"), std::string::npos);
+void EditorPlayer::TellAll(std::string text) {
+  const std::string folder = Path("");
+  for (auto at = text.find(folder); at != std::string::npos; at = text.find(folder)) text.erase(at, folder.size());
+  ForEach(text, "\n", [this](const std::string& line) { Tell(line); });
 }
 
-TEST_F(EditorTest, AWriteThatFailsKeepsTheWindowAndAnotherTargetLeavesTheFile) {
-  const std::string nowhere = Path("no/b.json");
-  Open({.out = nowhere});
-  EXPECT_EQ(editor->Title("*"), "b.json* - Print settings");
-  TypeTitle(u"new");
-  Answer(Choice::Ok, "The settings could not be saved.\n" + nowhere + ": No such file or directory");
-  EXPECT_FALSE(editor->Accept());
-  EXPECT_EQ(State(), "modified apply ");
-  EXPECT_EQ(ReadFile(file), before);
-  Answer(Choice::Discard, "The settings have changed.\nSave them in " + nowhere + "?");
-  EXPECT_TRUE(editor->MayClose());
-
-  before.insert(before.find("\"IOBJNM\": \"REGION\""), "\"COLOR\": \"red\", ");
-  SaveFile(file, before);
-  Open({.out = Path("b.json")});
-  EXPECT_EQ(State(), "apply ") << "there is no such file yet";
-  Answer(Choice::Save,
-         "One thing that the file says can't be kept.\n"
-         "• dimension, row 1, column COLOR: the control does not write this column");
-  EXPECT_TRUE(editor->Save());
-  EXPECT_EQ(State(), "");
-  EXPECT_EQ(ReadFile(file), before);
-  SettingsDocument expected = ReadSettings(PRNPROP_EXAMPLES "/small.json");
-  LoadAndReadBack(expected);
-  EXPECT_EQ(ReadFile(Path("b.json")), ToJson(expected));
+void EditorPlayer::Open(const std::string& how) {
+  EditOptions options{.file = Path("a.json"), .readOnly = how == "read-only"};
+  if (how.starts_with("for ")) options.out = Path(how.substr(4));
+  editor_.reset();
+  settings_ = std::make_unique<EditedSettings>(ReadSettings(options.file), options, nullptr, Platform::Plain());
+  editor_ = std::make_unique<Editor>(*settings_, *this);
+  editor_->Show();
+  Tell(editor_->Title("*"));
 }
 
-TEST_F(EditorTest, WhatTheUserDoesCountsAsAChangeUntilTheNextRead) {
-  Open();
-  Press(u"cmdPrintLayout(1)");
-  EXPECT_EQ(State(), "modified apply older");
-  EXPECT_TRUE(editor->Save());
-  EXPECT_EQ(RawText(*settings->Now().General().rows.at(0), u"HEADER_LAYOUT"), u"<head>");
-  PickTab(kCharTab);
-  End();
-  Press(u"cmdLeftToRight(1)");
-  EXPECT_EQ(State(), "") << "nothing is selected there";
-  Press(u"cmdRightToLeft(1)");
-  EXPECT_EQ(State(), "modified apply older");
-  End();
-  EXPECT_EQ(State(), "modified apply ");
-  PickTab(kAttrTab);
-  Use<ComboBox>(u"cmbAttrChar", [](ComboBox& combo) { combo.UserPick(0); });
-  EXPECT_EQ(State(), "modified apply ") << "it picks what the page shows";
-  Answer(Choice::Discard, Changed());
-  EXPECT_TRUE(editor->MayClose());
+void EditorPlayer::Put(const std::string& change) {
+  const std::string from = change.substr(0, change.find(" -> "));
+  std::string content = ReadFile(Path("a.json"));
+  const std::size_t at = content.find(from, content.find("\"IOBJNM\": \"REGION\""));
+  SaveFile(Path("a.json"), content.replace(at, from.size(), change.substr(from.size() + 4)));
+}
 
-  Open({.readOnly = true});
-  EXPECT_EQ(editor->Title("*"), "a.json* (read-only) - Print settings");
-  Press(u"cmdPrintLayout(0)");
-  EXPECT_EQ(State(), "");
-  EXPECT_TRUE(editor->MayClose());
+void EditorPlayer::Show(const std::string& file) {
+  const SettingsDocument document = ReadSettings(Path(file));
+  TellAll(BriefOf(Kind::General, *document.general) + BriefOf(Kind::Dimension, *document.dimension) +
+          BriefOf(Kind::Attribute, *document.attribute) + BriefOf(Kind::Member, *document.member));
+}
+
+Player::Lines EditorPlayer::State() {
+  Lines lines{{"note", window_.note.empty() ? "none" : window_.note},
+              {"window", std::string(window_.isModified ? "modified" : "unmodified") +
+                             (window_.canApply ? ", apply" : "") + (window_.isStale ? ", older" : "")}};
+  for (const auto& entry : fs::directory_iterator(folder_)) {
+    const std::string path = entry.path().string();
+    auto& [content, times] = contents_[path];
+    if (ReadFile(path) != std::exchange(content, ReadFile(path))) ++times;
+    const std::string general = BriefOf(Kind::General, *ReadSettings(path).general);
+    lines[entry.path().filename().string()] =
+        "written " + std::to_string(times) + ", " + general.substr(0, general.find('\n'));
+  }
+  return lines;
+}
+
+TEST(Editor, KeepsItsRules) {
+  PlayTranscript(PRNPROP_HOST_TESTS "/editor.txt", [] { return std::make_unique<EditorPlayer>(); });
 }
 
 }  // namespace
