@@ -1,107 +1,131 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <map>
+
 #include "dialog/Dialog.h"
 #include "support/table_text.h"
+#include "support/transcript.h"
+#include "support/user_step.h"
 #include "support/widget_text.h"
-#include "tables/RunTimeError.h"
 #include "texts/LookupText.h"
 
 namespace ORXKMPrintProp::test {
 namespace {
 
+/// The widgets of the last page without the page: a list of several selections, one of a single one, a combo box, a
+/// check box, a text box and a button. The steps are those of user_step.h and a program's:
+///
+///     add LIST x, add LIST 1 x (there), remove LIST 0, clear LIST, text LIST 0 X, data LIST 0 7
+///     index LIST 2, select LIST 1, deselect LIST 1, value CHECK 2, page 0, caption 0 (of that page's tab)
+///     enable WIDGET, disable WIDGET, show WIDGET, hide WIDGET
+///
+/// The state: what each widget holds, with the number of selected entries for the first list; and "tab". Events are
+/// told with the entry at the caret.
+class WidgetPlayer : public Player {
+ public:
+  WidgetPlayer();
+
+ protected:
+  void DoStep(const std::string& line) override;
+  Lines State() override;
+
+ private:
+  Widget& Named(const char* name) { return *dialog_.FindSpelled(Wide(name)); }
+  void Hear(EntryWidget& widget);
+
+  Dialog dialog_;
+};
+
+WidgetPlayer::WidgetPlayer() : Player({}) {
+  dialog_.TabStrip().Tab(kStrTab);
+  for (const char* const name : {"lstPrint(3)", "lstStrStructures", "cmbStrColAlign"}) {
+    auto& widget = dynamic_cast<EntryWidget&>(Named(name));
+    Fill(widget, "a b c d");
+    Hear(widget);
+  }
+  auto& check = dynamic_cast<CheckBox&>(Named("chkStrColAutoWidth"));
+  check.Click = [this, &check] { Tell("Click at value " + StateOf(check)); };
+  dynamic_cast<CommandButton&>(Named("cmdLeftToRight(3)")).Click = [this] { Tell("Click of the button"); };
+  dialog_.TabStrip().Click = [this](std::int16_t previous) {
+    Tell("Click from tab " + std::to_string(previous) + " to " + StateOf(dialog_.TabStrip()));
+  };
+  shown_.lines = State();
+}
+
+void WidgetPlayer::Hear(EntryWidget& widget) {
+  const auto tell = [this, &widget](const std::string& event) {
+    Tell(event + " of " + ToAscii(widget.Row().name.Spelled()) + " at " + std::to_string(widget.ListIndex()));
+  };
+  const auto telling = [tell](const std::string& event) {
+    return [tell, event](std::int16_t button) { tell(event + " " + std::to_string(button)); };
+  };
+  widget.Click = [tell] { tell("Click"); };
+  auto* const list = dynamic_cast<ListBox*>(&widget);
+  if (!list) return;
+  list->MouseDown = telling("MouseDown");
+  list->MouseMove = telling("MouseMove");
+  list->MouseUp = telling("MouseUp");
+}
+
+void WidgetPlayer::DoStep(const std::string& line) {
+  const UserStep step(dialog_, line);
+  const std::int16_t number = step.numbers.empty() ? std::int16_t{-1} : step.numbers[0];
+  const Text text = Wide(line.substr(line.rfind(' ') + 1));
+  Widget* const widget = step.widget;
+  auto* const entries = dynamic_cast<EntryWidget*>(widget);
+  auto* const list = dynamic_cast<ListBox*>(widget);
+  SSTab& tabs = dialog_.TabStrip();
+  const std::map<std::string, std::function<void()>> program{
+      {"add", [&] { step.numbers.empty() ? entries->AddItem(text) : entries->AddItem(text, number); }},
+      {"remove", [&] { entries->RemoveItem(number); }},
+      {"clear", [&] { entries->Clear(); }},
+      {"text", [&] { entries->List(number, text); }},
+      {"data", [&] { entries->ItemData(number, step.numbers.at(1)); }},
+      {"index", [&] { entries->ListIndex(number); }},
+      {"select", [&] { list->Selected(number, true); }},
+      {"deselect", [&] { list->Selected(number, false); }},
+      {"value", [&] { dynamic_cast<CheckBox&>(*widget).Value(number); }},
+      {"page", [&] { tabs.Tab(static_cast<std::int16_t>(std::stoi(ToAscii(text)))); }},
+      {"caption", [&] { tabs.TabCaption(static_cast<std::int16_t>(std::stoi(ToAscii(text))), u"x"); }},
+      {"enable", [&] { widget->Enabled(true); }},
+      {"disable", [&] { widget->Enabled(false); }},
+      {"show", [&] { widget->Visible(true); }},
+      {"hide", [&] { widget->Visible(false); }},
+  };
+  const auto found = program.find(step.verb);
+  if (found != program.end()) return found->second();
+  const Refusal refusal = step.Do();
+  if (refusal != Refusal::None) Tell(std::string("refused: ") + WordsOf(refusal));
+}
+
+Player::Lines WidgetPlayer::State() {
+  Lines lines{{"tab", StateOf(dialog_.TabStrip())}};
+  for (const auto& widget : dialog_.Controls()) {
+    if (widget->Row().page == kStrTab) lines[ToAscii(widget->Row().name.Spelled())] = StateOf(*widget);
+  }
+  const auto& list = dynamic_cast<const ListBox&>(Named("lstPrint(3)"));
+  lines["lstPrint(3)"] += ", " + std::to_string(list.SelCount()) + " selected";
+  return lines;
+}
+
+TEST(Widgets, DoWhatAProgramAndAUserSay) {
+  PlayTranscript(PRNPROP_PAGES "/widgets.txt", [] { return std::make_unique<WidgetPlayer>(); });
+}
+
 class WidgetsTest : public testing::Test {
  protected:
   WidgetsTest() {
-    for (EntryWidget* const widget : std::initializer_list<EntryWidget*>{&multi, &single, &combo}) {
-      Fill(*widget, "a b c d");
-      widget->Click = [this, widget] { events += "Click" + std::to_string(widget->ListIndex()) + " "; };
-    }
-    check.Click = [this] { events += "Value" + std::to_string(check.Value()) + " "; };
-    dialog.TabStrip().Tab(3);
-  }
-
-  /// The lists and the combo box, and what has been heard since the last time.
-  std::string State() {
-    return StateOf(multi) + " | " + StateOf(single) + " | " + StateOf(combo) + " | " + std::exchange(events, "");
+    dialog.TabStrip().Tab(kStrTab);
+    for (EntryWidget* const widget : std::initializer_list<EntryWidget*>{&multi, &combo}) Fill(*widget, "a b c d");
   }
 
   Dialog dialog;
-  ListBox& multi = dialog.Get<ListBox>(u"lstPrint", 3);
-  ListBox& single = dialog.Get<ListBox>(u"lstStrStructures");
+  ListBox& multi = dialog.Get<ListBox>(u"lstPrint", kStrTab);
   ComboBox& combo = dialog.Get<ComboBox>(u"cmbStrColAlign");
   CheckBox& check = dialog.Get<CheckBox>(u"chkStrColAutoWidth");
   TextBox& box = dialog.Get<TextBox>(u"txtStrColTitle");
-  std::string events;
 };
-
-TEST_F(WidgetsTest, AWriteRaisesClickWhereItChangesSomething) {
-  for (const bool again : {false, true}) {
-    multi.Selected(1, true);
-    multi.Selected(3, true);
-    multi.ListIndex(2);
-    single.ListIndex(1);
-    combo.ListIndex(2);
-    check.Value(2);
-    EXPECT_EQ(State(), std::string("a *b >c *d | a >*b c d | a b >c d | ") +
-                           (again ? "" : "Click-1 Click-1 Click2 Click1 Click2 Value2 "));
-  }
-  single.Selected(0, true);
-  EXPECT_EQ(State(), "a *b >c *d | >*a b c d | a b >c d | Click0 ");
-  for (EntryWidget* const widget : std::initializer_list<EntryWidget*>{&multi, &single, &combo}) widget->ListIndex(-1);
-  check.UserToggle();
-  EXPECT_EQ(State(), "a *b c *d | a b c d | a b c d | Click-1 Click-1 Click-1 Value0 ");
-
-  dialog.TabStrip().Click = [&](std::int16_t previous) {
-    events += std::to_string(previous) + std::to_string(dialog.TabStrip().Tab()) + " ";
-  };
-  dialog.TabStrip().UserPick(3);
-  dialog.TabStrip().UserPick(1);
-  EXPECT_EQ(dialog.TabStrip().UserPick(4), Refusal::NoSuchEntry);
-  dialog.TabStrip().Tab(0);
-  EXPECT_EQ(events, "31 10 ");
-}
-
-TEST_F(WidgetsTest, EntriesKeepWhatBelongsToThemWhenOthersComeAndGo) {
-  for (std::int16_t i = 0; i < 4; ++i) multi.ItemData(i, 10 + i);
-  multi.Selected(1, true);
-  multi.Selected(3, true);
-  multi.ListIndex(2);
-  combo.ListIndex(1);
-  State();
-  for (EntryWidget* const widget : std::initializer_list<EntryWidget*>{&multi, &combo}) {
-    widget->AddItem(u"x", std::int16_t{1});
-    EXPECT_EQ(widget->NewIndex(), 1);
-    widget->RemoveItem(0);
-    widget->AddItem(u"y", widget->ListCount());
-    widget->List(0, u"X");
-  }
-  EXPECT_EQ(State() + std::to_string(multi.SelCount()), "X *b:11 >c:12 *d:13 y | a b c d | X >b c d y | 2");
-  for (const std::int16_t gone : {std::int16_t{2}, std::int16_t{1}}) {
-    multi.RemoveItem(gone);
-    combo.RemoveItem(gone);
-  }
-  EXPECT_EQ(State() + std::to_string(multi.SelCount()), "X *d:13 y | a b c d | X d y | 1");
-  multi.Clear();
-  EXPECT_EQ(State() + std::to_string(multi.SelCount()), " | a b c d | X d y | 0");
-}
-
-TEST_F(WidgetsTest, OutOfRangeFailsAndChangesNothing) {
-  multi.Selected(0, true);
-  combo.ListIndex(1);
-  const std::string before = State();
-  for (const std::int16_t bad : {std::int16_t{-2}, std::int16_t{5}, std::int16_t{32767}}) {
-    EXPECT_THROW(multi.AddItem(u"x", bad), RunTimeError);
-    EXPECT_THROW(multi.RemoveItem(bad), RunTimeError);
-    EXPECT_THROW(multi.List(bad), RunTimeError);
-    EXPECT_THROW(multi.ItemData(bad, 1), RunTimeError);
-    EXPECT_THROW(multi.Selected(bad, true), RunTimeError);
-    EXPECT_THROW(combo.ListIndex(bad), RunTimeError);
-    EXPECT_THROW(dialog.TabStrip().Tab(bad), RunTimeError);
-    EXPECT_THROW(dialog.TabStrip().TabCaption(bad, u"x"), RunTimeError);
-    EXPECT_THROW(dialog.TabStrip().TabCaption(bad), RunTimeError);
-  }
-  EXPECT_EQ(State() + "Click-1 Click1 ", before);
-}
 
 TEST_F(WidgetsTest, ASortedListTakesAnEntryAheadOfTheFirstThatSortsBehindIt) {
   auto& sorted = dialog.Get<ListBox>(u"lstAvail", 1);
@@ -129,47 +153,6 @@ TEST_F(WidgetsTest, ASortedListTakesAnEntryAheadOfTheFirstThatSortsBehindIt) {
   }
 }
 
-TEST_F(WidgetsTest, TheMouseTogglesOrSelectsAndHoldsTheCaret) {
-  const auto note = [this](const char* name) {
-    return [this, name](std::int16_t button) {
-      events += name + std::to_string(button) + "@" + std::to_string(multi.ListIndex()) + " ";
-    };
-  };
-  multi.MouseDown = note("Down");
-  multi.MouseUp = note("Up");
-  multi.MouseMove = note("Move");
-  for (ListBox* const list : {&multi, &single, &single}) {
-    list->UserMouseDown(1, ListBox::kLeftButton);
-    list->UserMouseUp(ListBox::kLeftButton);
-  }
-  EXPECT_EQ(State(), "a >*b c d | a >*b c d | a b c d | Down1@1 Click1 Up1@1 Click1 ");
-  for (ListBox* const list : {&multi, &single}) {
-    list->UserMouseDown(2, ListBox::kRightButton);
-    EXPECT_EQ(list->UserMouseMove(0), Refusal::None) << "without the left button nothing follows the pointer";
-    list->UserMouseUp(ListBox::kRightButton);
-  }
-  EXPECT_EQ(State(), "a *b >c d | a *b >c d | a b c d | Down2@2 Up2@2 ");
-
-  multi.UserMouseDown(0, ListBox::kLeftButton);
-  multi.UserMouseMove(3);
-  multi.RemoveItem(0);
-  multi.AddItem(u"x", std::int16_t{1});
-  EXPECT_EQ(multi.ListIndex(), 3) << "the entry under the pointer";
-  EXPECT_EQ(multi.UserMouseMove(4), Refusal::NoSuchEntry);
-  multi.RemoveItem(3);
-  EXPECT_EQ(multi.ListIndex(), -1) << "none under the pointer any more";
-  multi.UserMouseUp(ListBox::kLeftButton);
-  multi.AddItem(u"y");
-  EXPECT_EQ(State(), "*b x c y | a *b >c d | a b c d | Down1@0 Click0 Move1@3 Up1@-1 ");
-
-  multi.UserMoveCaret(0);
-  multi.UserToggle();
-  multi.UserMoveCaret(1);
-  single.UserMoveCaret(1);
-  single.UserMoveCaret(0);
-  EXPECT_EQ(State(), "b >x c y | >*a b c d | a b c d | Click0 Click0 ");
-}
-
 TEST_F(WidgetsTest, AHandlerMayChangeItsOwnWidget) {
   multi.Click = [this] {
     if (multi.ListCount() > 0) multi.Clear();
@@ -185,12 +168,12 @@ TEST_F(WidgetsTest, AHandlerMayChangeItsOwnWidget) {
   combo.UserPick(1);
   check.Click = [&] { check.Value(0); };
   check.UserToggle();
-  EXPECT_EQ(State() + std::to_string(check.Value()), "new | a b c d | >a b c d | 0");
+  EXPECT_EQ(StateOf(multi) + " | " + StateOf(combo) + " | " + StateOf(check), "new | >a b c d | 0");
   multi.MouseDown = [this](std::int16_t) { multi.Clear(); };
   multi.UserMouseDown(0, ListBox::kLeftButton);
   multi.UserMouseUp(ListBox::kLeftButton);
   combo.UserPick(2);
-  EXPECT_EQ(State(), " | a b c d | a b d | ");
+  EXPECT_EQ(StateOf(multi) + " | " + StateOf(combo), " | a b d");
 }
 
 TEST_F(WidgetsTest, KeysGoThroughTheFilterAndTheClipboardPastIt) {
@@ -211,38 +194,6 @@ TEST_F(WidgetsTest, KeysGoThroughTheFilterAndTheClipboardPastIt) {
   EXPECT_EQ(codes, (std::vector<int>{u'1', u'x', -3, u'3'}));
   box.UserEdit(u"1x");
   EXPECT_EQ(box.GetText(), u"1x");
-}
-
-TEST_F(WidgetsTest, RefuseWhatAUserCouldNotDo) {
-  auto& button = dialog.Get<CommandButton>(u"cmdLeftToRight", 3);
-  button.Click = [&] { events += "Press "; };
-  const auto state = [&] { return ToAscii(box.GetText()) + " | " + State(); };
-  const auto refusals = [&] {
-    std::string text;
-    for (const Refusal refusal :
-         {button.UserPress(), check.UserToggle(), box.UserKey(u'k'), box.UserEdit(u"p"), combo.UserPick(0),
-          combo.UserPick(4), multi.UserMouseDown(0, ListBox::kLeftButton), multi.UserMouseDown(4, 1),
-          multi.UserMouseMove(0), multi.UserMoveCaret(0), multi.UserToggle()}) {
-      text += std::to_string(static_cast<int>(refusal));
-    }
-    multi.UserMouseUp(ListBox::kLeftButton);
-    return text;
-  };
-  const std::initializer_list<Widget*> widgets{&button, &check, &box, &combo, &multi};
-  for (Widget* const widget : widgets) widget->Enabled(false);
-  EXPECT_EQ(refusals(), "33333333333");
-  for (Widget* const widget : widgets) widget->Visible(false);
-  EXPECT_EQ(refusals(), "22222222222");
-  dialog.TabStrip().Tab(2);
-  EXPECT_EQ(refusals(), "11111111111");
-  EXPECT_EQ(state(), " | a b c d | a b c d | a b c d | ");
-  dialog.TabStrip().Tab(3);
-  for (Widget* const widget : widgets) {
-    widget->Visible(true);
-    widget->Enabled(true);
-  }
-  EXPECT_EQ(refusals(), "00000404000");
-  EXPECT_EQ(state(), "p | >a b c d | a b c d | >a b c d | Press Value1 Click0 Click0 Click0 ");
 }
 
 TEST(TheDialog, ShowsItsStoredCaptionsUntilTextsAreApplied) {
