@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <exception>
 
+#include "support/user_step.h"
 #include "support/widget_text.h"
 #include "tables/Conversions.h"
 #include "tables/MemoryTable.h"
@@ -27,14 +28,8 @@ std::string TextOf(const Settings& settings) {
 }
 
 std::string DumpOf(const Widget& widget) {
-  std::string state = NameOf(widget.Row()) + (widget.Enabled() ? " " : " disabled ") +
-                      (widget.Visible() ? "" : "hidden ") + ToAscii(widget.Caption());
-  if (const auto* const box = dynamic_cast<const TextBox*>(&widget)) state += ToAscii(box->GetText());
-  if (const auto* const check = dynamic_cast<const CheckBox*>(&widget)) state += std::to_string(check->Value());
-  if (const auto* const strip = dynamic_cast<const SSTab*>(&widget)) state += std::to_string(strip->Tab());
-  if (const auto* const combo = dynamic_cast<const ComboBox*>(&widget)) state += StateOf(*combo);
-  if (const auto* const list = dynamic_cast<const ListBox*>(&widget)) state += StateOf(*list);
-  return state + "\n";
+  return NameOf(widget.Row()) + (widget.Enabled() ? " " : " disabled ") + (widget.Visible() ? "" : "hidden ") +
+         ToAscii(widget.Caption()) + StateOf(widget) + "\n";
 }
 
 /// The first lines that differ.
@@ -136,62 +131,53 @@ void RandomUser::ActOn(Widget& widget) {
   if (!mayAct && Dump() != before) Fail("refusals: what was refused changes" + Difference(before, Dump()));
 }
 
+Refusal RandomUser::Do(const std::string& step) {
+  Log(step);
+  return UserStep(GetDialog(), step).Do();
+}
+
 Refusal RandomUser::Use(Widget& widget, const std::string& name) {
-  if (auto* const strip = dynamic_cast<SSTab*>(&widget)) {
-    const auto tab = static_cast<std::int16_t>(random_.Below(random_.OneIn(20) ? 5 : 4));
-    Log("tab " + std::to_string(tab));
-    return strip->UserPick(tab);
+  switch (widget.Row().kind) {
+    case WidgetKind::SSTab:
+      return Do("tab " + std::to_string(random_.Below(random_.OneIn(20) ? 5 : 4)));
+    case WidgetKind::ComboBox:
+      return Do("pick " + name + Entry(dynamic_cast<ComboBox&>(widget)));
+    case WidgetKind::CheckBox:
+      return Do("toggle " + name);
+    case WidgetKind::CommandButton:
+      return Do("press " + name);
+    case WidgetKind::TextBox:
+      return UseBox(dynamic_cast<TextBox&>(widget), name);
+    default:
+      return UseList(dynamic_cast<ListBox&>(widget), name);
   }
-  if (auto* const combo = dynamic_cast<ComboBox*>(&widget)) {
-    const std::int16_t entry = Entry(*combo);
-    Log("pick " + name + " " + std::to_string(entry));
-    return combo->UserPick(entry);
+}
+
+Refusal RandomUser::UseBox(TextBox& box, const std::string& name) {
+  if (random_.OneIn(2)) {
+    const char16_t key = random_.Of({u'0', u'1', u'7', u'9', u'\b', u'-', u'.', u'a', u' ', u'\u00c4', u'\xd800'});
+    Log("# key " + name + " " + std::to_string(key));
+    return box.UserKey(key);
   }
-  if (auto* const check = dynamic_cast<CheckBox*>(&widget)) {
-    Log("toggle " + name);
-    return check->UserToggle();
-  }
-  if (auto* const button = dynamic_cast<CommandButton*>(&widget)) {
-    Log("press " + name);
-    return button->UserPress();
-  }
-  if (auto* const box = dynamic_cast<TextBox*>(&widget)) {
-    if (random_.OneIn(2)) {
-      const char16_t key = random_.Of({u'0', u'1', u'7', u'9', u'\b', u'-', u'.', u'a', u' ', u'\u00c4', u'\xd800'});
-      Log("# keys " + name + " " + std::to_string(key));
-      return box->UserKey(key);
-    }
-    const Text text = random_.Of<Text>({u"", u" ", u"0", u"7", u"42", u"-5", u"1e3", u"2.5", u"12abc", u"abc", u"1 2",
-                                        u" 12 ", u"32767", u"32768", u"-32769", u"1e999", u"0x10", u"1,5"});
-    Log("paste " + name + " \"" + ToAscii(text) + "\"");
-    return box->UserEdit(text);
-  }
-  auto& list = dynamic_cast<ListBox&>(widget);
+  return Do("edit " + name + " " +
+            random_.Of<std::string>({"", " ", "0", "7", "42", "-5", "1e3", "2.5", "12abc", "abc", "1 2", " 12 ",
+                                     "32767", "32768", "-32769", "1e999", "0x10", "1,5"}));
+}
+
+Refusal RandomUser::UseList(ListBox& list, const std::string& name) {
   if (random_.OneIn(8)) {
-    const std::int16_t entry = Entry(list);
-    Log("# caret, then toggle " + name + " " + std::to_string(entry));
-    const Refusal refusal = list.UserMoveCaret(entry);
-    return refusal == Refusal::None ? list.UserToggle() : refusal;
+    const Refusal refusal = Do("caret " + name + Entry(list));
+    return refusal == Refusal::None ? Do("space " + name) : refusal;
   }
-  if (random_.OneIn(8)) {
-    Log("# Alt and an arrow " + name);
-    return list.UserDragStep(random_.Of({std::int16_t{-1}, std::int16_t{1}}));
-  }
-  const std::int16_t button = random_.OneIn(9) ? ListBox::kRightButton : ListBox::kLeftButton;
-  const int steps = random_.OneIn(3) ? random_.Below(4) : 0;
-  const std::int16_t entry = Entry(list);
-  const std::string word = button == ListBox::kRightButton ? "rclick " : steps > 0 ? "drag " : "click ";
-  Log(word + name + " " + std::to_string(entry));
-  const Refusal refusal = list.UserMouseDown(entry, button);
+  if (random_.OneIn(8)) return Do("shift " + name + (random_.OneIn(2) ? " -1" : " 1"));
+  if (random_.OneIn(9)) return Do("rclick " + name + Entry(list));
+  const Refusal refusal = Do("down " + name + Entry(list));
   if (refusal != Refusal::None) return refusal;
-  for (int i = 0; i < steps; ++i) {
-    const std::int16_t to = Entry(list);
-    Log("# over " + std::to_string(to));
-    list.UserMouseMove(to);
+  for (int moves = random_.OneIn(3) ? random_.Below(4) : 0; moves > 0; --moves) {
+    Do("move " + name + Entry(list));
     if (random_.OneIn(12)) HostActs("# button down: ");
   }
-  list.UserMouseUp(button);
-  return Refusal::None;
+  return Do("up " + name);
 }
 
 void RandomUser::MaybeHostActs(const std::string& when) {
@@ -218,7 +204,7 @@ void RandomUser::HostActs(const std::string& when) {
       SetLayout();
     } else {
       const std::uint64_t seed = random_.Next() % 100000;
-      Log("texts " + std::to_string(seed));
+      Log("# texts " + std::to_string(seed));
       if (control_.ORXControlTexts(TextsFrom(seed))) Fail("texts: they give True");
     }
   } catch (const std::exception& error) {
@@ -229,12 +215,12 @@ void RandomUser::HostActs(const std::string& when) {
 
 void RandomUser::Load() {
   if (tables_ && tables_->gen->RowCount() == 1 && random_.OneIn(3)) {
-    Log("reload the tables that it has");
+    Log("# load the tables that it has");
     if (!tables_->LoadInto(control_)) Fail("load: refused");
     return;
   }
   const std::uint64_t seed = random_.Next() % 1000000;
-  Log("reload " + std::to_string(seed));
+  Log("# load " + std::to_string(seed));
   const RandomSettings settings = SettingsFrom(seed);
   try {
     const bool loads = settings.tables.LoadInto(control_);
@@ -274,28 +260,16 @@ void RandomUser::Read(bool isMidway) {
 }
 
 void RandomUser::SetLayout() {
-  struct Button {
-    Variant id;
-    bool isKnown;
-  };
-  const auto button = random_.Of<Button>({{std::int16_t{4}, true},
-                                          {4.0, true},
-                                          {std::int32_t{0}, true},
-                                          {1.4, true},
-                                          {Text(u"3"), true},
-                                          {Text(u" 1 "), true},
-                                          {Variant(), true},
-                                          {std::int32_t{5}, false},
-                                          {std::int32_t{-1}, false},
-                                          {Text(u"4"), false},
-                                          {Text(u"x"), false},
-                                          {1e9, false}});
-  Log("layout " + ToString(button.id));
+  const bool isKnown = !random_.OneIn(3);
+  const std::string button = isKnown ? random_.Of<std::string>({"4", "4.0", "0", "1.4", "'3'", "' 1 '", ""})
+                                     : random_.Of<std::string>({"5", "-1", "'4'", "'x'", "1000000000.0"});
+  Log("# layout " + button);
   try {
-    control_.ORXSetPrintLayout(random_.Of<Text>({u"", u"L1"}), button.id, random_.Of<Text>({u"C1", u"c2", u""}));
-    if (!button.isKnown) Fail("layout: it does not fail");
+    control_.ORXSetPrintLayout(random_.Of<Text>({u"", u"L1"}), VariantFrom(button),
+                               random_.Of<Text>({u"C1", u"c2", u""}));
+    if (!isKnown) Fail("layout: it does not fail");
   } catch (const RunTimeError&) {
-    if (button.isKnown) throw;
+    if (isKnown) throw;
   }
 }
 
@@ -407,9 +381,9 @@ bool RandomUser::IsOrdered() {
          }) == print.end();
 }
 
-std::int16_t RandomUser::Entry(const EntryWidget& widget) {
-  if (random_.OneIn(25)) return random_.Of({std::int16_t{-1}, widget.ListCount()});
-  return static_cast<std::int16_t>(random_.Below(widget.ListCount()));
+std::string RandomUser::Entry(const EntryWidget& widget) {
+  const int entry = random_.OneIn(25) ? random_.Of<int>({-1, widget.ListCount()}) : random_.Below(widget.ListCount());
+  return " " + std::to_string(entry);
 }
 
 std::string RandomUser::Dump() {

@@ -20,7 +20,7 @@ class RandomUser : private View, private ORXQueryPrnPropEvents {
 
   /// Acts once. @return what is wrong then; empty when all is well.
   std::string Act();
-  /// What has been done, a line each, in the notation of scripts; what has no word there as a comment.
+  /// What has been done, a line each, in the words of the transcripts; what has no word there as a remark.
   const std::string& Script() const { return script_; }
 
  private:
@@ -32,7 +32,11 @@ class RandomUser : private View, private ORXQueryPrnPropEvents {
 
   void UserActs();
   void ActOn(Widget& widget);
+  /// Logs it, too.
+  Refusal Do(const std::string& step);
   Refusal Use(Widget& widget, const std::string& name);
+  Refusal UseBox(TextBox& box, const std::string& name);
+  Refusal UseList(ListBox& list, const std::string& name);
   void HostActs(const std::string& when);
   void MaybeHostActs(const std::string& when);
   void Load();
@@ -53,7 +57,8 @@ class RandomUser : private View, private ORXQueryPrnPropEvents {
   std::vector<std::shared_ptr<const PrnItemCls>> Items(int page, int owner);
   Order OrderOnTop();
   bool IsOrdered();
-  std::int16_t Entry(const EntryWidget& widget);
+  /// Behind a blank; one in a while that is not there.
+  std::string Entry(const EntryWidget& widget);
   /// All that can be seen, and what the model would write.
   std::string Dump();
   /// What the model would write but for the order, for the items that the pages show and for the General page on top:
