@@ -26,29 +26,6 @@ int FailureOf(Action action) {
 constexpr int kType = static_cast<int>(ErrorKind::Type);
 constexpr int kObject = static_cast<int>(ErrorKind::Object);
 
-TEST(Control, EmptiesTheGeneralTableAndGivesTheTablesOfTheLastLoadBack) {
-  ORXQueryPrnProp control;
-  EXPECT_EQ(control.ORXGenPropTable(), nullptr);
-  const Settings good("IOBJNM='A'", "IOBJNM='A'", "IOBJNM='S'");
-  ASSERT_TRUE(good.LoadInto(control));
-  EXPECT_EQ(good.Brief(), "general:\ndimension:\nIOBJNM='A'\nmember:\nIOBJNM='S'\nattribute:\nIOBJNM='A'\n");
-  EXPECT_EQ(std::tuple(control.ORXGenPropTable(), control.ORXDimTable(), control.ORXMemTable(), control.ORXAtrTable()),
-            std::tuple(good.gen, good.dim, good.mem, good.atr));
-
-  const Settings failing("IOBJNM='B'\nIOBJNM='C' POSIT='x'");
-  EXPECT_EQ(FailureOf([&] { failing.LoadInto(control); }), kType);
-  EXPECT_EQ(failing.gen->RowCount(), 1);
-  EXPECT_EQ(control.ORXDimTable(), good.dim);
-  EXPECT_EQ(good.Brief(), "general:\nTITLE='T'\ndimension:\nIOBJNM='B'\nmember:\nattribute:\n")
-      << "the model as far as it was read";
-
-  const Settings refused("IOBJNM='B'", "IOBJNM='B'", "", "TITLE='1'\nTITLE='2'");
-  EXPECT_FALSE(refused.LoadInto(control));
-  EXPECT_EQ(refused.Brief(), "general:\ndimension:\nIOBJNM='B'\nmember:\nattribute:\nIOBJNM='B'\n");
-  EXPECT_EQ(control.ORXDimTable(), refused.dim);
-  EXPECT_EQ(refused.Brief(), "general:\nPRINT_DIRECTION='H' CURUNITPOSITION='L'\ndimension:\nmember:\nattribute:\n");
-}
-
 /// A table that hands out no part of itself.
 class HollowTable : public Table {
  public:
@@ -108,6 +85,34 @@ TEST(Control, MakesTheTextTablesKeyItsKeyColumn) {
   EXPECT_THROW(control.ORXControlTexts(MemoryTable::Create({u"CAPTION"})), RunTimeError);
   EXPECT_EQ(gTextTable, former) << "the former texts stay in use";
   gTextTable.reset();
+}
+
+TEST(Load, TakesAsManyRowsAsARowNumberHas) {
+  const Settings settings("IOBJNM='A'", "IOBJNM='A'");
+  const auto addRow = [&] {
+    const RowRef row = AddRow(*settings.atr);
+    row->Value(u"IOBJNM", u"A");
+    for (const char16_t* column : {u"POSIT", u"PR_COL1_WIDTH", u"PR_COL2_WIDTH"}) row->Value(column, std::int32_t{0});
+  };
+  while (settings.atr->RowCount() < 32767) addRow();
+  ORXQueryPrnProp control;
+  EXPECT_TRUE(settings.LoadInto(control));
+  control.ORXDimTable();
+  ASSERT_EQ(settings.atr->RowCount(), 32767);
+  addRow();
+  EXPECT_THROW(settings.LoadInto(control), RunTimeError);
+}
+
+TEST(StructureElements, AreAddedWithTheirKey) {
+  PrnStrElemCollCls elements;
+  elements.Add(u"N", u"U", true, 3, u"Title", PP_PRN_ALIGN_CENTER, true, 12, u"key");
+  elements.Add(u"M", u"");
+  const auto& element = *elements.Item(TextView(u"KEY"));
+  EXPECT_EQ(std::tuple(element.Name(), element.UID(), element.Text(), element.Hidden(), element.Position(),
+                       element.ColTitle(), element.ColAlign(), element.ColAutoWidth(), element.ColWidth()),
+            std::tuple(Text(u"N"), Text(u"U"), Text(), true, 3, Text(u"Title"), PP_PRN_ALIGN_CENTER, true, 12));
+  EXPECT_THROW(elements.Add(u"O", u"", false, 0, u"", PP_PRN_ALIGN_LEFT, false, 0, u"Key"), RunTimeError);
+  EXPECT_EQ(elements.Count(), 2);
 }
 
 TEST(SharedValues, AreSetAsideForALookUpAndReleasedAtAnEnd) {

@@ -7,7 +7,7 @@
 
 #include "control/SharedValues.h"
 #include "support/loaded.h"
-#include "support/widget_text.h"
+#include "support/user_step.h"
 
 namespace ORXKMPrintProp::test {
 namespace {
@@ -21,12 +21,8 @@ std::string Work(const std::string& name) {
   control.ORXControlTexts(TableFrom(Kind::Texts, "TARGETID='ID_PRN_CHAR' CAPTION='" + name + "'"));
   settings.LoadInto(control);
   Dialog& dialog = control.GetDialog();
-  for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) dialog.TabStrip().UserPick(tab);
-  dialog.TabStrip().UserPick(kCharTab);
-  dialog.Get<TextBox>(u"txtCharColTitle").UserEdit(Wide(name));
-  dialog.Get<ListBox>(u"lstAvail", kCharTab).UserMouseDown(0, ListBox::kLeftButton);
-  dialog.Get<ListBox>(u"lstAvail", kCharTab).UserMouseUp(ListBox::kLeftButton);
-  dialog.Get<CommandButton>(u"cmdLeftToRight", kCharTab).UserPress();
+  ForEach("tab 1; tab 2; tab 3; tab 1; edit txtCharColTitle " + name + "; click lstAvail(1) 0; press cmdLeftToRight(1)",
+          "; ", [&](const std::string& step) { UserStep(dialog, step).Do(); });
   control.ORXGenPropTable();
   const Settings failing("", "", "", "");
   failing.LoadInto(control);

@@ -139,6 +139,8 @@ bool Stage::DoAsHost(const std::string& verb, const std::string& rest) {
     Load();
   } else if (verb == "read") {
     Read(rest);
+  } else if (verb == "tables") {
+    ForEach(tables_->Brief(), "\n", [this](const std::string& row) { Tell(row); });
   } else if (verb == "readonly") {
     Control().ORXSetReadOnly(rest == "on");
   } else if (verb == "layout") {
@@ -169,8 +171,8 @@ void Stage::DoAt(const std::string& event) {
 void Stage::Load() {
   Lines rows = std::exchange(rows_, {});
   const std::string general = rows.contains("general") ? rows["general"] : "TITLE='T'";
-  if (!Settings(rows["dimension"], rows["attribute"], rows["member"], general).LoadInto(Control()))
-    Tell("false: " + ToAscii(gErrorText));
+  tables_.emplace(rows["dimension"], rows["attribute"], rows["member"], general);
+  if (!tables_->LoadInto(Control())) Tell("false: " + ToAscii(gErrorText));
   if (!std::exchange(hasLoaded_[current_], true)) shown_.startsAnew = true;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "control/SharedValues.h"
@@ -17,7 +18,7 @@ namespace ORXKMPrintProp::test {
 ///
 ///     dimension ROW, the same for general, attribute and member, characteristics a bQ c-, load (these rows)
 ///     and CELLS (of the row before)
-///     readonly on, read TABLE (what the host gets), read (all four)
+///     readonly on, read TABLE (what the host gets), read (all four), tables (of the last load)
 ///     layout BUTTON='4' NAME='a' LAYOUT='text' (as cells)
 ///     texts KEY (only a table that has this key, and no captions), texts (none)
 ///     at order STEP, STEP (what the host does from then on when the order changes), at message STEP, fail
@@ -53,8 +54,9 @@ class Stage : public Player, private ORXQueryPrnPropEvents, private View {
   std::array<ORXQueryPrnProp, 2> controls_;
   std::size_t current_ = 0;
   std::array<bool, 2> hasLoaded_{};
-  Shown otherShown_;  ///< of the control that is not the current one
-  Lines rows_;        ///< of the next load, by table
+  std::optional<Settings> tables_;  ///< of the last load
+  Shown otherShown_;                ///< of the control that is not the current one
+  Lines rows_;                      ///< of the next load, by table
   std::string lastRows_;
   Lines atEvents_;  ///< what the host does, by event
 };

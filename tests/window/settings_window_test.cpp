@@ -210,24 +210,6 @@ TEST_F(SettingsWindowTest, AChangeOfTheTabOrTheOrderReadsBack) {
   EXPECT_EQ(State(), "open modified apply");
   Press(QDialogButtonBox::Apply);
 
-  // Of the order of attributes the window hears by the user's hand alone.
-  auto& attributes = Find<QListView>("lstPrint(2)");
-  const auto drag = [&] {
-    QTest::mousePress(attributes.viewport(), Qt::LeftButton, {}, {5, 5});
-    QTest::mouseMove(attributes.viewport(), {5, 20});
-    QTest::mouseRelease(attributes.viewport(), Qt::LeftButton, {}, {5, 20});
-  };
-  const auto key = [&] { QTest::keyClick(&attributes, Qt::Key_Up, Qt::AltModifier); };
-  QTest::keyClick(&Find<QListView>("lstPrint(1)"), Qt::Key_PageDown, Qt::ControlModifier);
-  QCoreApplication::processEvents();
-  const std::pair<std::function<void()>, const char*> rows[] = {{drag, "open modified apply"}, {key, "open"}};
-  for (const auto& [reorder, state] : rows) {
-    reorder();
-    EXPECT_EQ(State(), "open modified apply older");
-    Press("refresh");
-    EXPECT_EQ(State(), state) << "the key leads back to where the drag began";
-  }
-  QTest::keyClick(&attributes, Qt::Key_PageUp, Qt::ControlModifier);
   QTest::keyClick(&Find<QListView>("lstPrint(1)"), Qt::Key_PageUp, Qt::ControlModifier);
   Type("?");
   Answer(QMessageBox::Discard, Changed());
