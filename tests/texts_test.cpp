@@ -24,29 +24,6 @@ class LookupTextTest : public testing::Test {
   }
 };
 
-TEST_F(LookupTextTest, ReplacesPlaceholders) {
-  const std::vector<Variant> values{u"D", u"A", u"B", Variant(), ObjectRef(), u"&2", std::int16_t{5}};
-  const std::vector<std::pair<std::string, std::string>> rows{
-      {"Page &1 of &9", "Page A of "},
-      {"&1&2", "A&2"},
-      {"&1 &2", "A B"},
-      {"&12", "2"},
-      {"&", "D"},
-      {"&File", "Dile"},
-      {"&-1", "1"},
-      {"& 1", "A1"},
-      {"&.5x", "D5x"},
-      {"&5.", "&2."},
-      {"a&3&1b", "a&1b"},
-      {"&6-&3", "5-"},
-      {"x&4", "x"},
-  };
-  for (const auto& [text, expected] : rows) {
-    UseTexts("TARGETID='k' CAPTION='" + text + "'");
-    EXPECT_EQ(ToAscii(LookupText(u"k", values)), expected) << text;
-  }
-}
-
 TEST_F(LookupTextTest, TakesTheTableWhereItHasTheKeyAndTheDefaultElse) {
   const char16_t* const keys[] = {u"k", u"empty", u"number", u"none", u"K"};
   const auto texts = [&] {
