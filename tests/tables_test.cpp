@@ -19,15 +19,6 @@ namespace {
 
 using namespace ModPrnGen;
 
-/// What the action gives, or the kind of its failure.
-std::string Outcome(const std::function<std::string()>& action) {
-  try {
-    return action();
-  } catch (const RunTimeError& error) {
-    return NameOf(error.Kind());
-  }
-}
-
 /// Conversions by name. A line has cells, which stand apart by ", ", and what each of them becomes is told.
 class ConversionPlayer : public Player {
  public:
@@ -59,7 +50,7 @@ class ConversionPlayer : public Player {
     const auto& conversion = conversions_.at(line.substr(0, blank));
     std::string all;
     ForEach(line.substr(blank + 1), ", ", [&](const std::string& cell) {
-      all += (all.empty() ? "" : ", ") + Outcome([&] { return conversion(VariantFrom(cell)); });
+      all += (all.empty() ? "" : ", ") + OutcomeOf([&] { return conversion(VariantFrom(cell)); });
     });
     Tell(all);
   }
@@ -100,8 +91,8 @@ TEST(CollectionOfItems, KeepsNumbersAndKeysTogether) {
   const auto state = [&] {
     std::string text;
     for (const std::string& item : items) text += item;
-    for (const TextView key : {u"k\u00e4", u"LAST"}) text += " " + Outcome([&] { return items.Item(key); });
-    for (const int number : {0, 3, 4}) text += " " + Outcome([&] { return items.Item(number); });
+    for (const TextView key : {u"k\u00e4", u"LAST"}) text += " " + OutcomeOf([&] { return items.Item(key); });
+    for (const int number : {0, 3, 4}) text += " " + OutcomeOf([&] { return items.Item(number); });
     return text;
   };
   items.Add("a", u"K\u00c4");

@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <map>
-
 #include "dialog/Dialog.h"
 #include "support/table_text.h"
 #include "support/transcript.h"
@@ -76,7 +73,7 @@ void WidgetPlayer::DoStep(const std::string& line) {
   auto* const entries = dynamic_cast<EntryWidget*>(widget);
   auto* const list = dynamic_cast<ListBox*>(widget);
   SSTab& tabs = dialog_.TabStrip();
-  const std::map<std::string, std::function<void()>> program{
+  const Steps steps{
       {"add", [&] { step.numbers.empty() ? entries->AddItem(text) : entries->AddItem(text, number); }},
       {"remove", [&] { entries->RemoveItem(number); }},
       {"clear", [&] { entries->Clear(); }},
@@ -93,8 +90,7 @@ void WidgetPlayer::DoStep(const std::string& line) {
       {"show", [&] { widget->Visible(true); }},
       {"hide", [&] { widget->Visible(false); }},
   };
-  const auto found = program.find(step.verb);
-  if (found != program.end()) return found->second();
+  if (DoOneOf(steps, step.verb)) return;
   const Refusal refusal = step.Do();
   if (refusal != Refusal::None) Tell(std::string("refused: ") + WordsOf(refusal));
 }

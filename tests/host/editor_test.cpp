@@ -78,34 +78,24 @@ void EditorPlayer::DoStep(const std::string& line) {
   const std::string verb = line.substr(0, line.find(' '));
   const std::string rest = line.substr(std::min(verb.size() + 1, line.size()));
   const auto answer = [this](bool yes) { Tell(yes ? "yes" : "no"); };
-  if (verb == "open") {
-    Open(rest);
-  } else if (verb == "end") {
-    if (std::exchange(readsLater_, false)) editor_->Read();
-  } else if (verb == "save") {
-    answer(editor_->Save());
-  } else if (verb == "accept") {
-    answer(editor_->Accept());
-  } else if (verb == "close") {
-    answer(editor_->MayClose());
-  } else if (verb == "refresh") {
-    answer(editor_->Read());
-  } else if (verb == "answer") {
-    answer_ = rest == "Save" ? Choice::Save : Choice::Discard;
-  } else if (verb == "put") {
-    Put(rest);
-  } else if (verb == "copy") {
-    SaveFile(Path("a.json"), ReadFile(PRNPROP_HOST_TESTS "/" + rest));
-  } else if (verb == "remove") {
-    fs::remove(Path("a.json"));
-  } else if (verb == "show") {
-    Show(rest);
-  } else {
-    const UserStep step(settings_->Control().GetDialog(), line);
-    ASSERT_TRUE(step.widget) << "no such step: " << line;
-    step.Do();
-    editor_->OnUsed(*step.widget);
-  }
+  const Steps steps{
+      {"open", [&] { Open(rest); }},
+      {"end", [&] { readsLater_ = readsLater_ && !editor_->Read(); }},
+      {"save", [&] { answer(editor_->Save()); }},
+      {"accept", [&] { answer(editor_->Accept()); }},
+      {"close", [&] { answer(editor_->MayClose()); }},
+      {"refresh", [&] { answer(editor_->Read()); }},
+      {"answer", [&] { answer_ = rest == "Save" ? Choice::Save : Choice::Discard; }},
+      {"put", [&] { Put(rest); }},
+      {"copy", [&] { SaveFile(Path("a.json"), ReadFile(PRNPROP_HOST_TESTS "/" + rest)); }},
+      {"remove", [&] { fs::remove(Path("a.json")); }},
+      {"show", [&] { Show(rest); }},
+  };
+  if (DoOneOf(steps, verb)) return;
+  const UserStep step(settings_->Control().GetDialog(), line);
+  ASSERT_TRUE(step.widget) << "no such step: " << line;
+  step.Do();
+  editor_->OnUsed(*step.widget);
 }
 
 void EditorPlayer::TellAll(std::string text) {

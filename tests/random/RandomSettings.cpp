@@ -14,47 +14,31 @@ namespace {
 
 /// What may stand in the cells of the columns whose names end so; the likely values stand more than once.
 struct Cells {
-  TextView ending;
+  std::vector<TextView> endings;
   std::vector<std::string> values;
 };
 
 const std::vector<Cells>& AllCells() {
-  static const std::vector<std::string> flags{"'X'", "' '", "'X'", "' '", "'X'", "' '", "''", "", "'x'", "True", "1"};
-  static const std::vector<std::string> numbers{"0", "0", "1", "7", "20", "31", "' 8 '", "12.25", "-3", "'5'"};
-  static const std::vector<std::string> texts{"''", "'a'", "'A'", "'alpha'", "'Alpha'", "'beta'", "'Z'", "' b'", "'9'"};
-  static const std::vector<std::string> layouts{"''", "'L1'", "'<layout/>'"};
   static const std::vector<Cells> cells{
-      {u"PRINT_DIRECTION", {"'H'", "'V'", "'?'"}},
-      {u"MAX_PAGES", {"''", "'0'", "'20'", "'12abc'", "'x'", "'-4'", "'1.5'"}},
-      {u"SUMPOSIT", {"'1'", "'2'", "' '"}},
-      {u"SIGNPRSNT", {"'1'", "'2'", "'3'", ""}},
-      {u"CURUNITPOSITION", {"'L'", "'R'", "'T'", "'N'", "'?'"}},
-      {u"AXIS", {"'X'", "'Y'", "'Y'", "'X'", "' '", "' '", "''", "'?'"}},
-      {u"PRSNT", {"'0'", "'1'", "'2'", "'3'", "'9'", ""}},
-      {u"_ALIGN", {"'L'", "'R'", "'C'", "' '"}},
-      {u"_BREAK", {"' '", "' '", "' '", "'X'"}},
-      {u"BREAK_AREA", {"' '", "' '", "' '", "'X'"}},
-      {u"NOSUMS", {"' '", "'C'", "'U'", "'x'"}},
-      {u"HIENM", {"''", "'H'"}},
-      {u"STRT_LVL", {"0", "1", "8", "3"}},
-      {u"POSIT", {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "0", "-2", "400", "30000"}},
-      {u"HIDE_ZERO", flags},
-      {u"HIDDEN", flags},
-      {u"COLORS", flags},
-      {u"NOMULTTXT", flags},
-      {u"NO_LINES", flags},
-      {u"_FIX", flags},
-      {u"_AUTO_WIDTH", flags},
-      {u"HRY_ACTIVE", flags},
-      {u"_WIDTH", numbers},
-      {u"MARGIN_TOP", numbers},
-      {u"MARGIN_BOTTOM", numbers},
-      {u"MARGIN_LEFT", numbers},
-      {u"MARGIN_RIGHT", numbers},
-      {u"TITLE", texts},
-      {u"TXT", texts},
-      {u"_HEADER", texts},
-      {u"_LAYOUT", layouts},
+      {{u"PRINT_DIRECTION"}, {"'H'", "'V'", "'?'"}},
+      {{u"MAX_PAGES"}, {"''", "'0'", "'20'", "'12abc'", "'x'", "'-4'", "'1.5'"}},
+      {{u"SUMPOSIT"}, {"'1'", "'2'", "' '"}},
+      {{u"SIGNPRSNT"}, {"'1'", "'2'", "'3'", ""}},
+      {{u"CURUNITPOSITION"}, {"'L'", "'R'", "'T'", "'N'", "'?'"}},
+      {{u"AXIS"}, {"'X'", "'Y'", "'Y'", "'X'", "' '", "' '", "''", "'?'"}},
+      {{u"PRSNT"}, {"'0'", "'1'", "'2'", "'3'", "'9'", ""}},
+      {{u"_ALIGN"}, {"'L'", "'R'", "'C'", "' '"}},
+      {{u"_BREAK", u"BREAK_AREA"}, {"' '", "' '", "' '", "'X'"}},
+      {{u"NOSUMS"}, {"' '", "'C'", "'U'", "'x'"}},
+      {{u"HIENM"}, {"''", "'H'"}},
+      {{u"STRT_LVL"}, {"0", "1", "8", "3"}},
+      {{u"POSIT"}, {"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "0", "-2", "400", "30000"}},
+      {{u"HIDE_ZERO", u"HIDDEN", u"COLORS", u"NOMULTTXT", u"NO_LINES", u"_FIX", u"_AUTO_WIDTH", u"HRY_ACTIVE"},
+       {"'X'", "' '", "'X'", "' '", "'X'", "' '", "''", "", "'x'", "True", "1"}},
+      {{u"_WIDTH", u"MARGIN_TOP", u"MARGIN_BOTTOM", u"MARGIN_LEFT", u"MARGIN_RIGHT"},
+       {"0", "0", "1", "7", "20", "31", "' 8 '", "12.25", "-3", "'5'"}},
+      {{u"TITLE", u"TXT", u"_HEADER"}, {"''", "'a'", "'A'", "'alpha'", "'Alpha'", "'beta'", "'Z'", "' b'", "'9'"}},
+      {{u"_LAYOUT"}, {"''", "'L1'", "'<layout/>'"}},
   };
   return cells;
 }
@@ -110,10 +94,12 @@ class Maker {
   RowRef AddRandomRow(const TableRef& table) {
     const RowRef row = AddRow(*table);
     for (const Text& column : dynamic_cast<MemoryTable&>(*table).ColumnNames()) {
-      const auto& all = AllCells();
-      const auto cells =
-          std::find_if(all.begin(), all.end(), [&](const Cells& each) { return column.ends_with(each.ending); });
-      if (cells != all.end()) row->Value(column, VariantFrom(random_.Of(cells->values)));
+      const auto endsSo = [&](TextView ending) { return column.ends_with(ending); };
+      for (const Cells& cells : AllCells()) {
+        if (std::none_of(cells.endings.begin(), cells.endings.end(), endsSo)) continue;
+        row->Value(column, VariantFrom(random_.Of(cells.values)));
+        break;
+      }
     }
     return row;
   }

@@ -128,40 +128,41 @@ void Stage::DoStep(const std::string& line) {
 }
 
 bool Stage::DoAsHost(const std::string& verb, const std::string& rest) {
-  if (verb == "general" || verb == "dimension" || verb == "attribute" || verb == "member") {
-    rows_[lastRows_ = verb] += rest + "\n";
-  } else if (verb == "and") {
-    rows_[lastRows_].back() = ' ';
-    rows_[lastRows_] += rest + "\n";
-  } else if (verb == "characteristics") {
-    rows_["dimension"] += Characteristics(rest);
-  } else if (verb == "load") {
-    Load();
-  } else if (verb == "read") {
-    Read(rest);
-  } else if (verb == "tables") {
-    ForEach(tables_->Brief(), "\n", [this](const std::string& row) { Tell(row); });
-  } else if (verb == "readonly") {
-    Control().ORXSetReadOnly(rest == "on");
-  } else if (verb == "layout") {
-    const RowRef row = RowAt(*TableFrom(Kind::Texts, rest), 1);
-    Control().ORXSetPrintLayout(ToText(row->Value(u"LAYOUT")), row->Value(u"BUTTON"), ToText(row->Value(u"NAME")));
-  } else if (verb == "texts") {
-    gTextTable = rest.empty() ? nullptr : MemoryTable::Create({u"TARGETID"});
-    if (!gTextTable) return true;
-    AddRow(*gTextTable)->Value(u"TARGETID", Wide(rest));
-    gTextTable->Columns()->KeyColumn(std::int32_t{1});
-  } else if (verb == "at") {
-    atEvents_[rest.substr(0, rest.find(' '))] = rest.substr(rest.find(' ') + 1);
-  } else if (verb == "fail") {
-    throw RunTimeError(ErrorKind::Table, u"host");
-  } else if (verb == "other") {
-    current_ = 1 - current_;
-    std::swap(shown_, otherShown_);
-  } else {
-    return false;
-  }
-  return true;
+  const auto addRow = [&] { rows_[lastRows_ = verb] += rest + "\n"; };
+  const Steps steps{
+      {"general", addRow},
+      {"dimension", addRow},
+      {"attribute", addRow},
+      {"member", addRow},
+      {"and", [&] { rows_[lastRows_].replace(rows_[lastRows_].size() - 1, 1, " " + rest + "\n"); }},
+      {"characteristics", [&] { rows_["dimension"] += Characteristics(rest); }},
+      {"load", [&] { Load(); }},
+      {"read", [&] { Read(rest); }},
+      {"tables", [&] { TellRows(tables_->Brief(), ""); }},
+      {"readonly", [&] { Control().ORXSetReadOnly(rest == "on"); }},
+      {"layout", [&] { SetLayout(rest); }},
+      {"texts", [&] { SetTexts(rest); }},
+      {"at", [&] { atEvents_[rest.substr(0, rest.find(' '))] = rest.substr(rest.find(' ') + 1); }},
+      {"fail", [] { throw RunTimeError(ErrorKind::Table, u"host"); }},
+      {"other", [&] { current_ = 1 - current_, std::swap(shown_, otherShown_); }},
+  };
+  return DoOneOf(steps, verb);
+}
+
+void Stage::SetLayout(const std::string& cells) {
+  const RowRef row = RowAt(*TableFrom(Kind::Texts, cells), 1);
+  Control().ORXSetPrintLayout(ToText(row->Value(u"LAYOUT")), row->Value(u"BUTTON"), ToText(row->Value(u"NAME")));
+}
+
+void Stage::SetTexts(const std::string& key) {
+  gTextTable = key.empty() ? nullptr : MemoryTable::Create({u"TARGETID"});
+  if (!gTextTable) return;
+  AddRow(*gTextTable)->Value(u"TARGETID", Wide(key));
+  gTextTable->Columns()->KeyColumn(std::int32_t{1});
+}
+
+void Stage::TellRows(const std::string& rows, const std::string& head) {
+  ForEach(rows, "\n", [&](const std::string& row) { Tell(head + row); });
 }
 
 void Stage::DoAt(const std::string& event) {
@@ -177,19 +178,10 @@ void Stage::Load() {
 }
 
 void Stage::Read(const std::string& name) {
-  static constexpr struct {
-    const char* name;
-    Kind kind;
-    TableRef (ORXQueryPrnProp::*read)();
-  } kTables[] = {{"general", Kind::General, &ORXQueryPrnProp::ORXGenPropTable},
-                 {"dimension", Kind::Dimension, &ORXQueryPrnProp::ORXDimTable},
-                 {"attribute", Kind::Attribute, &ORXQueryPrnProp::ORXAtrTable},
-                 {"member", Kind::Member, &ORXQueryPrnProp::ORXMemTable}};
-  for (const auto& table : kTables) {
+  for (const TableOfControl& table : kTables) {
     if (!name.empty() && table.name != name) continue;
     const TableRef read = (Control().*table.read)();
-    ForEach(read ? BriefOf(table.kind, *read) : "none", "\n",
-            [&](const std::string& row) { Tell((name.empty() ? table.name + std::string(" ") : "") + row); });
+    TellRows(read ? BriefOf(table.kind, *read) : "none", name.empty() ? table.name + std::string(" ") : "");
   }
 }
 

@@ -50,6 +50,9 @@ class Stage : public Player, private ORXQueryPrnPropEvents, private View {
   void DoAt(const std::string& event);
   void Load();
   void Read(const std::string& table);
+  void SetLayout(const std::string& cells);
+  void SetTexts(const std::string& key);
+  void TellRows(const std::string& rows, const std::string& head);
 
   std::array<ORXQueryPrnProp, 2> controls_;
   std::size_t current_ = 0;

@@ -38,6 +38,12 @@ void Player::Do(const std::string& step) {
   }
 }
 
+bool Player::DoOneOf(const Steps& steps, const std::string& verb) {
+  const auto found = steps.find(verb);
+  if (found != steps.end()) found->second();
+  return found != steps.end();
+}
+
 void Player::Tell(std::string line) {
   while (line.size() > 116) {
     const std::size_t end = line.rfind(' ', 116);
@@ -45,6 +51,14 @@ void Player::Tell(std::string line) {
     line = "  " + line.substr(end + 1);
   }
   told_ += "  " + line + "\n";
+}
+
+std::string OutcomeOf(const std::function<std::string()>& action) {
+  try {
+    return action();
+  } catch (const RunTimeError& error) {
+    return NameOf(error.Kind());
+  }
 }
 
 void PlayTranscript(const std::string& path, const std::function<std::unique_ptr<Player>()>& enter) {

@@ -22,6 +22,7 @@ class Player {
 
  protected:
   using Lines = std::map<std::string, std::string>;
+  using Steps = std::map<std::string, std::function<void()>>;
 
   /// @param aside the lines of which nothing is told until they are watched.
   explicit Player(std::set<std::string> aside) : aside_(std::move(aside)) {}
@@ -30,6 +31,8 @@ class Player {
   virtual Lines State() = 0;
 
   void Do(const std::string& step);
+  /// @return whether that is one of these steps.
+  static bool DoOneOf(const Steps& steps, const std::string& verb);
   /// Tells a line, in pieces that a page takes; what goes on begins further in.
   void Tell(std::string line);
 
@@ -44,6 +47,9 @@ class Player {
   std::set<std::string> watched_;
   std::string told_;
 };
+
+/// What the action gives, or the kind of its failure.
+std::string OutcomeOf(const std::function<std::string()>& action);
 
 /// Plays a transcript again. It has scenes: "= " and what a scene shows, then lines of steps. Those behind such
 /// a line that are indented by two blanks say all that comes of it.

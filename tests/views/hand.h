@@ -14,16 +14,14 @@ namespace ORXKMPrintProp::test {
 /// below it.
 class Hand {
  public:
+  enum class Mouse { Press, PressAgain, Move, Release };
   enum class Button { Left, Right, Middle };
   using Json = nlohmann::ordered_json;
 
   virtual ~Hand() = default;
 
-  virtual void Press(const Widget& list, int entry, Button button) = 0;
-  /// The second press of a double click.
-  virtual void PressAgain(const Widget& list, int entry) = 0;
-  virtual void Move(const Widget& list, int entry) = 0;
-  virtual void Release(const Widget& list, int entry, Button button) = 0;
+  /// `PressAgain` is the second press of a double click.
+  virtual void Use(Mouse mouse, const Widget& list, int entry, Button button) = 0;
   /// On a check box or a button.
   virtual void Click(const Widget& widget) = 0;
   virtual void ClickTab(int tab) = 0;

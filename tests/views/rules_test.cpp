@@ -2,6 +2,9 @@
 
 #include <sstream>
 
+#include "host/Utf8.h"
+#include "support/table_text.h"
+#include "support/transcript.h"
 #include "support/widget_text.h"
 #include "views/Fitting.h"
 #include "views/Keys.h"
@@ -25,149 +28,124 @@ TEST(Places, MeetAtTheirRoundedEdges) {
   EXPECT_EQ(TabHeightAt({96, 144}), 29);
 }
 
-/// Every character is as wide as the letters are high, in tenths: ten characters of full size are 100 wide.
-int TenthsOf(TextView text, int percent) { return static_cast<int>(text.size()) * percent / 10; }
-
-TEST(Captions, GetSmallerAndAreThenCut) {
-  const struct {
-    const char16_t* text;
-    int width;
-    const char16_t* shown;
-    int percent;
-  } rows[] = {{u"", 0, u"", 100},
-              {u"0123456789", 100, u"0123456789", 100},
-              {u"0123456789", 99, u"0123456789", 95},
-              {u"0123456789", 70, u"0123456789", 70},
-              {u"0123456789", 69, u"01234567\u2026", 70},
-              {u"0123456789", 14, u"0\u2026", 70},
-              {u"0123456789", 3, u"\u2026", 70},
-              {u"01\U0001F600456789", 28, u"01\u2026", 70}};
-  for (const auto& row : rows) {
-    const FittedText fitted = Fit(row.text, row.width, TenthsOf);
-    EXPECT_EQ(std::tuple(fitted.text, fitted.percent, fitted.isCut),
-              std::tuple(Text(row.shown), row.percent, row.shown != TextView(row.text)))
-        << ToAscii(row.text) << " in " << row.width;
-  }
-  const auto tabs = [](int width) {
-    const FittedTabs fitted = FitTabs(4, width, [](int tab, int percent) { return (tab + 1) * percent; });
-    return std::to_string(fitted.percent) + (fitted.areCut ? " cut" : "");
-  };
-  EXPECT_EQ(tabs(1300) + ", " + tabs(1050) + ", " + tabs(900) + ", " + tabs(600), "100, 90, 75, 70 cut");
+TEST(ToolTips, HaveTheCutCaptionFirst) {
   EXPECT_EQ(ToolTipWith(u"cut", u"tip") + ToolTipWith(u"", u"tip") + ToolTipWith(u"cut", u""), u"cut\ntiptipcut");
 }
 
-TEST(TypedLetters, SearchForOneTextWhileTheyFollowEachOther) {
-  Dialog dialog;
-  auto& combo = dialog.Get<ComboBox>(u"cmbAttrChar");
-  Fill(combo, "ab Ac b abc");
-  combo.ListIndex(0);
-  const struct {
-    const char16_t* typed;
-    int seconds;  ///< since the key before
-    int found;    ///< -1 for none
-  } rows[] = {{u"a", 9, 1}, {u"A", 0, 3}, {u"a", 0, 0}, {u"b", 9, 2},  {u"a", 9, 3},
-              {u"b", 0, 3}, {u"c", 0, 3}, {u"b", 0, 2}, {u"x", 0, -1}, {u"c", 9, -1}};
-  TypeAhead search;
-  TypeAhead::Clock::time_point now;
-  for (const auto& row : rows) {
-    now += std::chrono::seconds(row.seconds);
-    const auto found = search.Find(combo, row.typed, now);
-    EXPECT_EQ(found.value_or(-1), row.found) << ToAscii(row.typed) << " at " << StateOf(combo);
-    if (found) combo.ListIndex(*found);
-  }
-}
+/// Every character is as wide as the letters are high, in tenths: ten characters of full size are 100 wide.
+int TenthsOf(TextView text, int percent) { return static_cast<int>(text.size()) * percent / 10; }
 
-/// A list of which three entries are seen, each ten pixels high.
-struct Glass : ListGlass {
+std::string SizeOf(int percent, bool isCut) { return std::to_string(percent) + "%" + (isCut ? ", cut" : ""); }
+
+/// What every view knows, without one. The steps:
+///
+///     spoken WIDGET, fit WIDTH TEXT, fit-tabs WIDTH (four of them, each wider by 100 than the one before)
+///     type LETTERS (in a combo box), wait (longer than letters that follow each other)
+///     press BUTTON Y, move Y, release BUTTON (in a list of five entries, of which three are seen, each ten pixels
+///     high) press BUTTON Y another, move Y another (button is held), move Y none (is held) timer, let-go, release (the
+///     list has been disabled, and the release comes that was asked for), end (of the view)
+///
+/// The state: "combo", "timer" and "release", whether one is asked for. Events have a button and the entry.
+class RulesPlayer : public Player, private ListGlass {
+ public:
+  RulesPlayer();
+
+ protected:
+  void DoStep(const std::string& line) override;
+  Lines State() override {
+    return {
+        {"combo", StateOf(combo_)}, {"timer", isRunning_ ? "on" : "off"}, {"release", isAsked_ ? "asked for" : "no"}};
+  }
+
+ private:
   int Height() const override { return 30; }
-  int EntryAt(int y) const override { return y < 0 || y >= 30 || top + y / 10 >= 5 ? -1 : top + y / 10; }
-  void ScrollBy(int step) override { top = std::clamp(top + step, 0, 2); }
-  void RunTimer(bool on) override { isRunning = on; }
-  void ReleaseLater() override { isToBeReleased = true; }
+  int EntryAt(int y) const override { return y < 0 || y >= 30 || top_ + y / 10 >= 5 ? -1 : top_ + y / 10; }
+  void ScrollBy(int step) override { top_ = std::clamp(top_ + step, 0, 2); }
+  void RunTimer(bool on) override { isRunning_ = on; }
+  void ReleaseLater() override { isAsked_ = true; }
   void Perform(const std::function<void()>& action) override { action(); }
 
-  int top = 0;
-  bool isRunning = false;
-  bool isToBeReleased = false;
+  void Type(const Text& letters);
+
+  Dialog dialog_;
+  ComboBox& combo_ = dialog_.Get<ComboBox>(u"cmbAttrChar");
+  ListBox& list_ = dialog_.Get<ListBox>(u"lstPrint", kStrTab);
+  TypeAhead search_;
+  TypeAhead::Clock::time_point now_;
+  int top_ = 0;
+  bool isRunning_ = false;
+  bool isAsked_ = false;
+  std::optional<ListPointer> pointer_;
 };
 
-TEST(ThePointerInAList, EndsWhatItHasBegun) {
-  Dialog dialog;
-  dialog.TabStrip().Tab(kStrTab);
-  auto& list = dialog.Get<ListBox>(u"lstPrint", kStrTab);
-  std::string events;
-  const auto note = [&](char name) {
-    return [&events, &list, name](std::int16_t button) {
-      events += name + std::to_string(button) + "@" + std::to_string(list.ListIndex()) + " ";
+RulesPlayer::RulesPlayer() : Player({}) {
+  dialog_.ApplyTexts();
+  dialog_.TabStrip().Tab(kStrTab);
+  dialog_.Get<Label>(u"lblCharCol1").Caption(u"Key & more");
+  Fill(combo_, "ab Ac b abc");
+  combo_.ListIndex(0);
+  Fill(list_, "a b c d e");
+  const auto tell = [this](const char* event) {
+    return [this, event](std::int16_t button) {
+      Tell(event + std::to_string(button) + " at " + std::to_string(list_.ListIndex()));
     };
   };
-  list.MouseDown = note('d');
-  list.MouseMove = note('m');
-  list.MouseUp = note('u');
-  Glass glass;
-  const struct {
-    const char* what;
-    std::function<void(ListPointer&)> acts;
-    const char* events;
-  } rows[] = {
-      {"a click", [](auto& p) { p.Press(1, false, 25), p.Release(1); }, "d1@2 u1@2 "},
-      {"below the entries, another button, one that means nothing",
-       [](auto& p) { p.Press(1, false, 31), p.Press(1, true, 5), p.Press(0, false, 5), p.Release(1); }, ""},
-      {"a drag that pauses while another button is held",
-       [](auto& p) { p.Press(1, false, 5), p.Move(true, true, 15), p.Move(true, false, 25), p.Release(1); },
-       "d1@0 m1@2 u1@2 "},
-      {"a drag that scrolls below",
-       [&](auto& p) {
-         p.Press(1, false, 5), p.Move(true, false, 40);
-         EXPECT_TRUE(glass.isRunning);
-         p.OnTimer(), p.OnTimer(), p.OnTimer(), p.Move(true, false, 15);
-         EXPECT_FALSE(glass.isRunning);
-         p.Move(true, false, -1), p.OnTimer(), p.OnTimer(), p.Release(1);
-       },
-       "d1@0 m1@2 m1@3 m1@4 m1@4 m1@3 m1@2 m1@1 m1@0 u1@0 "},
-      {"a release that came to something else", [](auto& p) { p.Press(1, false, 5), p.Move(false, false, 9); },
-       "d1@0 u1@0 "},
-      {"a press after a release that did not come",
-       [](auto& p) { p.Press(2, false, 5), p.Press(1, false, 15), p.Release(2); }, "d2@0 u2@0 d1@1 u1@1 "},
-      {"a list that is disabled in a drag",
-       [&](auto& p) {
-         p.Press(1, false, 5), p.LetGo();
-         EXPECT_TRUE(std::exchange(glass.isToBeReleased, false));
-         p.Release(), p.LetGo();
-         EXPECT_FALSE(glass.isToBeReleased);
-       },
-       "d1@0 u1@0 "},
+  list_.MouseDown = tell("down ");
+  list_.MouseMove = tell("move ");
+  list_.MouseUp = tell("up ");
+  pointer_.emplace(list_, static_cast<ListGlass&>(*this));
+  shown_.lines = State();
+}
+
+void RulesPlayer::DoStep(const std::string& line) {
+  std::istringstream words(line);
+  std::string verb, rest;
+  words >> verb >> std::ws;
+  std::getline(words, rest);
+  std::istringstream numbers(rest);
+  int first = 0, y = 0;
+  numbers >> first >> y;
+  const bool isAnother = rest.ends_with("another");
+  const auto button = static_cast<std::int16_t>(first);
+  const Steps steps{
+      {"spoken", [&] { Tell(host::ToUtf8(SpokenName(dialog_, *dialog_.FindSpelled(Wide(rest))).Spoken())); }},
+      {"fit",
+       [&] {
+         const FittedText fitted =
+             Fit(host::FromUtf8(rest.substr(std::min(rest.find(' '), rest.size() - 1) + 1)), first, TenthsOf);
+         Tell("'" + host::ToUtf8(fitted.text) + "' " + SizeOf(fitted.percent, fitted.isCut));
+       }},
+      {"fit-tabs",
+       [&] {
+         const FittedTabs fitted = FitTabs(4, first, [](int tab, int percent) { return (tab + 1) * percent; });
+         Tell(SizeOf(fitted.percent, fitted.areCut));
+       }},
+      {"type", [&] { Type(Wide(rest)); }},
+      {"wait", [&] { now_ += std::chrono::seconds(9); }},
+      {"press", [&] { pointer_->Press(button, isAnother, y); }},
+      {"move", [&] { pointer_->Move(!rest.ends_with("none"), isAnother, first); }},
+      {"timer", [&] { pointer_->OnTimer(); }},
+      {"release",
+       [&] {
+         isAsked_ = false;
+         rest.empty() ? pointer_->Release() : pointer_->Release(button);
+       }},
+      {"let-go", [&] { pointer_->LetGo(); }},
+      {"end", [&] { pointer_.reset(); }},
   };
-  for (const auto& row : rows) {
-    list.Clear();
-    Fill(list, "a b c d e");
-    glass = Glass();
-    events.clear();
-    {
-      ListPointer pointer(list, glass);
-      row.acts(pointer);
-    }
-    EXPECT_EQ(events, row.events) << row.what;
+  EXPECT_TRUE(DoOneOf(steps, verb)) << line;
+}
+
+void RulesPlayer::Type(const Text& letters) {
+  for (const char16_t letter : letters) {
+    const auto found = search_.Find(combo_, Text(1, letter), now_);
+    if (!found) Tell("none");
+    if (found) combo_.ListIndex(*found);
   }
 }
 
-TEST(SpokenNames, AreThoseOfTheLabelsAboutAField) {
-  Dialog dialog;
-  dialog.ApplyTexts();
-  dialog.Get<Label>(u"lblCharCol1").Caption(u"Key & more");
-  const std::pair<TextView, TextView> names[] = {
-      {u"txtGenPrnTitle", u"Print title"},
-      {u"lstAvail(3)", u"Available structure elements"},
-      {u"cmbCharColAlign2", u"Alignment, Column 2"},
-      {u"txtCharColWidth1", u"Width, Key & more"},
-      {u"chkAttrColEachPage2", u"On each page, Column 2"},
-      {u"chkGenUseColors", u"Use Colors"},
-      {u"cmdPrintLayout(4)", u"Totals row"},
-      {u"cmdLeftToRight(1)", u"Transfer selected available characteristics to print characteristics"},
-  };
-  for (const auto& [widget, name] : names) {
-    EXPECT_EQ(SpokenName(dialog, *dialog.FindSpelled(widget)).Spoken(), name) << ToAscii(widget);
-  }
+TEST(Views, KnowTheirRules) {
+  PlayTranscript(PRNPROP_RULES, [] { return std::make_unique<RulesPlayer>(); });
 }
 
 }  // namespace

@@ -33,6 +33,8 @@ class ViewStage : public Stage {
   Refusal Use(const UserStep& step) override;
 
  private:
+  void Paste(const Widget& box, const std::string& text);
+  void Press(const Widget& button);
   void UseMouse(const UserStep& step);
   void Walk(const Widget& from, const std::string& key);
 };
@@ -55,46 +57,44 @@ Player::Lines ViewStage::State() {
 
 Refusal ViewStage::Use(const UserStep& step) {
   const Widget& widget = *step.widget;
-  const std::string& verb = step.verb;
-  if (verb == "tab") {
-    hand->ClickTab(step.numbers.at(0));
-  } else if (verb == "focus") {
-    hand->Focus(widget);
-  } else if (verb == "walk") {
-    Walk(widget, step.rest);
-  } else if (verb == "key") {
-    hand->Key(widget, step.rest);
-  } else if (verb == "keys") {
-    hand->Type(widget, step.rest);
-  } else if (verb == "paste") {
-    hand->PutIntoClipboard(step.rest);
-    hand->Key(widget, "Ctrl+V");
-  } else if (verb == "pick") {
-    hand->PickEntry(widget, step.numbers.at(0));
-  } else if (verb == "toggle") {
-    hand->Click(widget);
-  } else if (verb == "press") {
-    hand->CloseMessage([this](const std::string& words) { Tell(words); });
-    hand->Click(widget);
-  } else {
-    UseMouse(step);
-  }
+  const int number = step.numbers.empty() ? 0 : step.numbers[0];
+  const Steps steps{
+      {"tab", [&] { hand->ClickTab(number); }},
+      {"focus", [&] { hand->Focus(widget); }},
+      {"walk", [&] { Walk(widget, step.rest); }},
+      {"key", [&] { hand->Key(widget, step.rest); }},
+      {"keys", [&] { hand->Type(widget, step.rest); }},
+      {"paste", [&] { Paste(widget, step.rest); }},
+      {"pick", [&] { hand->PickEntry(widget, number); }},
+      {"toggle", [&] { hand->Click(widget); }},
+      {"press", [&] { Press(widget); }},
+  };
+  if (!DoOneOf(steps, step.verb)) UseMouse(step);
   return Refusal::None;
 }
 
+void ViewStage::Paste(const Widget& box, const std::string& text) {
+  hand->PutIntoClipboard(text);
+  hand->Key(box, "Ctrl+V");
+}
+
+void ViewStage::Press(const Widget& button) {
+  hand->CloseMessage([this](const std::string& words) { Tell(words); });
+  hand->Click(button);
+}
+
 void ViewStage::UseMouse(const UserStep& step) {
-  const Widget& list = *step.widget;
   const auto button = step.verb == "rclick"   ? Hand::Button::Right
                       : step.verb == "mclick" ? Hand::Button::Middle
                                               : Hand::Button::Left;
-  const bool presses = step.verb != "move" && step.verb != "up";
-  if (step.verb == "double") {
-    hand->PressAgain(list, step.numbers.at(0));
-  } else if (presses) {
-    hand->Press(list, step.numbers.at(0), button);
+  auto act = step.verb == "move" || step.verb == "up" ? Hand::Mouse::Move
+             : step.verb == "double"                  ? Hand::Mouse::PressAgain
+                                                      : Hand::Mouse::Press;
+  for (const std::int16_t entry : step.numbers) {
+    hand->Use(std::exchange(act, Hand::Mouse::Move), *step.widget, entry, button);
   }
-  for (std::size_t i = presses ? 1 : 0; i < step.numbers.size(); ++i) hand->Move(list, step.numbers[i]);
-  if (step.verb != "move" && step.verb != "down") hand->Release(list, step.numbers.back(), button);
+  const bool stays = step.verb == "move" || step.verb == "down";
+  if (!stays) hand->Use(Hand::Mouse::Release, *step.widget, step.numbers.back(), button);
 }
 
 void ViewStage::Walk(const Widget& from, const std::string& key) {

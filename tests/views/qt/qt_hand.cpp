@@ -37,15 +37,16 @@ class QtHand : public ORXKMPrintProp::test::Hand {
     static_cast<void>(QTest::qWaitForWindowExposed(&window_));
   }
 
-  void Press(const Widget& list, int entry, Button button) override {
-    Send(list, QEvent::MouseButtonPress, entry, ToQt(button));
-  }
-  void PressAgain(const Widget& list, int entry) override {
-    Send(list, QEvent::MouseButtonDblClick, entry, Qt::LeftButton);
-  }
-  void Move(const Widget& list, int entry) override { Send(list, QEvent::MouseMove, entry, Qt::NoButton); }
-  void Release(const Widget& list, int entry, Button button) override {
-    Send(list, QEvent::MouseButtonRelease, entry, ToQt(button));
+  void Use(Mouse mouse, const Widget& widget, int entry, Button button) override {
+    static constexpr QEvent::Type kTypes[] = {QEvent::MouseButtonPress, QEvent::MouseButtonDblClick, QEvent::MouseMove,
+                                              QEvent::MouseButtonRelease};
+    static constexpr Qt::MouseButton kButtons[] = {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
+    const auto cause = mouse == Mouse::Move ? Qt::NoButton : kButtons[static_cast<int>(button)];
+    const auto& list = GlassOf<QListView>(widget);
+    const QPoint at = PointOf(list, entry);
+    held_.setFlag(cause, mouse != Mouse::Release);
+    QMouseEvent event(kTypes[static_cast<int>(mouse)], at, list.viewport()->mapToGlobal(at), cause, held_, {});
+    QApplication::sendEvent(list.viewport(), &event);
   }
   void Click(const Widget& widget) override {
     QWidget& glass = GlassOf(widget);
@@ -120,10 +121,6 @@ class QtHand : public ORXKMPrintProp::test::Hand {
   bool WaitUntil(const std::function<bool()>& isSo) override { return QTest::qWaitFor(isSo); }
 
  private:
-  static Qt::MouseButton ToQt(Button button) {
-    return button == Button::Left ? Qt::LeftButton : button == Button::Right ? Qt::RightButton : Qt::MiddleButton;
-  }
-
   template <class QtWidget = QWidget>
   QtWidget& GlassOf(const Widget& widget) const {
     return Glass<QtWidget>(view_, host::ToUtf8(widget.Row().name.Spelled()));
@@ -135,14 +132,6 @@ class QtHand : public ORXKMPrintProp::test::Hand {
     if (entry >= list.model()->rowCount()) return {20, list.viewport()->height() + 30};
     return list.visualRect(list.model()->index(entry, 0)).center();
   }
-  void Send(const Widget& widget, QEvent::Type type, int entry, Qt::MouseButton cause) {
-    const auto& list = GlassOf<QListView>(widget);
-    const QPoint at = PointOf(list, entry);
-    held_.setFlag(cause, type != QEvent::MouseButtonRelease);
-    QMouseEvent event(type, at, list.viewport()->mapToGlobal(at), cause, held_, {});
-    QApplication::sendEvent(list.viewport(), &event);
-  }
-
   Dialog& dialog_;
   QWidget window_;
   QPushButton before_;  ///< where the focus goes out of the dialog
