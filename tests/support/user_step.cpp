@@ -28,7 +28,10 @@ Refusal UserStep::Do() const {
   if (auto* const check = dynamic_cast<CheckBox*>(widget)) return check->UserToggle();
   if (auto* const button = dynamic_cast<CommandButton*>(widget)) return button->UserPress();
   if (auto* const box = dynamic_cast<TextBox*>(widget)) {
-    return verb == "key" ? box->UserKey(Wide(rest).at(0)) : box->UserEdit(Wide(rest));
+    if (verb == "edit") return box->UserEdit(Wide(rest));
+    Refusal refusal = Refusal::None;
+    for (const char16_t key : Wide(rest)) refusal = box->UserKey(key);
+    return refusal;
   }
   auto& list = dynamic_cast<ListBox&>(*widget);
   if (verb == "caret") return list.UserMoveCaret(numbers.at(0));

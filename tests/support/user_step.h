@@ -22,6 +22,7 @@ void ForEach(const std::string& text, const std::string& apart, Action action) {
 ///
 ///     tab 1, pick COMBO 2, toggle CHECK, press BUTTON, key BOX x, edit BOX new text
 ///     click LIST 0 (with more entries a drag), rclick LIST 0, down LIST 0, move LIST 1, up LIST
+///     keys BOX xyz, drag LIST 0 1 (the same as `key` and `click`)
 ///     caret LIST 1, space LIST, shift LIST -1 (the entry at the caret, with its neighbour)
 struct UserStep {
   UserStep(const Dialog& dialog, const std::string& line);
