@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "control/ORXQueryPrnProp.h"
+#include "model/PrnPropCls.h"
 #include "samples.h"
 #include "tables/Conversions.h"
 #include "tables/MemoryTable.h"

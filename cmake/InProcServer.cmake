@@ -1,5 +1,5 @@
 # A library of component classes, with version information.
-# prnprop_in_proc_server(TARGET file.dll DESCRIPTION text SOURCES ... [RESOURCES line...])
+# prnprop_in_proc_server(TARGET NAME of-the-file DESCRIPTION text SOURCES file... [RESOURCES line...])
 function(prnprop_in_proc_server target)
   cmake_parse_arguments(SERVER "" "NAME;DESCRIPTION" "SOURCES;RESOURCES" ${ARGN})
   string(REPLACE "." "," numbers ${PROJECT_VERSION})
@@ -10,5 +10,6 @@ function(prnprop_in_proc_server target)
   set_target_properties(
     ${target} PROPERTIES PREFIX "" OUTPUT_NAME ${SERVER_NAME} RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
   target_link_libraries(${target} PRIVATE PrnPropAutomation)
+  install(TARGETS ${target} RUNTIME DESTINATION . COMPONENT component)
   target_link_options(${target} PRIVATE -s -Wl,--kill-at)
 endfunction()
