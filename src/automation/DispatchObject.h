@@ -71,7 +71,7 @@ class DispatchObject : public ComObject<IDispatch> {
       const ComRef<IDispatch> held(this);
       try {
         OwnedVariant unused;
-        if (result) ::VariantInit(result);
+        if (result) result->vt = VT_EMPTY;
         (static_cast<Class*>(this)->*member.call)(Arguments(*parameters), result ? *result : unused);
         return S_OK;
       } catch (...) {

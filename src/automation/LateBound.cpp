@@ -75,7 +75,7 @@ HRESULT LateBound::Invoke(Member member, DISPID id, WORD flags, DISPPARAMS& para
   EXCEPINFO exception{};
   const HRESULT called =
       object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, result, &exception, nullptr);
-  if (called != DISP_E_MEMBERNOTFOUND) CheckCall(called, exception, NameOf(member).name);
+  if (FAILED(called) && called != DISP_E_MEMBERNOTFOUND) CheckCall(called, exception, NameOf(member).name);
   return called;
 }
 

@@ -41,10 +41,12 @@ TextView ViewOf(BSTR text);
 /// A variant of automation that ends with this object. It starts empty.
 class OwnedVariant : public VARIANT {
  public:
-  OwnedVariant() { ::VariantInit(this); }
+  OwnedVariant() { vt = VT_EMPTY; }
   OwnedVariant(const OwnedVariant&) = delete;
   OwnedVariant& operator=(const OwnedVariant&) = delete;
-  ~OwnedVariant() { ::VariantClear(this); }
+  ~OwnedVariant() {
+    if (vt != VT_EMPTY) ::VariantClear(this);
+  }
 };
 
 /// A value of a host for which the library has no type: a large number, currency, decimal, date, null, error, object.
