@@ -2,24 +2,9 @@
 
 #include <ole2.h>
 
-#include <atomic>
+#include "automation/LiveObjects.h"
 
 namespace ORXKMPrintProp::automation {
-
-/// How many objects of this library live, so that it is known when it can go and when to let go of what threads hold.
-class LiveObjects {
- public:
-  LiveObjects();
-  LiveObjects(const LiveObjects&) = delete;
-  LiveObjects& operator=(const LiveObjects&) = delete;
-  ~LiveObjects();
-
-  /// In all threads, with the locks that hosts hold.
-  static long Count();
-  static void Lock(bool lock);
-  /// Called on a thread when the last object that it has made has gone.
-  static void (*onLastOfThread)();
-};
 
 /// An object over these interfaces, which counts its references. It lives on the thread that has made it and starts
 /// with one reference, which is its maker's.

@@ -58,9 +58,10 @@ class DispatchObject : public ComObject<IDispatch> {
     return DISP_E_UNKNOWNNAME;
   }
 
-  STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+  STDMETHODIMP Invoke(DISPID id, REFIID reserved, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                       EXCEPINFO* exception, UINT*) override {
     if (!parameters) return E_POINTER;
+    if (reserved != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
     const bool sets = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
     if (parameters->cNamedArgs > (sets ? 1u : 0u)) return DISP_E_NONAMEDARGS;
     HRESULT failure = DISP_E_MEMBERNOTFOUND;

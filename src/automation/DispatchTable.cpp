@@ -3,12 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <functional>
-#include <string_view>
 #include <unordered_map>
 #include <utility>
 
 #include "automation/Failures.h"
-#include "tables/Conversions.h"
 #include "tables/RunTimeError.h"
 
 namespace ORXKMPrintProp::automation {
@@ -124,8 +122,7 @@ class StandardEnumerator final : public RowEnumerator {
       most_ = 1;
       result = Give(count);
     }
-    EXCEPINFO nothing{};
-    CheckCall(result, nothing, u"the enumerator");
+    CheckCall(result, u"the enumerator");
     count_ = std::min(count, most_);
     isAtEnd_ = count_ == 0;
   }
@@ -175,10 +172,9 @@ class DispatchRowList final : public RowList {
 
   RowRef Item(const Text& key) override {
     Bstr text(key);
-    BSTR referred = text.Get();
     VARIANT arguments[1];
     arguments[0].vt = VT_BYREF | VT_BSTR;
-    arguments[0].pbstrVal = &referred;
+    arguments[0].pbstrVal = text.Place();
     return RowOf(parts_, Get(rows_, Member::Item, arguments));
   }
 
@@ -214,7 +210,8 @@ class DispatchColumn final : public Column {
   Variant Index() const override {
     OwnedVariant index;
     column_.Call(Member::Index, {}, index);
-    return FromVariant(index);
+    // It goes back to the host as it is.
+    return std::make_shared<HostValue>(index);
   }
 
  private:

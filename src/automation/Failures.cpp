@@ -48,6 +48,11 @@ void CheckConversion(HRESULT result) {
   throw RunTimeError(ErrorKind::Type, u"A value has the wrong type.");
 }
 
+void CheckCall(HRESULT result, TextView member) {
+  EXCEPINFO nothing{};
+  CheckCall(result, nothing, member);
+}
+
 void CheckCall(HRESULT result, EXCEPINFO& exception, TextView member) {
   const bool tells = result == DISP_E_EXCEPTION;
   if (tells && exception.pfnDeferredFillIn) exception.pfnDeferredFillIn(&exception);
@@ -65,28 +70,31 @@ void CheckCall(HRESULT result, EXCEPINFO& exception, TextView member) {
 }
 
 Failure CurrentFailure(TextView source) noexcept {
+  HRESULT number = E_OUTOFMEMORY;
   try {
     try {
       throw;
     } catch (const HostFailure& failure) {
-      return {failure.Number(), failure.Source(), failure.Message()};
+      number = failure.Number();
+      return {number, failure.Source(), failure.Message()};
     } catch (const RunTimeError& error) {
-      return {NumberOf(error.Kind()), Text(source), error.Message()};
+      number = NumberOf(error.Kind());
+      return {number, Text(source), error.Message()};
     } catch (const std::bad_alloc&) {
-      return {E_OUTOFMEMORY, {}, {}};
+      return {number, {}, {}};
     } catch (const std::exception& error) {
+      number = E_UNEXPECTED;
       const std::string_view words = error.what();
-      return {E_UNEXPECTED, Text(source), Text(words.begin(), words.end())};
+      return {number, Text(source), Text(words.begin(), words.end())};
     } catch (...) {
       return {E_UNEXPECTED, {}, {}};
     }
   } catch (...) {
-    return {E_OUTOFMEMORY, {}, {}};
+    return {number, {}, {}};
   }
 }
 
-HRESULT ReportFailure(const IID& interfaceId, TextView source) noexcept {
-  const Failure failure = CurrentFailure(source);
+HRESULT Report(const Failure& failure, const IID& interfaceId) noexcept {
   ::SetErrorInfo(0, nullptr);
   if (failure.words.empty()) return failure.number;
   try {

@@ -29,11 +29,13 @@ void CheckConversion(HRESULT result);
 /// For a call on a host's object. @param exception what the object has told, which is released. @param member how a
 /// message calls the member, for an object that tells nothing. @throws HostFailure
 void CheckCall(HRESULT result, EXCEPINFO& exception, TextView member);
+/// The same where an object can tell nothing but the result.
+void CheckCall(HRESULT result, TextView member);
 
 /// What a host is told of a failure: the number that script hosts know for each kind of our own, that of the host's
 /// object for its own.
 struct Failure {
-  HRESULT number;
+  HRESULT number = S_OK;
   Text source;
   Text words;
 };
@@ -42,10 +44,10 @@ struct Failure {
 /// @param source what the host is told for failures of our own.
 Failure CurrentFailure(TextView source) noexcept;
 
-/// Hands the exception that is being handled to the thread's error information. @return its number
-HRESULT ReportFailure(const IID& interfaceId, TextView source) noexcept;
+/// Hands a failure to the thread's error information. @return its number
+HRESULT Report(const Failure& failure, const IID& interfaceId) noexcept;
 
-/// Tells it as the failure of a late-bound call. @param exception may be null. @return what the call gives
+/// Tells the exception that is being handled as the failure of a late-bound call. @param exception may be null. @return what the call gives
 HRESULT TellFailure(TextView source, EXCEPINFO* exception) noexcept;
 
 }  // namespace ORXKMPrintProp::automation

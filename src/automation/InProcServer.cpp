@@ -17,9 +17,6 @@ HRESULT WINAPI UnRegisterTypeLibForUser(REFGUID, WORD, WORD, LCID, SYSKIND);
 namespace ORXKMPrintProp::automation {
 namespace {
 
-std::atomic<long> gLive = 0;
-thread_local long gLiveOfThread = 0;
-
 class ClassFactory final : public ComObject<IClassFactory> {
  public:
   explicit ClassFactory(const ServerClass& made) : made_(made) {}
@@ -54,6 +51,12 @@ std::wstring OwnPath() {
     if (length < path.size()) return path.substr(0, length);
     path.resize(path.size() * 2);
   }
+}
+
+ComRef<ITypeLib> LoadTypeLibrary() {
+  ComRef<ITypeLib> library;
+  Check(::LoadTypeLibEx(OwnPath().c_str(), REGKIND_NONE, library.Out()));
+  return library;
 }
 
 std::wstring Spelled(const GUID& id) {
@@ -99,12 +102,30 @@ LSTATUS Write(HKEY hive, const Entry& entry) {
   return ::RegSetKeyValueW(hive, BelowClasses(entry.key).c_str(), entry.name, REG_SZ, entry.value.c_str(), bytes);
 }
 
-bool HasKey(HKEY hive, const std::wstring& key) {
-  HKEY opened = nullptr;
-  if (::RegOpenKeyExW(hive, BelowClasses(key).c_str(), 0, KEY_READ, &opened) != ERROR_SUCCESS) return false;
-  ::RegCloseKey(opened);
-  return true;
-}
+/// A key that is looked at.
+class Key {
+ public:
+  Key(HKEY hive, const std::wstring& name) {
+    ::RegOpenKeyExW(hive, BelowClasses(name).c_str(), 0, KEY_READ, &key_);
+  }
+  Key(const Key&) = delete;
+  Key& operator=(const Key&) = delete;
+  ~Key() {
+    if (key_) ::RegCloseKey(key_);
+  }
+
+  bool IsThere() const { return key_ != nullptr; }
+  bool IsEmpty() const {
+    DWORD keys = 0, values = 0;
+    return key_ &&
+           ::RegQueryInfoKeyW(key_, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values, nullptr, nullptr,
+                              nullptr, nullptr) == ERROR_SUCCESS &&
+           keys == 0 && values == 0;
+  }
+
+ private:
+  HKEY key_ = nullptr;
+};
 
 /// What was deleted, or was not there, is gone.
 bool IsGone(LSTATUS deleted) { return deleted == ERROR_SUCCESS || deleted == ERROR_FILE_NOT_FOUND; }
@@ -117,17 +138,18 @@ struct Hive {
 const Hive kMachine{HKEY_LOCAL_MACHINE, ::RegisterTypeLib, ::UnRegisterTypeLib};
 const Hive kUser{HKEY_CURRENT_USER, ::RegisterTypeLibForUser, ::UnRegisterTypeLibForUser};
 
-HRESULT RegisterIn(const Hive& hive, const InProcServer& server) {
-  std::wstring path = OwnPath();
-  for (const ServerClass& registered : server.classes) {
-    for (const Entry& entry : EntriesOf(registered, server.typeLibrary, path)) {
-      if (const LSTATUS status = Write(hive.key, entry); status != ERROR_SUCCESS) return HRESULT_FROM_WIN32(status);
+HRESULT RegisterIn(const Hive& hive, const InProcServer& server) noexcept {
+  try {
+    std::wstring path = OwnPath();
+    for (const ServerClass& registered : server.classes) {
+      for (const Entry& entry : EntriesOf(registered, server.typeLibrary, path)) {
+        if (const LSTATUS status = Write(hive.key, entry); status != ERROR_SUCCESS) return HRESULT_FROM_WIN32(status);
+      }
     }
+    return server.typeLibrary ? hive.registerLibrary(LoadTypeLibrary().Get(), path.data(), nullptr) : S_OK;
+  } catch (...) {
+    return CurrentFailure({}).number;
   }
-  if (!server.typeLibrary) return S_OK;
-  ComRef<ITypeLib> library;
-  const HRESULT loaded = LoadOwnTypeLibrary(library.Out());
-  return FAILED(loaded) ? loaded : hive.registerLibrary(library.Get(), path.data(), nullptr);
 }
 
 HRESULT UnregisterFrom(const Hive& hive, const InProcServer& server) {
@@ -139,29 +161,17 @@ HRESULT UnregisterFrom(const Hive& hive, const InProcServer& server) {
       if (!IsGone(status)) result = HRESULT_FROM_WIN32(status);
     }
   }
-  if (!server.typeLibrary || !HasKey(hive.key, L"TypeLib\\" + Spelled(*server.typeLibrary))) return result;
+  // A user who had no classes of his own has got the key for all of them.
+  if (Key(hive.key, L"CLSID").IsEmpty()) ::RegDeleteKeyW(hive.key, BelowClasses(L"CLSID").c_str());
+  if (!server.typeLibrary || !Key(hive.key, L"TypeLib\\" + Spelled(*server.typeLibrary)).IsThere()) {
+    return result;
+  }
   constexpr SYSKIND kSystem = sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32;
   const HRESULT removed = hive.unregisterLibrary(*server.typeLibrary, 1, 0, LANG_NEUTRAL, kSystem);
   return FAILED(removed) ? removed : result;
 }
 
 }  // namespace
-
-void (*LiveObjects::onLastOfThread)() = nullptr;
-
-LiveObjects::LiveObjects() {
-  ++gLive;
-  ++gLiveOfThread;
-}
-
-LiveObjects::~LiveObjects() {
-  if (--gLiveOfThread == 0 && onLastOfThread) onLastOfThread();
-  --gLive;
-}
-
-long LiveObjects::Count() { return gLive; }
-
-void LiveObjects::Lock(bool lock) { gLive += lock ? 1 : -1; }
 
 HRESULT InProcServer::GetClassObject(REFCLSID id, REFIID interfaceId, void** result) const noexcept {
   if (!result) return E_POINTER;
@@ -180,17 +190,14 @@ HRESULT InProcServer::GetClassObject(REFCLSID id, REFIID interfaceId, void** res
 HRESULT InProcServer::CanUnloadNow() noexcept { return LiveObjects::Count() == 0 ? S_OK : S_FALSE; }
 
 HRESULT InProcServer::Register() const noexcept {
-  try {
-    HRESULT result = RegisterIn(kMachine, *this);
-    if (FAILED(result)) {
-      UnregisterFrom(kMachine, *this);
-      result = RegisterIn(kUser, *this);
-    }
-    if (FAILED(result)) Unregister();
-    return result;
-  } catch (...) {
-    return CurrentFailure({}).number;
-  }
+  // What is left of a former one would come first for this user, or be half of one.
+  Unregister();
+  HRESULT result = RegisterIn(kMachine, *this);
+  if (SUCCEEDED(result)) return result;
+  Unregister();
+  result = RegisterIn(kUser, *this);
+  if (FAILED(result)) Unregister();
+  return result;
 }
 
 HRESULT InProcServer::Unregister() const noexcept {
@@ -203,12 +210,8 @@ HRESULT InProcServer::Unregister() const noexcept {
   }
 }
 
-HRESULT LoadOwnTypeLibrary(ITypeLib** library) noexcept {
-  try {
-    return ::LoadTypeLibEx(OwnPath().c_str(), REGKIND_NONE, library);
-  } catch (...) {
-    return CurrentFailure({}).number;
-  }
+ITypeLib& OwnTypeLibrary() {
+  return LiveObjects::TypeLibrary([] { return LoadTypeLibrary().Detach(); });
 }
 
 }  // namespace ORXKMPrintProp::automation

@@ -29,7 +29,8 @@ struct InProcServer {
   HRESULT Unregister() const noexcept;
 };
 
-/// The type library that the file of this code has as a resource.
-HRESULT LoadOwnTypeLibrary(ITypeLib** library) noexcept;
+/// The type library that the file of this code has as a resource, for objects, which share it: it stays as long as one
+/// of them lives, on whatever thread. @throws HostFailure, std::bad_alloc
+ITypeLib& OwnTypeLibrary();
 
 }  // namespace ORXKMPrintProp::automation

@@ -28,7 +28,7 @@ constexpr MemberName kNames[] = {
     {u"KeyColumn", DISPID_UNKNOWN},
     {u"Index", DISPID_UNKNOWN},
 };
-static_assert(std::size(kNames) == kMembers);
+static_assert(std::size(kNames) == kMemberCount);
 
 const MemberName& NameOf(Member member) { return kNames[static_cast<std::size_t>(member)]; }
 
@@ -40,7 +40,8 @@ bool IsUnknown(HRESULT result) {
 HRESULT FindByName(const ComRef<IDispatch>& object, TextView name, DISPID& id) {
   const Bstr text(name);
   BSTR names[] = {text.Get()};
-  const HRESULT found = object->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id);
+  HRESULT found = object->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id);
+  if (SUCCEEDED(found) && id == DISPID_UNKNOWN) found = DISP_E_UNKNOWNNAME;
   if (!IsUnknown(found)) return found;
   const auto extended = object.As<IDispatchEx>();
   return extended ? extended->GetDispID(text.Get(), fdexNameCaseInsensitive, &id) : found;
@@ -63,8 +64,7 @@ FoundMember& LateBound::Find(Member member) const {
   if (IsUnknown(result) && name.id != DISPID_UNKNOWN) {
     id = name.id;
   } else {
-    EXCEPINFO nothing{};
-    CheckCall(result, nothing, name.name);
+    CheckCall(result, name.name);
   }
   const WORD get = DISPATCH_PROPERTYGET;
   found = {id, static_cast<WORD>(name.isMethod ? get | DISPATCH_METHOD : get)};
@@ -75,7 +75,8 @@ HRESULT LateBound::Invoke(Member member, DISPID id, WORD flags, DISPPARAMS& para
   EXCEPINFO exception{};
   const HRESULT called =
       object_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, result, &exception, nullptr);
-  if (FAILED(called) && called != DISP_E_MEMBERNOTFOUND) CheckCall(called, exception, NameOf(member).name);
+  const bool isFine = SUCCEEDED(called) && !exception.bstrDescription && !exception.bstrSource;
+  if (!isFine && called != DISP_E_MEMBERNOTFOUND) CheckCall(called, exception, NameOf(member).name);
   return called;
 }
 
@@ -85,17 +86,15 @@ void LateBound::Call(Member member, std::span<VARIANT> arguments, VARIANT& resul
   if (SUCCEEDED(Invoke(member, found.id, found.flags, parameters, &result))) return;
   // There are objects that have methods in the place of properties.
   constexpr WORD kBoth = DISPATCH_PROPERTYGET | DISPATCH_METHOD;
-  EXCEPINFO nothing{};
-  if (found.flags == kBoth) CheckCall(DISP_E_MEMBERNOTFOUND, nothing, NameOf(member).name);
-  CheckCall(Invoke(member, found.id, kBoth, parameters, &result), nothing, NameOf(member).name);
+  if (found.flags == kBoth) CheckCall(DISP_E_MEMBERNOTFOUND, NameOf(member).name);
+  CheckCall(Invoke(member, found.id, kBoth, parameters, &result), NameOf(member).name);
   found.flags = kBoth;
 }
 
 void LateBound::Put(Member member, std::span<VARIANT> arguments) const {
   DISPID property = DISPID_PROPERTYPUT;
   DISPPARAMS parameters{arguments.data(), &property, static_cast<UINT>(arguments.size()), 1};
-  EXCEPINFO nothing{};
-  CheckCall(Invoke(member, Find(member).id, DISPATCH_PROPERTYPUT, parameters, nullptr), nothing, NameOf(member).name);
+  CheckCall(Invoke(member, Find(member).id, DISPATCH_PROPERTYPUT, parameters, nullptr), NameOf(member).name);
 }
 
 ComRef<IEnumVARIANT> LateBound::Enumerator() const {

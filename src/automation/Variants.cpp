@@ -2,7 +2,6 @@
 
 #include <array>
 #include <charconv>
-#include <limits>
 #include <memory>
 #include <new>
 #include <type_traits>
@@ -123,10 +122,13 @@ Variant PlainFromVariant(const VARIANT& value) {
   DISPPARAMS none{};
   OwnedVariant result;
   EXCEPINFO exception{};
-  const HRESULT called_ = called->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none,
-                                         &result, &exception, nullptr);
-  if (called_ == DISP_E_MEMBERNOTFOUND) held->Object::PlainValue(Object::Wanted::Text);
-  CheckCall(called_, exception, u"the default member");
+  const auto get = [&](WORD flags) {
+    return called->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, flags, &none, &result, &exception, nullptr);
+  };
+  HRESULT got = get(DISPATCH_PROPERTYGET);
+  if (got == DISP_E_MEMBERNOTFOUND) got = get(DISPATCH_PROPERTYGET | DISPATCH_METHOD);
+  if (got == DISP_E_MEMBERNOTFOUND) throw RunTimeError(ErrorKind::Type, u"An object has no value of its own.");
+  CheckCall(got, exception, u"the default member");
   return FromVariant(result);
 }
 
@@ -167,13 +169,6 @@ ComRef<IDispatch> ObjectOf(const VARIANT& value) {
     if (auto object = ComRef<IUnknown>(copy.punkVal).As<IDispatch>()) return object;
   }
   throw RunTimeError(ErrorKind::Type, u"A value stands where an object is needed.");
-}
-
-Variant FromObject(IDispatch* object) {
-  VARIANT value;
-  value.vt = VT_DISPATCH;
-  value.pdispVal = object;
-  return std::make_shared<HostValue>(value);
 }
 
 }  // namespace ORXKMPrintProp::automation

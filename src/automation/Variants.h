@@ -25,6 +25,8 @@ class Bstr {
   ~Bstr() { ::SysFreeString(text_); }
 
   BSTR Get() const { return text_; }
+  /// For a call that takes a reference, and may put another text in the place of this one.
+  BSTR* Place() { return &text_; }
   BSTR Detach() { return std::exchange(text_, nullptr); }
 
  private:
@@ -41,7 +43,7 @@ TextView ViewOf(BSTR text);
 /// A variant of automation that ends with this object. It starts empty.
 class OwnedVariant : public VARIANT {
  public:
-  OwnedVariant() { vt = VT_EMPTY; }
+  OwnedVariant() : VARIANT() {}
   OwnedVariant(const OwnedVariant&) = delete;
   OwnedVariant& operator=(const OwnedVariant&) = delete;
   ~OwnedVariant() {
@@ -49,7 +51,8 @@ class OwnedVariant : public VARIANT {
   }
 };
 
-/// A value of a host for which the library has no type: a large number, currency, decimal, date, null, error, object.
+/// A value of a host as it is, above all of a type that the library does not have: a large number, currency, decimal,
+/// date, null, error, object.
 /// What stands for it is what the platform converts it to: numbers to a text without regard to the user's language,
 /// a date as his language has it. Null, errors and objects have nothing that stands for them.
 class HostValue final : public Object {
@@ -78,8 +81,5 @@ void ToVariant(const Variant& value, VARIANT& result);
 /// The object that the value holds, none for an empty value, for null and for no object.
 /// @throws RunTimeError (Type) for a value that is none, or an object that can't be called late-bound.
 ComRef<IDispatch> ObjectOf(const VARIANT& value);
-
-/// A variant that refers to the object.
-Variant FromObject(IDispatch* object);
 
 }  // namespace ORXKMPrintProp::automation

@@ -39,6 +39,14 @@ std::int16_t LayoutSlot(const Variant& buttonId) {
   }
 }
 
+/// While it lives, tab changes are ignored.
+struct TabSetup {
+  TabSetup() { gTabSetup = true; }
+  TabSetup(const TabSetup&) = delete;
+  TabSetup& operator=(const TabSetup&) = delete;
+  ~TabSetup() { gTabSetup = false; }
+};
+
 }  // namespace
 
 ORXQueryPrnProp::ORXQueryPrnProp(const Platform& platform) : dialog_(platform) {
@@ -50,9 +58,10 @@ ORXQueryPrnProp::ORXQueryPrnProp(const Platform& platform) : dialog_(platform) {
   dialog_.TabStrip().Click = [this](std::int16_t PreviousTab) {
     if (!gTabSetup) pages_->ChangeTab(PreviousTab);
   };
-  gTabSetup = true;
-  dialog_.TabStrip().Tab(0);
-  gTabSetup = false;
+  {
+    const TabSetup setup;
+    dialog_.TabStrip().Tab(0);
+  }
   dialog_.ApplyDialogFont();
 }
 
@@ -72,7 +81,7 @@ bool ORXQueryPrnProp::ORXSetPrnTables(TableRef GenPropTable, TableRef DimTable, 
   for (const TableRef& table : {tables.GenPropTable, tables.DimTable, tables.MemTable, tables.AtrTable}) Needed(table);
 
   TableOperation::OvertakeAll();
-  const TableOperation operation;
+  TableOperation operation;
   if (!mTextsDone) dialog_.ApplyTexts();
   mTextsDone = true;
   TableOperation::CheckNotOvertaken();
@@ -100,7 +109,7 @@ TableRef ORXQueryPrnProp::ReadBack(const TableRef Tables::*table) {
   if (!gPrnProp || !mTables.GenPropTable) return nullptr;
   TableOperation::CheckNoneUnderWay();
   pages_->StoreCurrentPage();
-  const TableOperation operation;
+  TableOperation operation;
   const std::shared_ptr<PrnPropCls> root = gPrnProp;
   // The fields may change under the call.
   const Tables tables = mTables;

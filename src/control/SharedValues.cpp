@@ -9,6 +9,7 @@ thread_local bool gTabSetup = false;
 void ReleaseSharedValues() {
   gPrnProp.reset();
   gTextTable.reset();
+  gErrorText = {};
 }
 
 SharedValuesGuard::SharedValuesGuard()

@@ -2,7 +2,7 @@
 
 namespace ORXKMPrintProp {
 
-thread_local Text gDefaultFontName;
+thread_local PerThread<Text> gDefaultFontName = NewPerThread<Text>();
 
 namespace RBDoubleByteCS {
 

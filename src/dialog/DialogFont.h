@@ -1,11 +1,12 @@
 #pragma once
 
 #include "dialog/Platform.h"
+#include "tables/PerThread.h"
 
 namespace ORXKMPrintProp {
 
 /// Shared: face name of the platform's dialog font, empty until the first control starts.
-extern thread_local Text gDefaultFontName;
+extern thread_local PerThread<Text> gDefaultFontName;
 
 namespace RBDoubleByteCS {
 

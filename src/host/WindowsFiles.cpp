@@ -86,9 +86,11 @@ struct Target {
     }
     isThere = true;
     isRegular = ::GetFileType(opened.Get()) == FILE_TYPE_DISK;
-    wchar_t followed[MAX_PATH];
-    const DWORD length = ::GetFinalPathNameByHandleW(opened.Get(), followed, MAX_PATH, FILE_NAME_NORMALIZED);
-    if (isRegular && length > 0 && length < MAX_PATH) path.assign(followed, length);
+    if (!isRegular) return;
+    std::wstring followed(::GetFinalPathNameByHandleW(opened.Get(), nullptr, 0, FILE_NAME_NORMALIZED), L'\0');
+    const auto room = static_cast<DWORD>(followed.size());
+    const DWORD length = ::GetFinalPathNameByHandleW(opened.Get(), followed.data(), room, FILE_NAME_NORMALIZED);
+    if (length > 0 && length < room) path = followed.substr(0, length);
   }
 
   std::wstring Folder() const {

@@ -6,6 +6,7 @@
 #include "model/CollCls.h"
 #include "model/ColumnTable.h"
 #include "model/PrnItemCls.h"
+#include "tables/PerThread.h"
 #include "tables/Table.h"
 
 namespace ORXKMPrintProp {
@@ -35,6 +36,6 @@ class PrnAttrCollCls : public CollCls<PrnAttrCls> {
 using AttrRowIndex = Collection<std::int16_t>;
 
 /// Shared: the index of the load under way, made empty by `PrnPropCls::FromTable` and released with its root.
-extern thread_local std::shared_ptr<AttrRowIndex> gAttrRowIndex;
+extern thread_local PerThread<std::shared_ptr<AttrRowIndex>> gAttrRowIndex;
 
 }  // namespace ORXKMPrintProp

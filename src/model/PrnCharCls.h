@@ -3,6 +3,7 @@
 #include <cstdint>
 
 #include "model/PrnAttrCls.h"
+#include "tables/PerThread.h"
 
 namespace ORXKMPrintProp {
 
@@ -52,6 +53,6 @@ class PrnCharCollCls : public CollCls<PrnCharCls> {
 };
 
 /// Shared: the words of the last load failure. No operation hands it out.
-extern thread_local Text gErrorText;
+extern thread_local PerThread<Text> gErrorText;
 
 }  // namespace ORXKMPrintProp

@@ -6,6 +6,7 @@
 
 #include "model/PrnCharCls.h"
 #include "model/PrnStructureCls.h"
+#include "tables/PerThread.h"
 
 namespace ORXKMPrintProp {
 
@@ -66,6 +67,6 @@ class PrnPropCls {
 };
 
 /// Shared: the one root of the model, none before the first load.
-extern thread_local std::shared_ptr<PrnPropCls> gPrnProp;
+extern thread_local PerThread<std::shared_ptr<PrnPropCls>> gPrnProp;
 
 }  // namespace ORXKMPrintProp

@@ -5,8 +5,8 @@
 
 namespace ORXKMPrintProp {
 
-thread_local Text gErrorText;
-thread_local std::shared_ptr<AttrRowIndex> gAttrRowIndex;
-thread_local std::shared_ptr<PrnPropCls> gPrnProp;
+thread_local PerThread<Text> gErrorText = NewPerThread<Text>();
+thread_local PerThread<std::shared_ptr<AttrRowIndex>> gAttrRowIndex = NewPerThread<std::shared_ptr<AttrRowIndex>>();
+thread_local PerThread<std::shared_ptr<PrnPropCls>> gPrnProp = NewPerThread<std::shared_ptr<PrnPropCls>>();
 
 }  // namespace ORXKMPrintProp

@@ -1,7 +1,7 @@
 #include "server/Classes.h"
 
 #include <ole2.h>
-// What stands first here is where the numbers of the interface are defined.
+// Makes the interface's header define the numbers that it names, which is to happen in one place.
 #include <initguid.h>
 
 #include "ORXKMPrintProp.h"
@@ -12,18 +12,14 @@
 namespace ORXKMPrintProp::server {
 namespace {
 
-// The host's objects that the shared values hold must not outlive what is its own.
-const bool kReleasesSharedValues = [] {
-  automation::LiveObjects::onLastOfThread = ReleaseSharedValues;
-  return true;
-}();
-
 IUnknown* MakeControl() { return static_cast<_ORXQueryPrnProp*>(new ControlObject); }
 IUnknown* MakeEnums() { return static_cast<_PrnEnums*>(new EnumsObject); }
 
 }  // namespace
 
 const automation::InProcServer& Server() {
+  // The host's objects that the shared values hold must not outlive the last of ours.
+  automation::LiveObjects::onLastOfThread = ReleaseSharedValues;
   static const automation::ServerClass classes[] = {
       {__uuidof(::ORXQueryPrnProp), L"ORXKMPrintProp.ORXQueryPrnProp", L"Batch-print settings of a query", MakeControl},
       {__uuidof(::PrnEnums), L"ORXKMPrintProp.PrnEnums", L"Enumerations of batch-print settings", MakeEnums},

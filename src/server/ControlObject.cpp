@@ -2,6 +2,8 @@
 
 #include <olectl.h>
 
+#include <optional>
+
 #include "automation/DispatchTable.h"
 #include "automation/Failures.h"
 #include "automation/Variants.h"
@@ -34,12 +36,17 @@ void* ControlObject::FindBase(REFIID id) {
 
 template <class Body>
 HRESULT ControlObject::Call(Body body) noexcept {
-  const ComRef<IUnknown> held(Identity());
-  try {
-    return body();
-  } catch (...) {
-    return ReportFailure(__uuidof(_ORXQueryPrnProp), kSource);
+  Failure failure;
+  {
+    const ComRef<IUnknown> held(Identity());
+    try {
+      return body();
+    } catch (...) {
+      failure = CurrentFailure(kSource);
+    }
   }
+  // Behind the control's end, if this was its last reference: what goes then may call back, and fail.
+  return Report(failure, __uuidof(_ORXQueryPrnProp));
 }
 
 STDMETHODIMP ControlObject::ORXSetPrnTables(IDispatch* GenPropTable, IDispatch* DimTable, IDispatch* MemTable,
@@ -147,7 +154,7 @@ STDMETHODIMP ControlObject::Use(BSTR widget, short place) {
   return Call([&] {
     Widget* const used = control_.GetDialog().FindSpelled(TextOf(widget));
     if (!used) return E_INVALIDARG;
-    Refusal refused = Refusal::None;
+    std::optional<Refusal> refused;
     if (auto* const button = dynamic_cast<CommandButton*>(used)) refused = button->UserPress();
     if (auto* const box = dynamic_cast<CheckBox*>(used)) refused = box->UserToggle();
     if (auto* const combo = dynamic_cast<ComboBox*>(used)) refused = combo->UserPick(place);

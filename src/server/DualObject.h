@@ -5,7 +5,6 @@
 #include "ORXKMPrintProp.h"
 #include "automation/ComObject.h"
 #include "automation/ComRef.h"
-#include "automation/Failures.h"
 #include "automation/InProcServer.h"
 
 namespace ORXKMPrintProp::server {
@@ -23,7 +22,7 @@ class DualObject : public automation::ComObject<Default, ISupportErrorInfo, Othe
   STDMETHODIMP GetTypeInfo(UINT which, LCID, ITypeInfo** info) override {
     if (!info) return E_POINTER;
     *info = nullptr;
-    return which == 0 ? types_->GetTypeInfoOfGuid(__uuidof(Default), info) : DISP_E_BADINDEX;
+    return which == 0 ? types_.GetTypeInfoOfGuid(__uuidof(Default), info) : DISP_E_BADINDEX;
   }
   STDMETHODIMP GetIDsOfNames(REFIID, OLECHAR** names, UINT count, LCID language, DISPID* ids) override {
     automation::ComRef<ITypeInfo> info;
@@ -46,12 +45,11 @@ class DualObject : public automation::ComObject<Default, ISupportErrorInfo, Othe
   STDMETHODIMP InterfaceSupportsErrorInfo(REFIID id) override { return id == __uuidof(Default) ? S_OK : S_FALSE; }
 
  protected:
-  DualObject() { automation::Check(automation::LoadOwnTypeLibrary(types_.Out())); }
   void* FindBase(REFIID id) override { return id == IID_IDispatch ? static_cast<IDispatch*>(this) : nullptr; }
-  ITypeLib& Types() const { return *types_.Get(); }
+  ITypeLib& Types() const { return types_; }
 
  private:
-  automation::ComRef<ITypeLib> types_;
+  ITypeLib& types_ = automation::OwnTypeLibrary();
 };
 
 }  // namespace ORXKMPrintProp::server

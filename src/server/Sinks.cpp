@@ -27,7 +27,8 @@ IConnectionPoint* CopyOf(const ComRef<IConnectionPoint>& point) { return ComRef(
 
 void Sinks::Close() {
   container_ = nullptr;
-  connections_.clear();
+  // Their ends may call back.
+  const std::vector<Connection> ended = std::exchange(connections_, {});
 }
 
 void Sinks::Raise(DISPID event, VARIANT* arguments, UINT count) {
@@ -71,12 +72,11 @@ STDMETHODIMP Sinks::GetConnectionPointContainer(IConnectionPointContainer** cont
 STDMETHODIMP Sinks::Advise(IUnknown* sink, DWORD* cookie) {
   if (!sink || !cookie) return E_POINTER;
   *cookie = 0;
-  if (!container_) return CONNECT_E_CANNOTCONNECT;
   ComRef<IDispatch> connected;
   if (FAILED(sink->QueryInterface(__uuidof(__ORXQueryPrnProp), reinterpret_cast<void**>(connected.Out())))) {
     connected = ComRef(sink).As<IDispatch>();
   }
-  if (!connected) return CONNECT_E_CANNOTCONNECT;
+  if (!connected || !container_) return CONNECT_E_CANNOTCONNECT;
   try {
     connections_.push_back({++lastCookie_, std::move(connected)});
   } catch (const std::bad_alloc&) {
@@ -100,8 +100,10 @@ STDMETHODIMP Sinks::EnumConnections(IEnumConnections** connections) {
   if (!connections) return E_POINTER;
   *connections = nullptr;
   try {
+    // The sinks may connect and disconnect meanwhile.
+    const std::vector<Connection> known = connections_;
     std::vector<ConnectionItem> items;
-    for (const Connection& connection : connections_) items.push_back({connection.sink.As<IUnknown>(), connection.cookie});
+    for (const Connection& connection : known) items.push_back({connection.sink.As<IUnknown>(), connection.cookie});
     *connections = new ListEnumerator<IEnumConnections, ConnectionItem, CONNECTDATA, CopyOf>(std::move(items));
     return S_OK;
   } catch (const std::bad_alloc&) {

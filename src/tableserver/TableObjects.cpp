@@ -1,5 +1,6 @@
 #include "tableserver/TableObjects.h"
 
+#include <algorithm>
 #include <memory>
 #include <new>
 #include <utility>
@@ -75,14 +76,16 @@ class RowsEnumerator final : public ComObject<IEnumVARIANT> {
         Give<RowObject>(rows[made], table_->Rows(next_));
       }
     } catch (...) {
-      while (made > 0) ::VariantClear(&rows[--made]);
+      for (; made > 0; --next_) ::VariantClear(&rows[--made]);
+      if (given) *given = 0;
       return CurrentFailure({}).number;
     }
     if (given) *given = made;
     return made == count ? S_OK : S_FALSE;
   }
   STDMETHODIMP Skip(ULONG count) override {
-    const auto left = static_cast<ULONG>(table_->RowCount() - next_ + 1);
+    // Rows may have been removed behind it.
+    const auto left = static_cast<ULONG>(std::max(table_->RowCount() - next_ + 1, 0));
     next_ += static_cast<std::int32_t>(count < left ? count : left);
     return count <= left ? S_OK : S_FALSE;
   }

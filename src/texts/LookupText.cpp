@@ -8,7 +8,7 @@
 
 namespace ORXKMPrintProp {
 
-thread_local TableRef gTextTable;
+thread_local PerThread<TableRef> gTextTable = NewPerThread<TableRef>();
 
 namespace ModPrnGen {
 namespace {

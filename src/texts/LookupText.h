@@ -2,13 +2,14 @@
 
 #include <span>
 
+#include "tables/PerThread.h"
 #include "tables/Table.h"
 
 namespace ORXKMPrintProp {
 
 /// Shared: the host's text table with the columns `TARGETID` and `CAPTION`, none before the first
 /// `ORXControlTexts`. Its key column is `TARGETID`.
-extern thread_local TableRef gTextTable;
+extern thread_local PerThread<TableRef> gTextTable;
 
 namespace ModPrnGen {
 

@@ -22,9 +22,9 @@ class Component {
 
   automation::ComRef<IClassFactory> Factory(const CLSID& id) const;
   automation::ComRef<_ORXQueryPrnProp> NewControl() const;
-  bool CanUnloadNow() const { return Entry<HRESULT()>("DllCanUnloadNow")() == S_OK; }
-  HRESULT Register() const { return Entry<HRESULT()>("DllRegisterServer")(); }
-  HRESULT Unregister() const { return Entry<HRESULT()>("DllUnregisterServer")(); }
+  bool CanUnloadNow() const { return Entry<HRESULT WINAPI()>("DllCanUnloadNow")() == S_OK; }
+  HRESULT Register() const { return Entry<HRESULT WINAPI()>("DllRegisterServer")(); }
+  HRESULT Unregister() const { return Entry<HRESULT WINAPI()>("DllUnregisterServer")(); }
 
  private:
   template <class Function>

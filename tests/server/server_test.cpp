@@ -135,12 +135,11 @@ TEST(Server, IsCalledLateBound) {
       {L"ORXSetReadOnly", {1}, DISPATCH_METHOD | DISPATCH_PROPERTYGET, "ok"},
       {L"ORXSetReadOnly", {}, DISPATCH_METHOD, "number of arguments"},
       {L"ORXControlTexts", {7}, DISPATCH_METHOD, "type"},
-      {L"ORXSetPrintLayout", {0, 7, 0}, DISPATCH_METHOD, "9 There is no layout 7."},
+      {L"ORXSetPrintLayout", {0, 7, 0}, DISPATCH_METHOD, "9 There is no page layout 7, only 0 to 3."},
       {L"Title", {}, DISPATCH_PROPERTYGET, "no such member"},
   };
   for (const auto& row : rows) {
-    const std::string found = CallLate(control.Get(), row.member, row.arguments, row.flags);
-    EXPECT_EQ(found.substr(0, 2), std::string(row.result).substr(0, 2)) << row.member << ": " << found;
+    EXPECT_EQ(CallLate(control.Get(), row.member, row.arguments, row.flags), row.result);
   }
   ComRef<IDispatch> enums;
   ASSERT_EQ(component.Factory(__uuidof(::PrnEnums))
@@ -178,7 +177,7 @@ TEST(Server, IsOneObjectByAllItsInterfaces) {
 TEST(Server, LetsGoOfTheHostsObjectsWithItsLastObject) {
   const Component component;
   EXPECT_TRUE(component.CanUnloadNow());
-  const HostTables tables(Settings("IOBJNM='A'"));
+  HostTables tables(Settings("IOBJNM='A'"));
   {
     const auto texts = Foreign(MakeHostTable(TableFrom(Kind::Texts, "TARGETID='ID_PRN_GENERAL' CAPTION='Allgemein'")),
                                Known::ByNames, tables.watch);
@@ -192,7 +191,8 @@ TEST(Server, LetsGoOfTheHostsObjectsWithItsLastObject) {
     EXPECT_FALSE(component.CanUnloadNow());
   }
   EXPECT_TRUE(component.CanUnloadNow());
-  EXPECT_EQ(tables.watch->alive, 4) << "which are the test's own";
+  tables.gen = tables.dim = tables.mem = tables.atr = nullptr;
+  EXPECT_EQ(tables.watch->alive, 0);
   const auto factory = component.Factory(__uuidof(::PrnEnums));
   EXPECT_FALSE(component.CanUnloadNow());
   factory->LockServer(TRUE);
@@ -232,6 +232,18 @@ TEST(Server, WorksInTwoApartmentsAtOnce) {
   first.join();
   second.join();
   EXPECT_TRUE(component.CanUnloadNow());
+}
+
+TEST(Server, GoesWithItsLastUserAndThreadsEndBehindIt) {
+  const auto use = [] {
+    const Component component;
+    const auto control = component.NewControl();
+    EXPECT_EQ(HostTables(Settings("IOBJNM='A'")).LoadInto(control.Get()), "True");
+  };
+  use();
+  EXPECT_EQ(::GetModuleHandleW(L"ORXKMPrintProp.dll"), nullptr);
+  std::thread(use).join();
+  EXPECT_EQ(::GetModuleHandleW(L"ORXKMPrintProp.dll"), nullptr);
 }
 
 TEST(WindowsPlatform, HasTheSystemsDialogFontAndTheOrderOfTheUsersLanguage) {

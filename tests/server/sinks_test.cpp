@@ -5,6 +5,7 @@
 #include <olectl.h>
 
 #include <functional>
+#include <memory>
 
 #include "automation/ComObject.h"
 #include "automation/Variants.h"
@@ -45,7 +46,7 @@ class Sink final : public automation::ComObject<IDispatch> {
   std::function<HRESULT()> act_;
 };
 
-class Sinks : public testing::Test {
+class SinksTest : public testing::Test {
  protected:
   ComRef<IConnectionPoint> Point() const {
     ComRef<IConnectionPoint> point;
@@ -70,7 +71,7 @@ class Sinks : public testing::Test {
   std::string heard;
 };
 
-TEST_F(Sinks, HearBothEventsInTheOrderOfConnecting) {
+TEST_F(SinksTest, HearBothEventsInTheOrderOfConnecting) {
   ASSERT_EQ(tables.LoadInto(control.Get()), "True");
   Connect("a");
   const DWORD second = Connect("b");
@@ -89,7 +90,7 @@ TEST_F(Sinks, HearBothEventsInTheOrderOfConnecting) {
   EXPECT_EQ(Use(u"none"), ErrorOf(E_INVALIDARG));
 }
 
-TEST_F(Sinks, AreAllToldBeforeTheFirstFailureEndsTheAction) {
+TEST_F(SinksTest, AreAllToldBeforeTheFirstFailureEndsTheAction) {
   ASSERT_EQ(tables.LoadInto(control.Get()), "True");
   Connect("a", [] { return DISP_E_EXCEPTION; });
   Connect("b", [] { return E_FAIL; });
@@ -98,7 +99,7 @@ TEST_F(Sinks, AreAllToldBeforeTheFirstFailureEndsTheAction) {
   EXPECT_EQ(heard, "a1,1,'' b1,1,'' c1,1,'' ");
 }
 
-TEST_F(Sinks, DoAnythingInsideAnEvent) {
+TEST_F(SinksTest, DoAnythingInsideAnEvent) {
   ASSERT_EQ(tables.LoadInto(control.Get()), "True");
   const HostTables others(Settings("IOBJNM='N'"));
   DWORD later = 0;
@@ -134,23 +135,37 @@ TEST_F(Sinks, DoAnythingInsideAnEvent) {
   }
 }
 
-TEST_F(Sinks, ReleaseTheControlInsideAnEventAndEndWithIt) {
+TEST_F(SinksTest, ReleaseTheControlInsideAnEventWhichEndsBehindIt) {
   ASSERT_EQ(tables.LoadInto(control.Get()), "True");
-  const auto user = control.As<server::IDialogUser>();
-  const auto point = Point();
-  Connect("a", [&] {
-    control = nullptr;
-    return S_OK;
-  });
-  Connect("b");
-  server::IDialogUser* const last = ComRef(user).Detach();
+  server::IDialogUser* const user = control.As<server::IDialogUser>().Detach();
+  control = nullptr;
+  // A sink that disconnects itself at its end.
+  struct AtEnd {
+    ~AtEnd() { EXPECT_EQ(point->Unadvise(cookie), CONNECT_E_NOCONNECTION); }
+    ComRef<IConnectionPoint> point;
+    DWORD cookie;
+  };
+  auto atEnd = std::make_shared<AtEnd>();
+  ComRef<IConnectionPointContainer> container;
+  user->QueryInterface(__uuidof(IConnectionPointContainer), reinterpret_cast<void**>(container.Out()));
+  container->FindConnectionPoint(__uuidof(__ORXQueryPrnProp), atEnd->point.Out());
+  const auto connect = [&](const std::string& name, std::function<HRESULT()> act) {
+    const auto sink = ComRef<IDispatch>::Taken(new Sink(name, heard, std::move(act)));
+    return atEnd->point->Advise(sink.Get(), &atEnd->cookie);
+  };
+  connect("a", [user] { return user->Release() > 0 ? S_OK : E_FAIL; });
+  connect("b", [held = atEnd] { return S_OK; });
+  const std::weak_ptr<AtEnd> ended = atEnd;
   const Bstr button(u"cmdPrintLayout(0)");
-  Connect("c", [&] { return last->Release(), S_OK; });
+  container = nullptr;
+  atEnd = nullptr;
   EXPECT_EQ(user->Use(button.Get(), 0), S_OK);
-  EXPECT_EQ(heard, "a1,0,'' b1,0,'' c1,0,'' ");
+  EXPECT_EQ(heard, "a1,0,'' b1,0,'' ");
+  EXPECT_TRUE(ended.expired());
+  EXPECT_TRUE(component.CanUnloadNow());
 }
 
-TEST_F(Sinks, AreEnumerated) {
+TEST_F(SinksTest, AreEnumerated) {
   const DWORD cookies[] = {Connect("a"), Connect("b"), Connect("c")};
   ComRef<IEnumConnections> connections;
   ASSERT_EQ(Point()->EnumConnections(connections.Out()), S_OK);
@@ -159,10 +174,7 @@ TEST_F(Sinks, AreEnumerated) {
   ASSERT_EQ(connections->Skip(1), S_OK);
   ASSERT_EQ(connections->Next(4, given, &count), S_FALSE);
   ASSERT_EQ(count, 2u);
-  for (ULONG i = 0; i < count; ++i) {
-    EXPECT_EQ(given[i].dwCookie, cookies[i + 1]);
-    given[i].pUnk->Release();
-  }
+  for (ULONG i = 0; i < count; ++i) EXPECT_EQ(given[i].dwCookie, cookies[i + 1]);
   ComRef<IEnumConnectionPoints> points;
   ASSERT_EQ(control.As<IConnectionPointContainer>()->EnumConnectionPoints(points.Out()), S_OK);
   ComRef<IConnectionPoint> point;
@@ -176,6 +188,7 @@ TEST_F(Sinks, AreEnumerated) {
   control = nullptr;
   DWORD cookie = 0;
   EXPECT_EQ(held->Advise(given[0].pUnk, &cookie), CONNECT_E_CANNOTCONNECT) << "the control has ended";
+  for (ULONG i = 0; i < count; ++i) given[i].pUnk->Release();
 }
 
 }  // namespace

@@ -17,6 +17,7 @@ int wmain(int argc, wchar_t** argv) {
   using namespace ORXKMPrintProp;
   // What is printed is the same on every system: UTF-8, and lines that end with one character.
   for (std::FILE* const stream : {stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
+  const UINT formerPage = ::GetConsoleOutputCP();
   ::SetConsoleOutputCP(CP_UTF8);
 
   std::vector<std::string> arguments;
@@ -25,5 +26,7 @@ int wmain(int argc, wchar_t** argv) {
   }
   std::vector<char*> pointers(arguments.size());
   std::transform(arguments.begin(), arguments.end(), pointers.begin(), [](std::string& text) { return text.data(); });
-  return host::RunProgram(argc, pointers.data());
+  const int status = host::RunProgram(argc, pointers.data());
+  ::SetConsoleOutputCP(formerPage);
+  return status;
 }
