@@ -9,7 +9,6 @@ thread_local bool gTabSetup = false;
 void ReleaseSharedValues() {
   gPrnProp.reset();
   gTextTable.reset();
-  gErrorText = {};
 }
 
 SharedValuesGuard::SharedValuesGuard()
