@@ -63,5 +63,5 @@ void Measure(std::int64_t rows) {
 }  // namespace ORXKMPrintProp::bench
 
 int main() {
-  for (const std::int64_t rows : {1000, 32766}) ORXKMPrintProp::bench::Measure(rows);
+  for (const std::int64_t rows : {1000, 32767}) ORXKMPrintProp::bench::Measure(rows);
 }

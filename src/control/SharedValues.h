@@ -16,7 +16,8 @@ namespace ORXKMPrintProp {
 extern thread_local bool gTabSetup;
 
 /// Releases the model and the host's text table, for a host that ends: its objects must not outlive it. Controls that
-/// are still there count as before their first load until the next one.
+/// are still there count as before their first load until the next one. On Windows every thread that has used controls
+/// is to call it before it ends: nothing else releases what it holds.
 void ReleaseSharedValues();
 
 /// As long as one lives, the thread has no model and no text table; afterwards it has those that it had before. For a
