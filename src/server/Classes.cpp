@@ -18,13 +18,15 @@ IUnknown* MakeEnums() { return static_cast<_PrnEnums*>(new EnumsObject); }
 }  // namespace
 
 const automation::InProcServer& Server() {
-  // The host's objects that the shared values hold must not outlive the last of ours.
-  automation::LiveObjects::onLastOfThread = ReleaseSharedValues;
   static const automation::ServerClass classes[] = {
       {__uuidof(::ORXQueryPrnProp), L"ORXKMPrintProp.ORXQueryPrnProp", L"Batch-print settings of a query", MakeControl},
       {__uuidof(::PrnEnums), L"ORXKMPrintProp.PrnEnums", L"Enumerations of batch-print settings", MakeEnums},
   };
-  static const automation::InProcServer server{classes, &LIBID_ORXKMPrintProp};
+  static const automation::InProcServer server = [] {
+    // The host's objects that the shared values hold must not outlive the last of ours.
+    automation::LiveObjects::onLastOfThread = ReleaseSharedValues;
+    return automation::InProcServer{classes, &LIBID_ORXKMPrintProp};
+  }();
   return server;
 }
 
