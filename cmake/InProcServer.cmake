@@ -12,4 +12,8 @@ function(prnprop_in_proc_server target)
   target_link_libraries(${target} PRIVATE PrnPropAutomation)
   install(TARGETS ${target} RUNTIME DESTINATION . COMPONENT component)
   target_link_options(${target} PRIVATE -s -Wl,--kill-at)
+  if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+    # The entry points are exported without the number of bytes that they take from the stack.
+    target_link_options(${target} PRIVATE -Wl,--enable-stdcall-fixup)
+  endif()
 endfunction()
