@@ -3,12 +3,13 @@
 #include <olectl.h>
 
 #include <algorithm>
+#include <cstddef>
 #include <exception>
 #include <utility>
 
 #include "ORXKMPrintProp.h"
+#include "automation/Enumerator.h"
 #include "automation/Failures.h"
-#include "server/ListEnumerator.h"
 
 namespace ORXKMPrintProp::server {
 
@@ -22,6 +23,19 @@ struct ConnectionItem {
 };
 CONNECTDATA CopyOf(const ConnectionItem& item) { return {ComRef(item.sink).Detach(), item.cookie}; }
 IConnectionPoint* CopyOf(const ComRef<IConnectionPoint>& point) { return ComRef(point).Detach(); }
+
+/// Items that are known from the start, for an enumerator.
+template <class Item, class Given>
+struct ListSource {
+  std::vector<Item> items;
+
+  std::size_t Count() const { return items.size(); }
+  void Give(std::size_t place, Given& given) const { given = CopyOf(items[place]); }
+  static void TakeBack(Given&) {}  // none of them fails
+};
+
+using ConnectionSource = ListSource<ConnectionItem, CONNECTDATA>;
+using PointSource = ListSource<ComRef<IConnectionPoint>, IConnectionPoint*>;
 
 }  // namespace
 
@@ -104,7 +118,7 @@ STDMETHODIMP Sinks::EnumConnections(IEnumConnections** connections) {
     const std::vector<Connection> known = connections_;
     std::vector<ConnectionItem> items;
     for (const Connection& connection : known) items.push_back({connection.sink.As<IUnknown>(), connection.cookie});
-    *connections = new ListEnumerator<IEnumConnections, ConnectionItem, CONNECTDATA, CopyOf>(std::move(items));
+    *connections = new Enumerator<IEnumConnections, CONNECTDATA, ConnectionSource>({std::move(items)});
     return S_OK;
   } catch (const std::bad_alloc&) {
     return E_OUTOFMEMORY;
@@ -112,9 +126,9 @@ STDMETHODIMP Sinks::EnumConnections(IEnumConnections** connections) {
 }
 
 ComRef<IEnumConnectionPoints> EnumOf(ComRef<IConnectionPoint> point) {
-  using Enumerator =
-      ListEnumerator<IEnumConnectionPoints, ComRef<IConnectionPoint>, IConnectionPoint*, CopyOf>;
-  return ComRef<IEnumConnectionPoints>::Taken(new Enumerator({std::move(point)}));
+  PointSource points{{std::move(point)}};
+  return ComRef<IEnumConnectionPoints>::Taken(
+      new Enumerator<IEnumConnectionPoints, IConnectionPoint*, PointSource>(std::move(points)));
 }
 
 }  // namespace ORXKMPrintProp::server

@@ -1,11 +1,12 @@
 #include "tableserver/TableObjects.h"
 
-#include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <memory>
-#include <new>
 #include <utility>
 
 #include "automation/DispatchObject.h"
+#include "automation/Enumerator.h"
 #include "tables/Conversions.h"
 #include "tables/MemoryTable.h"
 #include "tables/TableCalls.h"
@@ -62,46 +63,15 @@ class RowObject final : public Part<RowObject> {
   RowRef row_;
 };
 
-/// By a list's own enumerator, which may be copied at any place.
-class RowsEnumerator final : public ComObject<IEnumVARIANT> {
- public:
-  explicit RowsEnumerator(TableRef table, std::int32_t next = 1) : table_(std::move(table)), next_(next) {}
+/// The rows for an enumerator.
+struct RowSource {
+  TableRef table;
 
-  STDMETHODIMP Next(ULONG count, VARIANT* rows, ULONG* given) override {
-    if (!rows || (!given && count != 1)) return E_POINTER;
-    ULONG made = 0;
-    try {
-      for (; made < count && next_ <= table_->RowCount(); ++made, ++next_) {
-        ::VariantInit(&rows[made]);
-        Give<RowObject>(rows[made], table_->Rows(next_));
-      }
-    } catch (...) {
-      for (; made > 0; --next_) ::VariantClear(&rows[--made]);
-      if (given) *given = 0;
-      return CurrentFailure({}).number;
-    }
-    if (given) *given = made;
-    return made == count ? S_OK : S_FALSE;
+  std::size_t Count() const { return static_cast<std::size_t>(table->RowCount()); }
+  void Give(std::size_t place, VARIANT& given) const {
+    tableserver::Give<RowObject>(given, table->Rows(static_cast<std::int32_t>(place) + 1));
   }
-  STDMETHODIMP Skip(ULONG count) override {
-    // Rows may have been removed behind it.
-    const auto left = static_cast<ULONG>(std::max(table_->RowCount() - next_ + 1, 0));
-    next_ += static_cast<std::int32_t>(count < left ? count : left);
-    return count <= left ? S_OK : S_FALSE;
-  }
-  STDMETHODIMP Reset() override {
-    next_ = 1;
-    return S_OK;
-  }
-  STDMETHODIMP Clone(IEnumVARIANT** copy) override {
-    if (!copy) return E_POINTER;
-    *copy = new (std::nothrow) RowsEnumerator(table_, next_);
-    return *copy ? S_OK : E_OUTOFMEMORY;
-  }
-
- private:
-  TableRef table_;
-  std::int32_t next_;
+  static void TakeBack(VARIANT& given) { ::VariantClear(&given); }
 };
 
 class RowListObject final : public Part<RowListObject> {
@@ -122,7 +92,7 @@ class RowListObject final : public Part<RowListObject> {
   }
   void Count(const Arguments&, VARIANT& result) { ToVariant(table_->RowCount(), result); }
   void NewEnum(const Arguments&, VARIANT& result) {
-    result.punkVal = new RowsEnumerator(table_);
+    result.punkVal = new Enumerator<IEnumVARIANT, VARIANT, RowSource>({table_});
     result.vt = VT_UNKNOWN;
   }
 
