@@ -1,0 +1,114 @@
+#include "views/win32/ComboBoxView.h"
+
+#include <algorithm>
+
+#include "views/Fitting.h"
+#include "views/win32/WindowsKeys.h"
+#include "views/win32/WindowsText.h"
+
+namespace ORXKMPrintProp::win32 {
+namespace {
+
+constexpr int kOpenEntries = 10;  ///< that are seen of an open list at most
+
+/// What lies beside the text in the field, with the button.
+int FieldEdge() { return ::GetSystemMetrics(SM_CXVSCROLL) + 8; }
+
+}  // namespace
+
+void ComboBoxView::MoveTo(const views::Place& place) {
+  SetFont();
+  // The window's height is that of the open list; the field has the height of one entry and an edge.
+  const int entryHeight = surface_.HeightOf(widget_.GetFont());
+  WidgetView::MoveTo({place.left, place.top, place.width, place.height + kOpenEntries * entryHeight + 2});
+  constexpr WPARAM kField = static_cast<WPARAM>(-1);
+  Send(CB_SETITEMHEIGHT, kField, entryHeight);
+  const int difference = place.height - static_cast<int>(Size().cy);
+  if (difference != 0) Send(CB_SETITEMHEIGHT, kField, entryHeight + difference);
+}
+
+void ComboBoxView::Refresh() {
+  WidgetView::Refresh();
+  SetFont();
+  ShowPicked();
+  if (!widget_.Enabled() && IsOpen()) Send(CB_SHOWDROPDOWN, FALSE);
+}
+
+void ComboBoxView::Show(WidgetProperty what) {
+  if (what == WidgetProperty::ListIndex) return ShowPicked();
+  ViewOf::Show(what);
+  if (what == WidgetProperty::Enabled && !widget_.Enabled() && IsOpen()) Send(CB_SHOWDROPDOWN, FALSE);
+}
+
+void ComboBoxView::ShowEntry(int index) {
+  const std::wstring text = ToWide(views::OnOneLine(widget_.List(static_cast<std::int16_t>(index))));
+  Send(CB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.c_str()));
+}
+
+void ComboBoxView::EntryChanged(int index, EntryProperty) {
+  Send(CB_DELETESTRING, static_cast<WPARAM>(index));
+  EntryAdded(index);
+}
+
+void ComboBoxView::EntryAdded(int index) {
+  ShowEntry(index);
+  ShowPicked();
+}
+
+void ComboBoxView::EntryRemoved(int index) {
+  Send(CB_DELETESTRING, static_cast<WPARAM>(index));
+  ShowPicked();
+}
+
+void ComboBoxView::EntriesCleared() {
+  Send(CB_RESETCONTENT);
+  ShowPicked();
+}
+
+void ComboBoxView::ShowPicked() {
+  const int picked = widget_.ListIndex();
+  if (Send(CB_GETCURSEL) != picked) Send(CB_SETCURSEL, static_cast<WPARAM>(picked));
+  const Text text = picked < 0 ? Text() : widget_.List(static_cast<std::int16_t>(picked));
+  const bool isCut = surface_.MeasureOf(widget_.GetFont())(text, 100) > Size().cx - FieldEdge();
+  surface_.SetToolTip(widget_, views::ToolTipWith(isCut ? text : Text(), widget_.ToolTipText()));
+}
+
+void ComboBoxView::OnNotify(UINT notification) {
+  if (notification == CBN_SELCHANGE) surface_.PostUse(widget_, static_cast<WPARAM>(Send(CB_GETCURSEL)));
+  if (notification != CBN_DROPDOWN) return;
+  // Entries that are wider than the field are read in the open list.
+  const auto measure = surface_.MeasureOf(widget_.GetFont());
+  int width = 0;
+  for (std::int16_t i = 0; i < widget_.ListCount(); ++i) width = std::max(width, measure(widget_.List(i), 100));
+  Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width + FieldEdge()));
+}
+
+void ComboBoxView::Use(WPARAM what) {
+  Perform([&] { widget_.UserPick(static_cast<std::int16_t>(what)); });
+}
+
+std::optional<LRESULT> ComboBoxView::TakeKeyPress(const views::KeyPress& press) {
+  const auto entry = views::PickOf(widget_, press, search_);
+  if (!entry) return {};
+  Perform([&] { widget_.UserPick(*entry); });
+  return 0;
+}
+
+std::optional<LRESULT> ComboBoxView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  if (const auto result = ViewOf::OnMessage(message, wParam, lParam)) return result;
+  switch (message) {
+    case WM_KEYDOWN:
+      return IsOpen() ? std::nullopt : TakeKeyPress(ToKeyPress(wParam));
+    case WM_CHAR:
+      if (IsOpen()) return {};
+      TakeKeyPress({.text = Text(1, static_cast<char16_t>(wParam))});
+      return 0;
+    case WM_MOUSEWHEEL:
+      if (::GetFocus() == Window()) return {};
+      return ::SendMessageW(::GetParent(Window()), message, wParam, lParam);
+    default:
+      return {};
+  }
+}
+
+}  // namespace ORXKMPrintProp::win32

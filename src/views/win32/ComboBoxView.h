@@ -1,0 +1,38 @@
+#pragma once
+
+#include "dialog/Lists.h"
+#include "views/Keys.h"
+#include "views/win32/WidgetView.h"
+
+namespace ORXKMPrintProp::win32 {
+
+/// The window's own entries are brought in line at each change.
+class ComboBoxView : public ViewOf<ComboBox> {
+ public:
+  using ViewOf::ViewOf;
+  void MoveTo(const views::Place& place) override;
+  void Refresh() override;
+  void Show(WidgetProperty what) override;
+  void EntryChanged(int index, EntryProperty what) override;
+  void EntryAdded(int index) override;
+  void EntryRemoved(int index) override;
+  void EntriesCleared() override;
+  void OnNotify(UINT notification) override;
+  void Use(WPARAM what) override;
+
+ protected:
+  WindowKind Kind() const override {
+    return {L"COMBOBOX", CBS_DROPDOWNLIST | CBS_HASSTRINGS | CBS_NOINTEGRALHEIGHT | WS_VSCROLL | WS_TABSTOP};
+  }
+  std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  bool IsOpen() const { return Send(CB_GETDROPPEDSTATE) != 0; }
+  std::optional<LRESULT> TakeKeyPress(const views::KeyPress& press);
+  void ShowEntry(int index);
+  void ShowPicked();
+
+  views::TypeAhead search_;
+};
+
+}  // namespace ORXKMPrintProp::win32

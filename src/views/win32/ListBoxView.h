@@ -1,0 +1,51 @@
+#pragma once
+
+#include "dialog/Lists.h"
+#include "views/Keys.h"
+#include "views/ListPointer.h"
+#include "views/win32/WidgetView.h"
+
+namespace ORXKMPrintProp::win32 {
+
+/// The window has no entries of its own but their number: it is painted, and other programs are answered, from those of
+/// the ListBox, and what they change is taken for the user's hand. Mouse and keys are those of every view.
+class ListBoxView : public ViewOf<ListBox>, private views::ListGlass {
+ public:
+  using ViewOf::ViewOf;
+  void Refresh() override;
+  void Show(WidgetProperty what) override;
+  void EntryChanged(int index, EntryProperty what) override;
+  void EntryAdded(int index) override;
+  void EntryRemoved(int index) override;
+  void EntriesCleared() override;
+  void Draw(const DRAWITEMSTRUCT& item) override;
+  void Use(WPARAM what) override;
+  void End() override;
+
+ protected:
+  WindowKind Kind() const override;
+  std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+ private:
+  int Height() const override;
+  int EntryAt(int y) const override;
+  void ScrollBy(int step) override;
+  void RunTimer(bool on) override;
+  void ReleaseLater() override;
+  void Perform(const std::function<void()>& action) override { WidgetView::Perform(action); }
+
+  std::optional<LRESULT> OnMouse(UINT message, WPARAM wParam, LPARAM lParam);
+  std::optional<LRESULT> OnKey(const views::KeyPress& press);
+  /// What other programs ask of a list, or do with it.
+  std::optional<LRESULT> OnRequest(UINT message, WPARAM wParam, LPARAM lParam);
+  void ShowCount();
+  void ShowCaret();
+  void ShowToolTipAt(int y);
+  int Top() const;
+
+  bool isRunning_ = false;
+  views::TypeAhead search_;
+  views::ListPointer pointer_{widget_, *this};
+};
+
+}  // namespace ORXKMPrintProp::win32

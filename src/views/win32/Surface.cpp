@@ -1,0 +1,72 @@
+#include "views/win32/Surface.h"
+
+#include <cmath>
+
+#include "views/win32/WindowsText.h"
+
+namespace ORXKMPrintProp::win32 {
+namespace {
+
+/// A device context with a font in it, to measure with.
+class Ruler {
+ public:
+  explicit Ruler(HFONT font) : former_(::SelectObject(context_, font)) {}
+  Ruler(const Ruler&) = delete;
+  Ruler& operator=(const Ruler&) = delete;
+  ~Ruler() {
+    ::SelectObject(context_, former_);
+    ::ReleaseDC(nullptr, context_);
+  }
+  int WidthOf(TextView text) const {
+    SIZE size{};
+    ::GetTextExtentPoint32W(context_, ToWide(text).c_str(), static_cast<int>(text.size()), &size);
+    return size.cx;
+  }
+  int Height() const {
+    TEXTMETRICW metrics{};
+    ::GetTextMetricsW(context_, &metrics);
+    return metrics.tmHeight;
+  }
+
+ private:
+  HDC context_ = ::GetDC(nullptr);
+  HGDIOBJ former_;
+};
+
+}  // namespace
+
+Surface::~Surface() { EndFonts(); }
+
+Surface::Held Surface::Hold() {
+  return {Shared(), isOpen_ && reports_.hold ? reports_.hold() : nullptr};
+}
+
+void Surface::Resolution(const views::Resolution& resolution) {
+  resolution_ = resolution;
+  EndFonts();
+}
+
+void Surface::EndFonts() {
+  for (const auto& [key, font] : fonts_) ::DeleteObject(font);
+  fonts_.clear();
+}
+
+HFONT Surface::FontOf(const Font& font, int percent) {
+  constexpr double kPointsPerInch = 72;
+  const long height = std::lround(font.Size * percent / 100 * resolution_.y / kPointsPerInch);
+  HFONT& made = fonts_[{font.Name, height, font.Weight}];
+  if (!made) {
+    made = ::CreateFontW(-static_cast<int>(height), 0, 0, 0, font.Weight, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+                         OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, CLEARTYPE_QUALITY, DEFAULT_PITCH | FF_DONTCARE,
+                         ToWide(font.Name).c_str());
+  }
+  return made;
+}
+
+views::Measure Surface::MeasureOf(const Font& font) {
+  return [this, &font](TextView text, int percent) { return Ruler(FontOf(font, percent)).WidthOf(text); };
+}
+
+int Surface::HeightOf(const Font& font) { return Ruler(FontOf(font)).Height(); }
+
+}  // namespace ORXKMPrintProp::win32

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <windows.h>
+
+#include <map>
+#include <memory>
+#include <tuple>
+
+#include "dialog/Widgets.h"
+#include "views/Fitting.h"
+#include "views/Places.h"
+#include "views/win32/PrnPropView.h"
+
+namespace ORXKMPrintProp::win32 {
+
+/// What the windows of one dialog share.
+class Surface {
+ public:
+  explicit Surface(Reports reports) : reports_(std::move(reports)) {}
+  Surface(const Surface&) = delete;
+  Surface& operator=(const Surface&) = delete;
+  virtual ~Surface();
+
+  /// Holds the windows, and what their owner wants to be held, until it goes.
+  struct Held {
+    std::shared_ptr<Surface> surface;
+    std::shared_ptr<void> owner;
+  };
+  Held Hold();
+  /// Whether the dialog is still there; nothing is to be done with it else.
+  bool IsOpen() const { return isOpen_; }
+
+  const Reports& GetReports() const { return reports_; }
+  const views::Resolution& Resolution() const { return resolution_; }
+
+  /// The font in so many per cent of its size; lives as long as the resolution is the same.
+  HFONT FontOf(const Font& font, int percent = 100);
+  views::Measure MeasureOf(const Font& font);
+  int HeightOf(const Font& font);
+
+  /// The pointer that is seen now, null for that of each window.
+  HCURSOR Pointer() const { return pointer_; }
+
+  /// Calls the widget's view back, behind the message that is handled now.
+  virtual void PostUse(Widget& widget, WPARAM what) = 0;
+  /// Does what is done by keys in the whole dialog. @return false for what belongs to the widget alone.
+  virtual bool TakeKey(Widget& widget, WPARAM virtualKey, LPARAM flags) = 0;
+  virtual void GotFocus(const Widget& widget) = 0;
+  /// The widget can't have the focus any longer.
+  virtual void PassFocus(const Widget& widget) = 0;
+  /// The text that the pointer finds over the widget.
+  virtual void SetToolTip(const Widget& widget, const Text& text) = 0;
+  virtual void RelayToToolTip(HWND window, UINT message, WPARAM wParam, LPARAM lParam) = 0;
+
+ protected:
+  virtual std::shared_ptr<Surface> Shared() = 0;
+  void Resolution(const views::Resolution& resolution);
+  void Close() { isOpen_ = false; }
+
+  HCURSOR pointer_ = nullptr;
+
+ private:
+  void EndFonts();
+
+  Reports reports_;
+  views::Resolution resolution_{96, 96};
+  std::map<std::tuple<Text, long, int>, HFONT> fonts_;
+  bool isOpen_ = true;
+};
+
+}  // namespace ORXKMPrintProp::win32

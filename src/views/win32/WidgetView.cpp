@@ -1,0 +1,141 @@
+#include "views/win32/WidgetView.h"
+
+#include <commctrl.h>
+
+#include <exception>
+#include <system_error>
+
+#include "tables/RunTimeError.h"
+#include "views/Fitting.h"
+#include "views/win32/WindowsText.h"
+
+namespace ORXKMPrintProp::win32 {
+
+void WidgetView::Make(HWND parent, int id) {
+  const WindowKind kind = Kind();
+  window_ = ::CreateWindowExW(kind.extendedStyle | WS_EX_NOPARENTNOTIFY, kind.name, L"", kind.style | WS_CHILD, 0, 0, 0,
+                              0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
+  if (!window_ || !::SetWindowSubclass(window_, OnMessageOf, 0, reinterpret_cast<DWORD_PTR>(this))) {
+    throw std::system_error(static_cast<int>(::GetLastError()), std::system_category(), "no window");
+  }
+}
+
+LRESULT CALLBACK WidgetView::OnMessageOf(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                         DWORD_PTR view) {
+  auto& self = *reinterpret_cast<WidgetView*>(view);
+  const Surface::Held held = self.surface_.Hold();
+  if (message == WM_NCDESTROY) {
+    self.window_ = nullptr;
+    ::RemoveWindowSubclass(window, OnMessageOf, 0);
+  } else if (self.surface_.IsOpen()) {
+    if (const auto result = self.OnMessage(message, wParam, lParam)) return *result;
+  }
+  return ::DefSubclassProc(window, message, wParam, lParam);
+}
+
+std::optional<LRESULT> WidgetView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_SETFOCUS:
+      surface_.GotFocus(base_);
+      return {};
+    case WM_KEYDOWN:
+    case WM_SYSKEYDOWN:
+      if (surface_.TakeKey(base_, wParam, lParam)) return 0;
+      return {};
+    case WM_SETCURSOR:
+      if (!surface_.Pointer()) return {};
+      ::SetCursor(surface_.Pointer());
+      return TRUE;
+    case WM_MOUSEMOVE:
+    case WM_LBUTTONDOWN:
+    case WM_RBUTTONDOWN:
+      surface_.RelayToToolTip(window_, message, wParam, lParam);
+      return {};
+    default:
+      return {};
+  }
+}
+
+LRESULT WidgetView::Send(UINT message, WPARAM wParam, LPARAM lParam) const {
+  return ::SendMessageW(window_, message, wParam, lParam);
+}
+
+SIZE WidgetView::Size() const {
+  RECT place{};
+  ::GetWindowRect(window_, &place);
+  return {place.right - place.left, place.bottom - place.top};
+}
+
+void WidgetView::MoveTo(const views::Place& place) {
+  ::SetWindowPos(window_, nullptr, place.left, place.top, place.width, place.height, SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+void WidgetView::Refresh() {
+  surface_.SetToolTip(base_, base_.ToolTipText());
+  ShowEnabled();
+  ShowVisible();
+}
+
+void WidgetView::Show(WidgetProperty what) {
+  switch (what) {
+    case WidgetProperty::Enabled:
+      return ShowEnabled();
+    case WidgetProperty::Visible:
+      return ShowVisible();
+    default:
+      Refresh();
+  }
+}
+
+void WidgetView::ShowEnabled() {
+  if (::IsWindowEnabled(window_) == base_.Enabled()) return;
+  if (!base_.Enabled()) surface_.PassFocus(base_);
+  ::EnableWindow(window_, base_.Enabled());
+}
+
+void WidgetView::ShowVisible() {
+  const bool isShown = (::GetWindowLongPtrW(window_, GWL_STYLE) & WS_VISIBLE) != 0;
+  if (isShown == base_.Visible()) return;
+  if (!base_.Visible()) surface_.PassFocus(base_);
+  ::ShowWindow(window_, base_.Visible() ? SW_SHOWNA : SW_HIDE);
+}
+
+void WidgetView::Perform(const std::function<void()>& action) {
+  if (!surface_.IsOpen()) return;
+  const Surface::Held held = surface_.Hold();
+  Attempt(action);
+  if (surface_.IsOpen() && window_) Refresh();
+  const Reports& reports = surface_.GetReports();
+  if (surface_.IsOpen() && reports.used) Attempt([&] { reports.used(base_); });
+}
+
+void WidgetView::Attempt(const std::function<void()>& action) {
+  const auto report = [&](const Text& why) {
+    if (surface_.IsOpen() && surface_.GetReports().failed) surface_.GetReports().failed(why);
+  };
+  try {
+    action();
+  } catch (const RunTimeError& error) {
+    report(error.Message());
+  } catch (const std::exception& error) {
+    const std::string words = error.what();
+    report(Text(words.begin(), words.end()));
+  } catch (...) {
+    report(u"A handler failed without telling why.");
+  }
+}
+
+void WidgetView::SetFont(int percent) {
+  const HFONT font = surface_.FontOf(base_.GetFont(), percent);
+  if (reinterpret_cast<HFONT>(Send(WM_GETFONT)) != font) Send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+}
+
+void WidgetView::ShowCaption(int width) {
+  const views::FittedText fitted = views::Fit(base_.Caption(), width, surface_.MeasureOf(base_.GetFont()));
+  SetFont(fitted.percent);
+  surface_.SetToolTip(base_, views::ToolTipWith(fitted.isCut ? base_.Caption() : Text(), base_.ToolTipText()));
+  if (TextOf(window_) == fitted.text) return;
+  ::SetWindowTextW(window_, ToWide(fitted.text).c_str());
+}
+
+}  // namespace ORXKMPrintProp::win32

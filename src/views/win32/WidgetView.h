@@ -1,0 +1,92 @@
+#pragma once
+
+#include <windows.h>
+
+#include <functional>
+#include <optional>
+
+#include "views/win32/Surface.h"
+
+namespace ORXKMPrintProp::win32 {
+
+/// A window's class and style, besides those of every child.
+struct WindowKind {
+  const wchar_t* name;
+  DWORD style;
+  DWORD extendedStyle = 0;
+};
+
+/// Draws one widget of the dialog in a window of the platform's and hands in what the user does with it. It keeps
+/// nothing of the widget's content.
+class WidgetView {
+ public:
+  WidgetView(Surface& surface, Widget& widget) : surface_(surface), base_(widget) {}
+  virtual ~WidgetView() = default;
+  WidgetView(const WidgetView&) = delete;
+  WidgetView& operator=(const WidgetView&) = delete;
+
+  /// Makes the window, which is null before. @throws std::system_error
+  /// @param id by which programs find it in its parent.
+  virtual void Make(HWND parent, int id);
+  HWND Window() const { return window_; }
+  Widget& Shown() const { return base_; }
+
+  /// Puts the window where the widget is, in pixels from the parent's corner.
+  virtual void MoveTo(const views::Place& place);
+  /// Shows all that the widget holds now.
+  virtual void Refresh();
+  /// Shows what has changed; what is not one property's own is shown with all the rest.
+  virtual void Show(WidgetProperty what);
+  virtual void EntryChanged(int /*index*/, EntryProperty) {}
+  virtual void EntryAdded(int /*index*/) {}
+  virtual void EntryRemoved(int /*index*/) {}
+  virtual void EntriesCleared() {}
+
+  /// A notification of the window to its parent. What it leads to is done by `Use`, when the window is done with it.
+  virtual void OnNotify(UINT /*notification*/) {}
+  virtual void Draw(const DRAWITEMSTRUCT&) {}
+  /// What `Surface::PostUse` has asked for.
+  virtual void Use(WPARAM /*what*/) {}
+  /// Ends what the user has begun.
+  virtual void End() {}
+
+  /// Reports a failure, and shows the widget as it is afterwards, whether the action was carried out, refused or
+  /// failed: the only way in for what the user does.
+  void Perform(const std::function<void()>& action);
+
+ protected:
+  virtual WindowKind Kind() const = 0;
+  /// @return none where the window itself is to handle it.
+  virtual std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+
+  /// The same for what changes nothing.
+  void Attempt(const std::function<void()>& action);
+  LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+  void SetFont(int percent = 100);
+  /// Sets the window's text, and its font and tooltip for it to fit.
+  void ShowCaption(int width);
+  SIZE Size() const;
+
+  Surface& surface_;
+
+ private:
+  static LRESULT CALLBACK OnMessageOf(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                      DWORD_PTR view);
+  void ShowEnabled();
+  void ShowVisible();
+
+  Widget& base_;
+  HWND window_ = nullptr;
+};
+
+/// The same of a kind of widget.
+template <class W>
+class ViewOf : public WidgetView {
+ public:
+  ViewOf(Surface& surface, W& widget) : WidgetView(surface, widget), widget_(widget) {}
+
+ protected:
+  W& widget_;
+};
+
+}  // namespace ORXKMPrintProp::win32

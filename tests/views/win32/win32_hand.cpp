@@ -1,0 +1,298 @@
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <chrono>
+#include <cstring>
+#include <stdexcept>
+#include <utility>
+
+#include "host/Utf8.h"
+#include "support/table_text.h"
+#include "views/hand.h"
+#include "views/win32/PrnPropView.h"
+#include "views/win32/WindowsPlatform.h"
+#include "views/win32/WindowsText.h"
+
+namespace ORXKMPrintProp::win32::test {
+namespace {
+
+using namespace ORXKMPrintProp::test;
+
+/// A key by the name that scenarios have for it; a letter by itself.
+struct NamedKey {
+  const char* name;
+  WPARAM virtualKey;
+};
+constexpr NamedKey kModifiers[] = {{"Shift+", VK_SHIFT}, {"Ctrl+", VK_CONTROL}, {"Alt+", VK_MENU}, {"Num+", 0}};
+constexpr NamedKey kKeys[] = {
+    {"Up", VK_UP},       {"Down", VK_DOWN},   {"Left", VK_LEFT},   {"Right", VK_RIGHT},  {"Home", VK_HOME},
+    {"End", VK_END},     {"PgUp", VK_PRIOR},  {"PgDown", VK_NEXT}, {"Space", VK_SPACE},  {"Tab", VK_TAB},
+    {"Backtab", VK_TAB}, {"Return", VK_RETURN}, {"Del", VK_DELETE},  {"Backspace", VK_BACK},
+};
+
+class WindowsHand : public Hand {
+ public:
+  WindowsHand(Dialog& dialog, std::function<void(const std::string& why)> failed)
+      : dialog_(dialog),
+        view_(std::make_unique<PrnPropView>(
+            dialog, window_,
+            Reports{.failed = [failed = std::move(failed)](const Text& why) { failed(host::ToUtf8(why)); },
+                    .left = [this](int) { ::SetFocus(beside_); }})) {
+    ::ShowWindow(view_->Window(), SW_SHOW);
+    ::ShowWindow(window_, SW_SHOW);
+    ::SetForegroundWindow(window_);
+    ::SetFocus(beside_);
+    Pump();
+  }
+  ~WindowsHand() override {
+    Pump();
+    view_.reset();
+    ::DestroyWindow(window_);
+  }
+
+  void Use(Mouse mouse, const Widget& widget, int entry, Button button) override {
+    static constexpr WPARAM kFlags[] = {MK_LBUTTON, MK_RBUTTON, MK_MBUTTON};
+    static constexpr UINT kMessages[][3] = {{WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, WM_LBUTTONUP},
+                                            {WM_RBUTTONDOWN, WM_RBUTTONDBLCLK, WM_RBUTTONUP},
+                                            {WM_MBUTTONDOWN, WM_MBUTTONDBLCLK, WM_MBUTTONUP}};
+    const HWND list = WindowOf(widget);
+    const auto which = static_cast<std::size_t>(button);
+    if (mouse != Mouse::Move) held_ = mouse == Mouse::Release ? held_ & ~kFlags[which] : held_ | kFlags[which];
+    const UINT message = mouse == Mouse::Move      ? WM_MOUSEMOVE
+                         : mouse == Mouse::Press   ? kMessages[which][0]
+                         : mouse == Mouse::Release ? kMessages[which][2]
+                                                   : kMessages[which][1];
+    if (::IsWindowEnabled(list)) ::SendMessageW(list, message, held_, PointOf(list, entry));
+    Pump();
+  }
+  void Click(const Widget& widget) override {
+    const HWND window = WindowOf(widget);
+    RECT inside{};
+    ::GetClientRect(window, &inside);
+    ClickAt(window, {8, inside.bottom / 2});
+    Pump();
+    read_ = {};
+  }
+  void ClickTab(int tab) override {
+    const HWND tabs = WindowOf(dialog_.TabStrip());
+    RECT place{};
+    TabCtrl_GetItemRect(tabs, tab, &place);
+    ClickAt(tabs, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+    Pump();
+  }
+  void PickEntry(const Widget& widget, int entry) override {
+    const HWND combo = WindowOf(widget);
+    Key(widget, "F4");
+    if (!::SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0)) return;
+    COMBOBOXINFO parts{};
+    parts.cbSize = sizeof parts;
+    ::GetComboBoxInfo(combo, &parts);
+    RECT place{};
+    ::SendMessageW(parts.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&place));
+    const POINT at{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
+    ::SendMessageW(parts.hwndList, WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y));
+    ClickAt(parts.hwndList, at);
+    Pump();
+  }
+  void Key(const Widget& widget, const std::string& key) override {
+    const HWND window = WindowOf(widget);
+    if (!::IsWindowEnabled(window)) return;
+    std::array<BYTE, 256> state{};
+    std::string name = key;
+    for (bool found = true; std::exchange(found, false);) {
+      for (const NamedKey& modifier : kModifiers) {
+        if (!name.starts_with(modifier.name)) continue;
+        if (modifier.virtualKey) state[modifier.virtualKey] = 0x80;
+        name.erase(0, std::strlen(modifier.name));
+        found = true;
+      }
+    }
+    const WPARAM virtualKey = VirtualKeyOf(name, state);
+    ::SetKeyboardState(state.data());
+    const bool isSystem = state[VK_MENU] != 0;
+    ::PostMessageW(window, isSystem ? WM_SYSKEYDOWN : WM_KEYDOWN, virtualKey, isSystem ? 0x20000001 : 1);
+    Pump();
+    ::PostMessageW(window, isSystem ? WM_SYSKEYUP : WM_KEYUP, virtualKey, static_cast<LPARAM>(0xC0000001u));
+    Pump();
+    state.fill(0);
+    ::SetKeyboardState(state.data());
+  }
+  void Type(const Widget& box, const std::string& text) override {
+    Key(box, "End");
+    if (!::IsWindowEnabled(WindowOf(box))) return;
+    for (const char16_t character : Wide(text)) ::SendMessageW(WindowOf(box), WM_CHAR, character, 1);
+    Pump();
+  }
+  void PutIntoClipboard(const std::string& text) override {
+    const std::wstring wide = ToWide(Wide(text));
+    const HGLOBAL held = ::GlobalAlloc(GMEM_MOVEABLE, (wide.size() + 1) * sizeof(wchar_t));
+    std::memcpy(::GlobalLock(held), wide.c_str(), (wide.size() + 1) * sizeof(wchar_t));
+    ::GlobalUnlock(held);
+    ::OpenClipboard(window_);
+    ::EmptyClipboard();
+    ::SetClipboardData(CF_UNICODETEXT, held);
+    ::CloseClipboard();
+  }
+  void CloseMessage(std::function<void(const std::string& words)> read) override { read_ = std::move(read); }
+
+  void Focus(const Widget& widget) override { ::SetFocus(WindowOf(widget)); }
+  const Widget* Focused() const override { return WidgetOf(::GetFocus()); }
+
+  void See(const Widget& widget, Json& state) const override {
+    const HWND window = WindowOf(widget);
+    const auto send = [&](UINT message, int number = 0, void* place = nullptr) {
+      return static_cast<int>(
+          ::SendMessageW(window, message, static_cast<WPARAM>(number), reinterpret_cast<LPARAM>(place)));
+    };
+    const auto style = ::GetWindowLongPtrW(window, GWL_STYLE);
+    state["visible"] = (style & WS_VISIBLE) != 0;
+    state["enabled"] = (style & WS_DISABLED) == 0;
+    const WidgetKind kind = widget.Row().kind;
+    if (kind == WidgetKind::ListBox || kind == WidgetKind::ComboBox) {
+      const bool isList = kind == WidgetKind::ListBox;
+      state["items"] = Json::array();
+      for (int i = 0; i < send(isList ? LB_GETCOUNT : CB_GETCOUNT); ++i) {
+        std::wstring text(static_cast<std::size_t>(send(isList ? LB_GETTEXTLEN : CB_GETLBTEXTLEN, i)) + 1, L'\0');
+        send(isList ? LB_GETTEXT : CB_GETLBTEXT, i, text.data());
+        text.pop_back();
+        Json item{{"text", host::ToUtf8(ToText(text))}};
+        if (isList) item["selected"] = send(LB_GETSEL, i) > 0;
+        state["items"].push_back(item);
+      }
+      state["listIndex"] = send(isList ? LB_GETCARETINDEX : CB_GETCURSEL);
+    }
+    if (kind == WidgetKind::TextBox) state["text"] = host::ToUtf8(win32::TextOf(window));
+    if (kind == WidgetKind::CheckBox) state["value"] = send(BM_GETCHECK) == BST_CHECKED ? 1 : 0;
+    if (kind == WidgetKind::SSTab) state["tab"] = send(TCM_GETCURSEL);
+  }
+  bool IsInSight(const Widget& widget, int entry) const override {
+    const HWND list = WindowOf(widget);
+    RECT inside{}, place{};
+    ::GetClientRect(list, &inside);
+    ::SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&place));
+    return ::PtInRect(&inside, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+  }
+  std::int16_t Pointer() const override {
+    ::SetCursor(::LoadCursorW(nullptr, IDC_WAIT));
+    ::SendMessageW(view_->Window(), WM_SETCURSOR, reinterpret_cast<WPARAM>(view_->Window()), HTCLIENT);
+    const HCURSOR pointer = ::GetCursor();
+    if (pointer == ::LoadCursorW(nullptr, IDC_ARROW)) return Dialog::kDefaultPointer;
+    ICONINFO icon{};
+    ::GetIconInfo(pointer, &icon);
+    ::DeleteObject(icon.hbmMask);
+    EXPECT_EQ(icon.xHotspot, static_cast<DWORD>(MouseIcon().hotSpotX));
+    EXPECT_EQ(icon.yHotspot, static_cast<DWORD>(MouseIcon().hotSpotY));
+    return Dialog::kDragPointer;
+  }
+  bool WaitUntil(const std::function<bool()>& isSo) override {
+    constexpr int kSteps = 500;
+    for (int i = 0; i < kSteps; ++i) {
+      if (isSo()) return true;
+      ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_ALLINPUT);
+      Pump();
+    }
+    return false;
+  }
+
+ private:
+  struct Wanted {
+    int id;
+    HWND found;
+  };
+  HWND WindowOf(const Widget& widget) const {
+    const auto& all = dialog_.Controls();
+    for (std::size_t i = 0; i < all.size(); ++i) {
+      if (all[i].get() != &widget) continue;
+      Wanted wanted{static_cast<int>(i) + 1, nullptr};
+      const auto look = [](HWND window, LPARAM place) -> BOOL {
+        auto& looked = *reinterpret_cast<Wanted*>(place);
+        if (::GetDlgCtrlID(window) == looked.id) looked.found = window;
+        return !looked.found;
+      };
+      ::EnumChildWindows(view_->Window(), look, reinterpret_cast<LPARAM>(&wanted));
+      if (wanted.found) return wanted.found;
+    }
+    throw std::runtime_error("no window for " + host::ToUtf8(widget.Row().name.Spelled()));
+  }
+  const Widget* WidgetOf(HWND window) const {
+    const auto& all = dialog_.Controls();
+    const int id = window ? ::GetDlgCtrlID(window) : 0;
+    if (id <= 0 || id > static_cast<int>(all.size()) || !::IsChild(view_->Window(), window)) return nullptr;
+    return all[static_cast<std::size_t>(id) - 1].get();
+  }
+  static WPARAM VirtualKeyOf(const std::string& name, std::array<BYTE, 256>& state) {
+    for (const NamedKey& key : kKeys) {
+      if (name != key.name) continue;
+      if (name == "Backtab") state[VK_SHIFT] = 0x80;
+      return key.virtualKey;
+    }
+    if (name == "F4") return VK_F4;
+    // Of a letter the key is meant, not what it types with Shift.
+    const SHORT key = ::VkKeyScanW(static_cast<wchar_t>(std::tolower(name[0])));
+    if (key & 0x100) state[VK_SHIFT] = 0x80;
+    return static_cast<WPARAM>(key & 0xFF);
+  }
+  static LPARAM PointOf(HWND list, int entry) {
+    RECT inside{}, place{};
+    ::GetClientRect(list, &inside);
+    const bool isThere = entry >= 0 && entry < ::SendMessageW(list, LB_GETCOUNT, 0, 0);
+    ::SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&place));
+    const int y = isThere ? (place.top + place.bottom) / 2 : entry < 0 ? -30 : inside.bottom + 30;
+    return MAKELPARAM(20, y);
+  }
+  static void ClickAt(HWND window, POINT at) {
+    if (!::IsWindowEnabled(window)) return;
+    ::SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
+    ::SendMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
+  }
+  void Pump() {
+    MSG message{};
+    if (read_) timer_ = ::SetTimer(window_, 1, 20, nullptr);
+    gHand = this;
+    const HHOOK hook = ::SetWindowsHookExW(WH_MSGFILTER, CloseBox, nullptr, ::GetCurrentThreadId());
+    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+      ::TranslateMessage(&message);
+      ::DispatchMessageW(&message);
+    }
+    ::UnhookWindowsHookEx(hook);
+    ::KillTimer(window_, 1);
+  }
+  /// In the loop of a message box, which the timer wakes.
+  static LRESULT CALLBACK CloseBox(int code, WPARAM, LPARAM) {
+    const HWND box = ::GetLastActivePopup(gHand->window_);
+    if (code != MSGF_DIALOGBOX || !gHand->read_ || box == gHand->window_) return 0;
+    std::exchange(gHand->read_, {})(
+        host::ToUtf8(win32::TextOf(box) + u": " + win32::TextOf(::GetDlgItem(box, 0xFFFF))));
+    ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+    return 0;
+  }
+
+  static inline WindowsHand* gHand = nullptr;
+
+  Dialog& dialog_;
+  HWND window_ = ::CreateWindowExW(0, L"STATIC", L"hand", WS_OVERLAPPEDWINDOW, 20, 20, 760, 460, nullptr, nullptr,
+                                   nullptr, nullptr);
+  HWND beside_ = ::CreateWindowExW(0, L"BUTTON", L"beside", WS_CHILD | WS_VISIBLE, 660, 10, 60, 20, window_, nullptr,
+                                   nullptr, nullptr);
+  std::unique_ptr<PrnPropView> view_;
+  WPARAM held_ = 0;
+  UINT_PTR timer_ = 0;
+  std::function<void(const std::string& words)> read_;
+};
+
+}  // namespace
+}  // namespace ORXKMPrintProp::win32::test
+
+namespace ORXKMPrintProp::test {
+
+std::unique_ptr<Hand> MakeHand(Dialog& dialog, std::function<void(const std::string& why)> failed) {
+  return std::make_unique<win32::test::WindowsHand>(dialog, std::move(failed));
+}
+
+const Platform& PlatformUnderTest() { return win32::WindowsPlatform::Instance(); }
+
+}  // namespace ORXKMPrintProp::test
