@@ -5,9 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <chrono>
+#include <cctype>
 #include <cstring>
-#include <stdexcept>
 #include <utility>
 
 #include "host/Utf8.h"
@@ -16,6 +15,7 @@
 #include "views/win32/PrnPropView.h"
 #include "views/win32/WindowsPlatform.h"
 #include "views/win32/WindowsText.h"
+#include "views/win32/windows_of.h"
 
 namespace ORXKMPrintProp::win32::test {
 namespace {
@@ -140,7 +140,7 @@ class WindowsHand : public Hand {
   void CloseMessage(std::function<void(const std::string& words)> read) override { read_ = std::move(read); }
 
   void Focus(const Widget& widget) override { ::SetFocus(WindowOf(widget)); }
-  const Widget* Focused() const override { return WidgetOf(::GetFocus()); }
+  const Widget* Focused() const override { return WidgetOf(view_->Window(), dialog_, ::GetFocus()); }
 
   void See(const Widget& widget, Json& state) const override {
     const HWND window = WindowOf(widget);
@@ -199,31 +199,7 @@ class WindowsHand : public Hand {
   }
 
  private:
-  struct Wanted {
-    int id;
-    HWND found;
-  };
-  HWND WindowOf(const Widget& widget) const {
-    const auto& all = dialog_.Controls();
-    for (std::size_t i = 0; i < all.size(); ++i) {
-      if (all[i].get() != &widget) continue;
-      Wanted wanted{static_cast<int>(i) + 1, nullptr};
-      const auto look = [](HWND window, LPARAM place) -> BOOL {
-        auto& looked = *reinterpret_cast<Wanted*>(place);
-        if (::GetDlgCtrlID(window) == looked.id) looked.found = window;
-        return !looked.found;
-      };
-      ::EnumChildWindows(view_->Window(), look, reinterpret_cast<LPARAM>(&wanted));
-      if (wanted.found) return wanted.found;
-    }
-    throw std::runtime_error("no window for " + host::ToUtf8(widget.Row().name.Spelled()));
-  }
-  const Widget* WidgetOf(HWND window) const {
-    const auto& all = dialog_.Controls();
-    const int id = window ? ::GetDlgCtrlID(window) : 0;
-    if (id <= 0 || id > static_cast<int>(all.size()) || !::IsChild(view_->Window(), window)) return nullptr;
-    return all[static_cast<std::size_t>(id) - 1].get();
-  }
+  HWND WindowOf(const Widget& widget) const { return test::WindowOf(view_->Window(), dialog_, widget); }
   static WPARAM VirtualKeyOf(const std::string& name, std::array<BYTE, 256>& state) {
     for (const NamedKey& key : kKeys) {
       if (name != key.name) continue;
@@ -250,14 +226,10 @@ class WindowsHand : public Hand {
     ::SendMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
   }
   void Pump() {
-    MSG message{};
-    if (read_) timer_ = ::SetTimer(window_, 1, 20, nullptr);
+    if (read_) ::SetTimer(window_, 1, 20, nullptr);
     gHand = this;
     const HHOOK hook = ::SetWindowsHookExW(WH_MSGFILTER, CloseBox, nullptr, ::GetCurrentThreadId());
-    while (::PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-      ::TranslateMessage(&message);
-      ::DispatchMessageW(&message);
-    }
+    test::Pump();
     ::UnhookWindowsHookEx(hook);
     ::KillTimer(window_, 1);
   }
@@ -280,7 +252,6 @@ class WindowsHand : public Hand {
                                    nullptr, nullptr);
   std::unique_ptr<PrnPropView> view_;
   WPARAM held_ = 0;
-  UINT_PTR timer_ = 0;
   std::function<void(const std::string& words)> read_;
 };
 
