@@ -10,7 +10,6 @@
 #include <vector>
 
 #include "host/Check.h"
-#include "host/Drive.h"
 #include "host/ExitStatus.h"
 #include "host/Files.h"
 #include "host/Load.h"
@@ -64,10 +63,7 @@ void AddReadback(CLI::App& program) {
 void AddDrive(CLI::App& program, int& status) {
   const auto options = std::make_shared<DriveOptions>();
   CLI::App* const drive = program.add_subcommand("drive", "Does to the dialog what a script says, without a window");
-  drive->add_option("SETTINGS", options->settings, "Settings document")->required();
-  drive->add_option("--texts", options->texts, "Document whose text table is used")->type_name("FILE");
-  drive->add_flag("--read-only", options->readOnly, "The dialog takes no change");
-  drive->add_option("SCRIPT", options->script, "Actions, a line each, instead of standard input");
+  AddDriveArguments(*drive, *options);
   drive->callback([options, &status] { status = Drive(*options, std::cout, std::cerr); });
 }
 
@@ -103,6 +99,13 @@ int Run(int argc, char** argv, const AddCommands& addCommands) {
 }
 
 }  // namespace
+
+void AddDriveArguments(CLI::App& command, DriveOptions& options) {
+  command.add_option("SETTINGS", options.settings, "Settings document")->required();
+  command.add_option("--texts", options.texts, "Document whose text table is used")->type_name("FILE");
+  command.add_flag("--read-only", options.readOnly, "The dialog takes no change");
+  command.add_option("SCRIPT", options.script, "Actions, a line each, instead of standard input");
+}
 
 int RunProgram(int argc, char** argv, const AddCommands& addCommands) {
   // What can't be written is told at once, while the system's reason is known; a message must not run into it.

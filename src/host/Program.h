@@ -2,11 +2,16 @@
 
 #include <functional>
 
+#include "host/Drive.h"
+
 namespace CLI {
 class App;
 }
 
 namespace ORXKMPrintProp::host {
+
+/// What `drive` takes on the command line, for a program of its own, too. @param options must outlive the command.
+void AddDriveArguments(CLI::App& command, DriveOptions& options);
 
 /// Adds commands to the program's own. What a command ends with, its callback puts into `status`, as an ExitStatus.
 using AddCommands = std::function<void(CLI::App& program, int& status)>;
