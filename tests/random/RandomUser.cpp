@@ -256,10 +256,11 @@ void RandomUser::Read(bool isMidway) {
 }
 
 void RandomUser::SetLayout() {
-  const int button = random_.Below(5);
-  Log("# layout " + std::to_string(button));
-  control_.ORXSetPrintLayout(random_.Of<Text>({u"", u"L1"}), std::int32_t{button},
-                             random_.Of<Text>({u"C1", u"c2", u""}));
+  const std::int32_t button = random_.Below(5);
+  const Text layout = random_.Of<Text>({u"", u"L1"});
+  const Text characteristic = random_.Of<Text>({u"C1", u"c2", u""});
+  Log("# layout " + std::to_string(button) + " \"" + ToAscii(characteristic) + "\" \"" + ToAscii(layout) + "\"");
+  control_.ORXSetPrintLayout(layout, button, characteristic);
 }
 
 void RandomUser::Check() {

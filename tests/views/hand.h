@@ -20,7 +20,7 @@ class Hand {
 
   virtual ~Hand() = default;
 
-  /// `PressAgain` is the second press of a double click.
+  /// `PressAgain` is the second press of a double click. An entry out of sight is scrolled to first.
   virtual void Use(Mouse mouse, const Widget& list, int entry, Button button) = 0;
   /// On a check box or a button.
   virtual void Click(const Widget& widget) = 0;
@@ -29,10 +29,11 @@ class Hand {
   virtual void PickEntry(const Widget& combo, int entry) = 0;
   /// A key with its modifiers: "Alt+Up", "PgDown", "Ctrl+Shift+Backtab", "Num+9".
   virtual void Key(const Widget& widget, const std::string& key) = 0;
+  /// Presses a key for each character, at the end of the field; `\b` is Backspace.
   virtual void Type(const Widget& box, const std::string& text) = 0;
   virtual void PutIntoClipboard(const std::string& text) = 0;
-  /// The next message box is closed by its button. @param read gets its title and text.
-  virtual void CloseMessage(std::function<void(const std::string& words)> read) = 0;
+  /// The next message box is closed by its button. @param read gets what it says.
+  virtual void CloseMessage(std::function<void(const std::string& title, const std::string& text)> read) = 0;
 
   virtual void Focus(const Widget& widget) = 0;
   /// The widget that has the focus, null when none of the dialog has it.
@@ -47,9 +48,11 @@ class Hand {
 
   /// Lets time go by until it is so. @return False when it is not after some seconds.
   virtual bool WaitUntil(const std::function<bool()>& isSo) = 0;
+  /// What the view has put off until its events are dealt with is done.
+  virtual void Settle() = 0;
 };
 
-/// The view under test. @param failed hears what the view reports.
+/// The view under test. @param failed hears what the view reports, while the exception is handled.
 std::unique_ptr<Hand> MakeHand(Dialog& dialog, std::function<void(const std::string& why)> failed);
 /// The platform that a host of such a view makes its control with.
 const Platform& PlatformUnderTest();

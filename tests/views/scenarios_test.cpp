@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
-
-#include "host/SettingsDocument.h"
 #include "host/WidgetState.h"
 #include "support/stage.h"
 #include "support/widget_text.h"
@@ -77,7 +74,7 @@ void ViewStage::Paste(const Widget& box, const std::string& text) {
 }
 
 void ViewStage::Press(const Widget& button) {
-  hand->CloseMessage([this](const std::string& words) { Tell(words); });
+  hand->CloseMessage([this](const std::string& title, const std::string& text) { Tell(title + ": " + text); });
   hand->Click(button);
 }
 
@@ -108,24 +105,6 @@ void ViewStage::Walk(const Widget& from, const std::string& key) {
 
 TEST(View, ShowsWhatAUserDoes) {
   PlayTranscript(PRNPROP_SCENARIOS, [] { return std::make_unique<ViewStage>(); });
-}
-
-/// What is told of a script that uses all pages.
-std::vector<std::string> TellAllPages(Stage& stage) {
-  const auto document = host::ReadSettings(PRNPROP_EXAMPLES "/sales.json");
-  stage.Control().ORXSetPrnTables(document.general, document.dimension, document.member, document.attribute);
-  std::ifstream script(PRNPROP_SCRIPT);
-  std::vector<std::string> told;
-  for (std::string line; std::getline(script, line);) told.push_back(line + "\n" + stage.Play(line));
-  return told;
-}
-
-TEST(View, LetsAHandDoWhatIsDoneWithoutOne) {
-  ViewStage byHand;
-  const auto told = TellAllPages(byHand);
-  ReleaseSharedValues();
-  Stage without(PlatformUnderTest());
-  EXPECT_EQ(told, TellAllPages(without));
 }
 
 /// With handlers that do what those of the pages never do. Of the state the lists of the characteristics are told.

@@ -1,7 +1,5 @@
 #include "qt_hand.h"
 
-#include <gtest/gtest.h>
-
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
@@ -16,6 +14,7 @@
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
+#include <QWheelEvent>
 #include <utility>
 
 #include "host/Utf8.h"
@@ -43,6 +42,7 @@ class QtHand : public ORXKMPrintProp::test::Hand {
     static constexpr Qt::MouseButton kButtons[] = {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton};
     const auto cause = mouse == Mouse::Move ? Qt::NoButton : kButtons[static_cast<int>(button)];
     const auto& list = GlassOf<QListView>(widget);
+    ScrollTo(list, entry);
     const QPoint at = PointOf(list, entry);
     held_.setFlag(cause, mouse != Mouse::Release);
     QMouseEvent event(kTypes[static_cast<int>(mouse)], at, list.viewport()->mapToGlobal(at), cause, held_, {});
@@ -57,6 +57,7 @@ class QtHand : public ORXKMPrintProp::test::Hand {
     auto& combo = GlassOf<QComboBox>(widget);
     QTest::keyClick(&combo, Qt::Key_F4);
     if (!combo.view()->isVisible()) return;
+    ScrollTo(*combo.view(), entry);
     const QRect place = combo.view()->visualRect(combo.model()->index(entry, 0));
     QTest::mouseClick(combo.view()->viewport(), Qt::LeftButton, {}, place.center());
   }
@@ -65,17 +66,25 @@ class QtHand : public ORXKMPrintProp::test::Hand {
     QTest::keySequence(&glass, QKeySequence(QString::fromStdString(key)));
   }
   void Type(const Widget& box, const std::string& text) override {
-    QTest::keyClick(&GlassOf(box), Qt::Key_End);
-    QTest::keyClicks(&GlassOf(box), QString::fromStdString(text));
+    QWidget& glass = GlassOf(box);
+    QTest::keyClick(&glass, Qt::Key_End);
+    for (const char32_t key : QString::fromStdString(text).toUcs4()) {
+      if (key == TextBox::kBackspace) {
+        QTest::keyClick(&glass, Qt::Key_Backspace);
+      } else {
+        QTest::sendKeyEvent(QTest::Click, &glass, static_cast<Qt::Key>(QChar::toUpper(key)), QString::fromUcs4(&key, 1),
+                            Qt::NoModifier);
+      }
+    }
   }
   void PutIntoClipboard(const std::string& text) override {
     QApplication::clipboard()->setText(QString::fromStdString(text));
   }
-  void CloseMessage(std::function<void(const std::string& words)> read) override {
+  void CloseMessage(std::function<void(const std::string& title, const std::string& text)> read) override {
     QTimer::singleShot(0, &view_, [read = std::move(read)] {
       auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
       if (!box) return;
-      read((box->windowTitle() + QStringLiteral(": ") + box->text()).toStdString());
+      read(box->windowTitle().toStdString(), box->text().toStdString());
       QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
     });
   }
@@ -109,16 +118,18 @@ class QtHand : public ORXKMPrintProp::test::Hand {
     if (const auto* check = qobject_cast<const QCheckBox*>(&glass)) state["value"] = check->isChecked() ? 1 : 0;
     if (state.contains("tab")) state["tab"] = Tabs().currentIndex();
   }
-  bool IsInSight(const Widget& widget, int entry) const override {
-    const auto& list = GlassOf<QListView>(widget);
-    return list.viewport()->rect().contains(list.visualRect(list.model()->index(entry, 0)).center());
-  }
+  bool IsInSight(const Widget& widget, int entry) const override { return Contains(GlassOf<QListView>(widget), entry); }
   std::int16_t Pointer() const override {
     if (view_.cursor().shape() == Qt::ArrowCursor) return Dialog::kDefaultPointer;
-    EXPECT_EQ(view_.cursor().hotSpot(), QPoint(MouseIcon().hotSpotX, MouseIcon().hotSpotY));
-    return Dialog::kDragPointer;
+    const bool isDrag = view_.cursor().hotSpot() == QPoint(MouseIcon().hotSpotX, MouseIcon().hotSpotY);
+    return isDrag ? Dialog::kDragPointer : std::int16_t{-1};
   }
   bool WaitUntil(const std::function<bool()>& isSo) override { return QTest::qWaitFor(isSo); }
+  void Settle() override {
+    bool isLast = false;
+    QTimer::singleShot(0, &view_, [&] { isLast = true; });
+    while (!isLast) QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  }
 
  private:
   template <class QtWidget = QWidget>
@@ -127,6 +138,21 @@ class QtHand : public ORXKMPrintProp::test::Hand {
   }
   QTabBar& Tabs() const { return *view_.findChild<QTabBar*>(); }
 
+  static bool Contains(const QAbstractItemView& list, int entry) {
+    return list.viewport()->rect().contains(list.visualRect(list.model()->index(entry, 0)).center());
+  }
+  /// Turns the wheel until the entry is seen.
+  static void ScrollTo(const QAbstractItemView& list, int entry) {
+    constexpr int kNotch = 120;
+    if (entry < 0 || entry >= list.model()->rowCount()) return;
+    for (int notches = list.model()->rowCount(); !Contains(list, entry) && notches > 0; --notches) {
+      const bool isAbove = list.visualRect(list.model()->index(entry, 0)).center().y() < 0;
+      const QPoint at = list.viewport()->rect().center();
+      QWheelEvent event(at, list.viewport()->mapToGlobal(at), {}, {0, isAbove ? kNotch : -kNotch}, {}, {},
+                        Qt::NoScrollPhase, false);
+      QApplication::sendEvent(list.viewport(), &event);
+    }
+  }
   static QPoint PointOf(const QListView& list, int entry) {
     if (entry < 0) return {20, -30};
     if (entry >= list.model()->rowCount()) return {20, list.viewport()->height() + 30};
