@@ -68,17 +68,17 @@ class QtHand : public ORXKMPrintProp::test::Hand {
   void Type(const Widget& box, const std::string& text) override {
     QWidget& glass = GlassOf(box);
     QTest::keyClick(&glass, Qt::Key_End);
-    for (const char32_t key : QString::fromStdString(text).toUcs4()) {
+    for (const char32_t key : ToQString(host::FromUtf8(text)).toUcs4()) {
       if (key == TextBox::kBackspace) {
         QTest::keyClick(&glass, Qt::Key_Backspace);
       } else {
-        QTest::sendKeyEvent(QTest::Click, &glass, static_cast<Qt::Key>(QChar::toUpper(key)), QString::fromUcs4(&key, 1),
-                            Qt::NoModifier);
+        QTest::sendKeyEvent(QTest::Click, &glass, static_cast<Qt::Key>(QChar::toUpper(key)),
+                            QStringView(QChar::fromUcs4(key)).toString(), Qt::NoModifier);
       }
     }
   }
   void PutIntoClipboard(const std::string& text) override {
-    QApplication::clipboard()->setText(QString::fromStdString(text));
+    QApplication::clipboard()->setText(ToQString(host::FromUtf8(text)));
   }
   void CloseMessage(std::function<void(const std::string& title, const std::string& text)> read) override {
     QTimer::singleShot(0, &view_, [read = std::move(read)] {
