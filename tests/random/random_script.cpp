@@ -25,7 +25,7 @@ MemoryTableRef InMemory(const TableRef& table) { return std::dynamic_pointer_cas
 
 class ScriptWriter {
  public:
-  explicit ScriptWriter(const std::string& folder) : folder_(folder), script_(folder + "/random.drive") {
+  explicit ScriptWriter(const std::string& folder) : folder_(folder), script_(folder + "/random.drive", std::ios::binary) {
     Save("empty.json", "{}");
     script_ << "# prnprop drive empty.json random.drive\n";
   }
@@ -84,7 +84,7 @@ class ScriptWriter {
     return Save("texts-" + seed + ".json", host::ToJson(document));
   }
   std::string Save(const std::string& name, const std::string& json) {
-    std::ofstream(folder_ + "/" + name) << json;
+    std::ofstream(folder_ + "/" + name, std::ios::binary) << json;
     return name;
   }
 

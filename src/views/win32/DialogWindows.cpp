@@ -317,6 +317,7 @@ LRESULT DialogWindows::OnMessage(HWND window, UINT message, WPARAM wParam, LPARA
       Resolution({dpi, dpi});
       for (const auto& [widget, view] : views_) view->Refresh();
       Arrange();
+      toolTips_.clear();
       for (const auto& [widget, view] : views_) view->Refresh();
       return 0;
     }
@@ -377,17 +378,24 @@ void DialogWindows::PostUse(Widget& widget, WPARAM what) {
   ::PostMessageW(window_, kUse, what, reinterpret_cast<LPARAM>(&widget));
 }
 
-/// Each is told for a place in the panel, so that those of disabled windows, which hear of no mouse, are found too.
 void DialogWindows::SetToolTip(const Widget& widget, const Text& text) {
   const auto [told, isNew] = toolTips_.try_emplace(&widget);
   if (!isNew && told->second == text) return;
   told->second = text;
-  std::wstring wide = ToWide(text);
+  AddTool(widget);
+  // Of several at one place the first is shown: those in a frame are to come ahead of its own.
+  const Widget* const around = dialog_.Find({widget.Row().parent});
+  if (around && toolTips_.contains(around)) AddTool(*around);
+}
+
+/// Each is told for a place in the panel, so that those of disabled windows, which hear of no mouse, are found too.
+void DialogWindows::AddTool(const Widget& widget) {
+  std::wstring text = ToWide(toolTips_[&widget]);
   TTTOOLINFOW tool{};
   tool.cbSize = TTTOOLINFOW_V1_SIZE;
   tool.hwnd = PanelOf(widget.Row());
   tool.uId = reinterpret_cast<UINT_PTR>(&widget);
-  tool.lpszText = wide.data();
+  tool.lpszText = text.data();
   ::GetWindowRect(ViewFor(widget).Window(), &tool.rect);
   ::MapWindowPoints(nullptr, tool.hwnd, reinterpret_cast<POINT*>(&tool.rect), 2);
   ::SendMessageW(toolTip_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));

@@ -40,6 +40,7 @@ class DialogWindows final : public Surface, public std::enable_shared_from_this<
   void Arrange();
   void SpeakNames(const Widget* changed);
   void BringUp();
+  void AddTool(const Widget& widget);
 
   WidgetView* ViewOf(HWND window) const;
   WidgetView& ViewFor(const Widget& widget) const { return *views_.at(&widget); }

@@ -61,7 +61,18 @@ LRESULT TextBoxView::TakeCharacter(wchar_t character, LPARAM lParam) {
   auto key = static_cast<char16_t>(character);
   if (isBackspace || !IsControl(character)) Attempt([&] { key = widget_.FilterKey(key); });
   if (key == 0 || (isBackspace && key < u' ' && key != TextBox::kBackspace)) return 0;
+  if (key == TextBox::kBackspace) SelectPairAhead();
   return ::DefSubclassProc(Window(), WM_CHAR, key, lParam);
+}
+
+/// Both halves of a character go at once.
+void TextBoxView::SelectPairAhead() {
+  DWORD begin = 0, end = 0;
+  Send(EM_GETSEL, reinterpret_cast<WPARAM>(&begin), reinterpret_cast<LPARAM>(&end));
+  const Text text = TextOf(Window());
+  if (begin != end || end < 2 || end > text.size()) return;
+  const bool isPair = IS_SURROGATE_PAIR(text[end - 2], text[end - 1]);
+  if (isPair) Send(EM_SETSEL, end - 2, static_cast<LPARAM>(end));
 }
 
 }  // namespace ORXKMPrintProp::win32

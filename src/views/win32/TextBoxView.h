@@ -16,6 +16,7 @@ class TextBoxView : public ViewOf<TextBox> {
   std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
  private:
+  void SelectPairAhead();
   LRESULT TakeCharacter(wchar_t character, LPARAM lParam);
 
   bool isShowing_ = false;  ///< what changes now is not what the user has typed

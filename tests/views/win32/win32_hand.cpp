@@ -2,15 +2,12 @@
 
 #include <commctrl.h>
 
-#include <gtest/gtest.h>
-
 #include <array>
 #include <cctype>
 #include <cstring>
 #include <utility>
 
 #include "host/Utf8.h"
-#include "support/table_text.h"
 #include "views/hand.h"
 #include "views/win32/PrnPropView.h"
 #include "views/win32/WindowsPlatform.h"
@@ -36,6 +33,8 @@ constexpr NamedKey kKeys[] = {
 
 class WindowsHand : public Hand {
  public:
+  using Read = std::function<void(const std::string& title, const std::string& text)>;
+
   WindowsHand(Dialog& dialog, std::function<void(const std::string& why)> failed)
       : dialog_(dialog),
         view_(std::make_unique<PrnPropView>(
@@ -60,6 +59,7 @@ class WindowsHand : public Hand {
                                             {WM_RBUTTONDOWN, WM_RBUTTONDBLCLK, WM_RBUTTONUP},
                                             {WM_MBUTTONDOWN, WM_MBUTTONDBLCLK, WM_MBUTTONUP}};
     const HWND list = WindowOf(widget);
+    ScrollTo(list, entry);
     const auto which = static_cast<std::size_t>(button);
     if (mouse != Mouse::Move) held_ = mouse == Mouse::Release ? held_ & ~kFlags[which] : held_ | kFlags[which];
     const UINT message = mouse == Mouse::Move      ? WM_MOUSEMOVE
@@ -92,6 +92,7 @@ class WindowsHand : public Hand {
     parts.cbSize = sizeof parts;
     ::GetComboBoxInfo(combo, &parts);
     RECT place{};
+    ScrollTo(parts.hwndList, entry);
     ::SendMessageW(parts.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&place));
     const POINT at{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
     ::SendMessageW(parts.hwndList, WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y));
@@ -124,11 +125,11 @@ class WindowsHand : public Hand {
   void Type(const Widget& box, const std::string& text) override {
     Key(box, "End");
     if (!::IsWindowEnabled(WindowOf(box))) return;
-    for (const char16_t character : Wide(text)) ::SendMessageW(WindowOf(box), WM_CHAR, character, 1);
+    for (const char16_t character : host::FromUtf8(text)) ::SendMessageW(WindowOf(box), WM_CHAR, character, 1);
     Pump();
   }
   void PutIntoClipboard(const std::string& text) override {
-    const std::wstring wide = ToWide(Wide(text));
+    const std::wstring wide = ToWide(host::FromUtf8(text));
     const HGLOBAL held = ::GlobalAlloc(GMEM_MOVEABLE, (wide.size() + 1) * sizeof(wchar_t));
     std::memcpy(::GlobalLock(held), wide.c_str(), (wide.size() + 1) * sizeof(wchar_t));
     ::GlobalUnlock(held);
@@ -137,7 +138,7 @@ class WindowsHand : public Hand {
     ::SetClipboardData(CF_UNICODETEXT, held);
     ::CloseClipboard();
   }
-  void CloseMessage(std::function<void(const std::string& words)> read) override { read_ = std::move(read); }
+  void CloseMessage(Read read) override { read_ = std::move(read); }
 
   void Focus(const Widget& widget) override { ::SetFocus(WindowOf(widget)); }
   const Widget* Focused() const override { return WidgetOf(view_->Window(), dialog_, ::GetFocus()); }
@@ -169,13 +170,7 @@ class WindowsHand : public Hand {
     if (kind == WidgetKind::CheckBox) state["value"] = send(BM_GETCHECK) == BST_CHECKED ? 1 : 0;
     if (kind == WidgetKind::SSTab) state["tab"] = send(TCM_GETCURSEL);
   }
-  bool IsInSight(const Widget& widget, int entry) const override {
-    const HWND list = WindowOf(widget);
-    RECT inside{}, place{};
-    ::GetClientRect(list, &inside);
-    ::SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&place));
-    return ::PtInRect(&inside, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
-  }
+  bool IsInSight(const Widget& widget, int entry) const override { return Contains(WindowOf(widget), entry); }
   std::int16_t Pointer() const override {
     ::SetCursor(::LoadCursorW(nullptr, IDC_WAIT));
     ::SendMessageW(view_->Window(), WM_SETCURSOR, reinterpret_cast<WPARAM>(view_->Window()), HTCLIENT);
@@ -184,9 +179,9 @@ class WindowsHand : public Hand {
     ICONINFO icon{};
     ::GetIconInfo(pointer, &icon);
     ::DeleteObject(icon.hbmMask);
-    EXPECT_EQ(icon.xHotspot, static_cast<DWORD>(MouseIcon().hotSpotX));
-    EXPECT_EQ(icon.yHotspot, static_cast<DWORD>(MouseIcon().hotSpotY));
-    return Dialog::kDragPointer;
+    const bool isDrag = icon.xHotspot == static_cast<DWORD>(MouseIcon().hotSpotX) &&
+                        icon.yHotspot == static_cast<DWORD>(MouseIcon().hotSpotY);
+    return isDrag ? Dialog::kDragPointer : std::int16_t{-1};
   }
   bool WaitUntil(const std::function<bool()>& isSo) override {
     constexpr int kSteps = 500;
@@ -197,6 +192,8 @@ class WindowsHand : public Hand {
     }
     return false;
   }
+
+  void Settle() override { Pump(); }
 
  private:
   HWND WindowOf(const Widget& widget) const { return test::WindowOf(view_->Window(), dialog_, widget); }
@@ -211,6 +208,21 @@ class WindowsHand : public Hand {
     const SHORT key = ::VkKeyScanW(static_cast<wchar_t>(std::tolower(name[0])));
     if (key & 0x100) state[VK_SHIFT] = 0x80;
     return static_cast<WPARAM>(key & 0xFF);
+  }
+  static bool Contains(HWND list, int entry) {
+    RECT inside{}, place{};
+    ::GetClientRect(list, &inside);
+    ::SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&place));
+    return ::PtInRect(&inside, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
+  }
+  /// By the scroll bar, until the entry is seen.
+  static void ScrollTo(HWND list, int entry) {
+    const auto count = static_cast<int>(::SendMessageW(list, LB_GETCOUNT, 0, 0));
+    if (entry < 0 || entry >= count) return;
+    for (int lines = count; !Contains(list, entry) && lines > 0; --lines) {
+      const bool isAbove = entry < ::SendMessageW(list, LB_GETTOPINDEX, 0, 0);
+      ::SendMessageW(list, WM_VSCROLL, isAbove ? SB_LINEUP : SB_LINEDOWN, 0);
+    }
   }
   static LPARAM PointOf(HWND list, int entry) {
     RECT inside{}, place{};
@@ -237,8 +249,8 @@ class WindowsHand : public Hand {
   static LRESULT CALLBACK CloseBox(int code, WPARAM, LPARAM) {
     const HWND box = ::GetLastActivePopup(gHand->window_);
     if (code != MSGF_DIALOGBOX || !gHand->read_ || box == gHand->window_) return 0;
-    std::exchange(gHand->read_, {})(
-        host::ToUtf8(win32::TextOf(box) + u": " + win32::TextOf(::GetDlgItem(box, 0xFFFF))));
+    std::exchange(gHand->read_, {})(host::ToUtf8(win32::TextOf(box)),
+                                    host::ToUtf8(win32::TextOf(::GetDlgItem(box, 0xFFFF))));
     ::PostMessageW(box, WM_COMMAND, IDOK, 0);
     return 0;
   }
@@ -252,7 +264,7 @@ class WindowsHand : public Hand {
                                    nullptr, nullptr);
   std::unique_ptr<PrnPropView> view_;
   WPARAM held_ = 0;
-  std::function<void(const std::string& words)> read_;
+  Read read_;
 };
 
 }  // namespace
