@@ -92,6 +92,9 @@ std::vector<Entry> EntriesOf(const ServerClass& registered, const GUID* typeLibr
       {byVersion + L"\\CLSID", nullptr, id},
   };
   if (typeLibrary) entries.push_back({byId + L"\\TypeLib", nullptr, Spelled(*typeLibrary)});
+  for (const ClassEntry& entry : registered.entries) {
+    entries.push_back({byId + L"\\" + entry.key, nullptr, (entry.behindPath ? path : L"") + entry.value});
+  }
   return entries;
 }
 

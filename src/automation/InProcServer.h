@@ -6,6 +6,13 @@
 
 namespace ORXKMPrintProp::automation {
 
+/// One key more below that of a class, with its value.
+struct ClassEntry {
+  const wchar_t* key;
+  const wchar_t* value;
+  bool behindPath = false;  ///< the value has the path of the library's file ahead of it
+};
+
 /// A class that programs create by its number, or by its name.
 struct ServerClass {
   CLSID id;
@@ -13,6 +20,7 @@ struct ServerClass {
   const wchar_t* name;       ///< for people
   /// Makes an object, with one reference.
   IUnknown* (*create)();
+  std::span<const ClassEntry> entries = {};
 };
 
 /// What a library with classes tells the system; its exported entry points call these.

@@ -5,7 +5,6 @@
 #include <optional>
 
 #include "automation/DispatchTable.h"
-#include "automation/Failures.h"
 #include "automation/Variants.h"
 #include "views/win32/WindowsPlatform.h"
 
@@ -13,40 +12,16 @@ namespace ORXKMPrintProp::server {
 
 using namespace automation;
 
-namespace {
-
-constexpr TextView kSource = u"ORXKMPrintProp.ORXQueryPrnProp";
-
-}  // namespace
-
 ControlObject::ControlObject()
     : sinks_(ComRef<Sinks>::Taken(new Sinks(*this))), control_(win32::WindowsPlatform::Instance()) {
   control_.Connect(*this);
 }
 
 ControlObject::~ControlObject() {
+  End();
   control_.Disconnect(*this);
   sinks_->Close();
   ::CoFreeUnusedLibraries();
-}
-
-void* ControlObject::FindBase(REFIID id) {
-  return id == IID_IProvideClassInfo ? static_cast<IProvideClassInfo*>(this) : DualObject::FindBase(id);
-}
-
-template <class Body>
-HRESULT ControlObject::Call(Body body) noexcept {
-  Failure failure;
-  {
-    const ComRef<IUnknown> held(Identity());
-    try {
-      return body();
-    } catch (...) {
-      failure = CurrentFailure(kSource);
-    }
-  }
-  // Behind the control's end, if this was its last reference: what goes then may call back, and fail.
-  return Report(failure, __uuidof(_ORXQueryPrnProp));
 }
 
 STDMETHODIMP ControlObject::ORXSetPrnTables(IDispatch* GenPropTable, IDispatch* DimTable, IDispatch* MemTable,

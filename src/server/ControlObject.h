@@ -5,8 +5,7 @@
 #include "ORXKMPrintProp.h"
 #include "automation/ComRef.h"
 #include "control/ORXQueryPrnProp.h"
-#include "server/DialogUser.h"
-#include "server/DualObject.h"
+#include "server/InPlaceControl.h"
 #include "server/Sinks.h"
 
 namespace ORXKMPrintProp::server {
@@ -14,7 +13,7 @@ namespace ORXKMPrintProp::server {
 /// The control as other programs have it: early-bound, late-bound, with sinks for its events.
 ///
 /// What fails inside is the failure of the call, with the thread's error information; no exception goes out.
-class ControlObject final : public DualObject<_ORXQueryPrnProp, IConnectionPointContainer, IProvideClassInfo2, IDialogUser>,
+class ControlObject final : public InPlaceControl,
                             private ORXQueryPrnPropEvents {
  public:
   ControlObject();
@@ -39,14 +38,11 @@ class ControlObject final : public DualObject<_ORXQueryPrnProp, IConnectionPoint
 
  private:
   ~ControlObject() override;
-  void* FindBase(REFIID id) override;
+  Dialog& GetDialog() override { return control_.GetDialog(); }
 
   void ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) override;
   void ORXOrderChanged() override;
 
-  /// Runs the body of a call from outside, during which the control does not end.
-  template <class Body>
-  HRESULT Call(Body body) noexcept;
   HRESULT GiveTable(TableRef (ORXQueryPrnProp::*read)(), IDispatch** table) noexcept;
 
   automation::ComRef<Sinks> sinks_;
