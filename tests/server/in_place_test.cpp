@@ -184,6 +184,30 @@ TEST_F(InPlace, IsDrawnWhileItIsNotActive) {
   ::ReleaseDC(nullptr, screen);
 }
 
+TEST_F(InPlace, IsShownByTheContainerOfTheSystem) {
+  const HMODULE library = ::LoadLibraryW(L"atl100.dll");
+  ASSERT_NE(library, nullptr);
+  const auto entry = [library](const char* name) { return reinterpret_cast<void*>(::GetProcAddress(library, name)); };
+  ASSERT_TRUE(reinterpret_cast<BOOL(WINAPI*)()>(entry("AtlAxWinInit"))());
+  const HWND holder = ::CreateWindowExW(0, L"AtlAxWin100", L"", WS_CHILD | WS_VISIBLE, 0, 0, 300, 200, frame, nullptr,
+                                        nullptr, nullptr);
+  ASSERT_NE(holder, nullptr);
+  const auto other = component.NewControl();
+  ComRef<IUnknown> container;
+  using Attach = HRESULT WINAPI(IUnknown*, HWND, IUnknown**);
+  ASSERT_EQ(reinterpret_cast<Attach*>(entry("AtlAxAttachControl"))(other.Get(), holder, container.Out()), S_OK);
+  HWND window = nullptr;
+  ASSERT_EQ(other.As<IOleInPlaceObject>()->GetWindow(&window), S_OK);
+  EXPECT_TRUE(::IsWindowVisible(window));
+  ::MoveWindow(holder, 0, 0, 200, 100, TRUE);
+  RECT place{};
+  ::GetClientRect(window, &place);
+  EXPECT_EQ(place.right, 200);
+  container = nullptr;
+  ::DestroyWindow(holder);
+  EXPECT_FALSE(::IsWindow(window));
+}
+
 TEST_F(InPlace, LeavesNothingBehindHoweverOftenItIsMade) {
   const auto count = [] {
     DWORD handles = 0;

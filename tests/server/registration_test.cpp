@@ -66,6 +66,20 @@ TEST(Registration, MakesTheClassesKnownAndLeavesNothingBehind) {
                                  reinterpret_cast<void**>(made.Out())),
               S_OK);
   }
+  for (const wchar_t* key : {L"Control", L"ToolboxBitmap32", L"MiscStatus\\1",
+                             L"Implemented Categories\\{40FC6ED4-2438-11CF-A3DB-080036F12502}"}) {
+    const std::wstring name = std::wstring(L"CLSID\\{ECD25CD0-BB4D-477F-B58E-97243D6A7ED8}\\") + key;
+    EXPECT_EQ(::RegGetValueW(HKEY_CLASSES_ROOT, name.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, nullptr, nullptr),
+              ERROR_SUCCESS)
+        << ToAscii(Text(name.begin(), name.end()));
+  }
+  ComRef<IOleObject> made;
+  ASSERT_EQ(::CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IOleObject, reinterpret_cast<void**>(made.Out())),
+            S_OK);
+  DWORD status = 0;
+  EXPECT_EQ(made->GetMiscStatus(DVASPECT_CONTENT, &status), S_OK);
+  EXPECT_EQ(status, 131473u) << "as registered";
+  made = nullptr;
   ComRef<ITypeLib> library;
   EXPECT_EQ(::LoadRegTypeLib(kLibrary, 1, 0, 0, library.Out()), S_OK);
   EXPECT_GE(RegisteredKeys().size(), before.size() + 10);
