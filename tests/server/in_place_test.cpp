@@ -50,7 +50,10 @@ class Site final : public automation::ComObject<IOleClientSite, IOleInPlaceSite,
   STDMETHODIMP LockInPlaceActive(BOOL) override { return S_OK; }
   STDMETHODIMP GetExtendedControl(IDispatch**) override { return E_NOTIMPL; }
   STDMETHODIMP TransformCoords(POINTL*, POINTF*, DWORD) override { return E_NOTIMPL; }
-  STDMETHODIMP TranslateAccelerator(MSG*, DWORD) override { return Note("key "); }
+  STDMETHODIMP TranslateAccelerator(MSG*, DWORD) override {
+    if (onKey) onKey();
+    return Note("key ");
+  }
   STDMETHODIMP OnFocus(BOOL) override { return S_OK; }
   STDMETHODIMP ShowPropertyFrame() override { return E_NOTIMPL; }
 
@@ -66,6 +69,7 @@ class Site final : public automation::ComObject<IOleClientSite, IOleInPlaceSite,
 
   HWND window;
   bool designed = false;
+  std::function<void()> onKey;
   std::string told;
 
  private:
@@ -158,6 +162,21 @@ TEST_F(InPlace, LivesOnWhenItsWindowGoes) {
   EXPECT_EQ(Window(), nullptr);
   ASSERT_EQ(Do(OLEIVERB_UIACTIVATE), S_OK);
   EXPECT_NE(Window(), nullptr);
+}
+
+TEST_F(InPlace, TabLeadsOutAndTheContainerMayCloseMeanwhile) {
+  ASSERT_EQ(Do(OLEIVERB_UIACTIVATE), S_OK);
+  site->onKey = [this] { object->Close(OLECLOSE_NOSAVE); };
+  const auto active = control.As<IOleInPlaceActiveObject>();
+  for (int i = 0; i < 100 && Window(); ++i) {
+    MSG tab{};
+    tab.hwnd = ::GetFocus();
+    tab.message = WM_KEYDOWN;
+    tab.wParam = VK_TAB;
+    ASSERT_EQ(active->TranslateAccelerator(&tab), S_OK);
+  }
+  EXPECT_EQ(site->told, "active ui no-ui inactive key ");
+  EXPECT_EQ(::GetWindow(frame, GW_CHILD), nullptr);
 }
 
 TEST_F(InPlace, IsDrawnWhileItIsNotActive) {
