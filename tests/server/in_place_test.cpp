@@ -231,17 +231,31 @@ TEST_F(InPlace, LeavesNothingBehindHoweverOftenItIsMade) {
   const auto count = [] {
     DWORD handles = 0;
     ::GetProcessHandleCount(::GetCurrentProcess(), &handles);
-    return handles + ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS) +
+    // Wine counts windows and drawing objects as none, so windows are counted here.
+    DWORD windows = 0;
+    const auto add = [](HWND, LPARAM sum) -> BOOL { return ++*reinterpret_cast<DWORD*>(sum), TRUE; };
+    ::EnumThreadWindows(::GetCurrentThreadId(), add, reinterpret_cast<LPARAM>(&windows));
+    return handles + windows + ::GetGuiResources(::GetCurrentProcess(), GR_GDIOBJECTS) +
            ::GetGuiResources(::GetCurrentProcess(), GR_USEROBJECTS);
   };
+  const HDC context = ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
+  const RECTL bounds{0, 0, 645, 396};
   DWORD before = 0;
   for (int i = 0; i < 210; ++i) {
     if (i == 10) before = count();
     Unmake();
     Make();
+    if (i % 50 == 0) {
+      ASSERT_EQ(control.As<IViewObject2>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, context, &bounds,
+                                                 nullptr, nullptr, 0),
+                S_OK);
+    }
     ASSERT_EQ(Do(OLEIVERB_UIACTIVATE), S_OK);
   }
-  EXPECT_LE(count(), before + 5);
+  EXPECT_LE(count(), before + 2);
+  const HENHMETAFILE file = ::CloseEnhMetaFile(context);
+  EXPECT_GT(::GetEnhMetaFileBits(file, 0, nullptr), 5u * 645 * 396 * 4) << "what was drawn";
+  ::DeleteEnhMetaFile(file);
 }
 
 }  // namespace
