@@ -6,6 +6,7 @@
 #include "automation/Variants.h"
 #include "dialog/DialogLayout.h"
 #include "server/WindowDrawing.h"
+#include "views/win32/Styled.h"
 
 namespace ORXKMPrintProp::server {
 
@@ -28,14 +29,6 @@ SIZE PixelsOf(const SIZEL& extent) {
   return pixels;
 }
 
-/// The module that this code is in.
-HINSTANCE OwnModule() {
-  HMODULE module = nullptr;
-  ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                       reinterpret_cast<const wchar_t*>(&OwnModule), &module);
-  return module;
-}
-
 bool IsDown(int key) { return ::GetKeyState(key) < 0; }
 
 /// Keys that a widget wants, which a container would take for itself.
@@ -53,7 +46,7 @@ struct InPlaceControl::WindowClass {
     WNDCLASSW made{};
     made.style = CS_DBLCLKS;
     made.lpfnWndProc = Receive;
-    made.hInstance = OwnModule();
+    made.hInstance = win32::OwnModule();
     made.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
     made.hbrBackground = reinterpret_cast<HBRUSH>(COLOR_BTNFACE + 1);
     made.lpszClassName = kName;
@@ -61,14 +54,14 @@ struct InPlaceControl::WindowClass {
   }
   WindowClass(const WindowClass&) = delete;
   WindowClass& operator=(const WindowClass&) = delete;
-  ~WindowClass() { ::UnregisterClassW(kName, OwnModule()); }
+  ~WindowClass() { ::UnregisterClassW(kName, win32::OwnModule()); }
 };
 
 HWND InPlaceControl::MakeWindow(HWND parent, DWORD style) {
   static const WindowClass windowClass;
   const HWND window = ::CreateWindowExW(WS_EX_CONTROLPARENT, WindowClass::kName, nullptr,
                                         style | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, 0, 0, 0, 0, parent, nullptr,
-                                        OwnModule(), nullptr);
+                                        win32::OwnModule(), nullptr);
   if (!window) throw std::runtime_error("The window of the control can't be made.");
   return window;
 }
@@ -101,6 +94,7 @@ std::unique_ptr<win32::PrnPropView> InPlaceControl::MakeView(HWND parent) {
   win32::Reports reports;
   // The failure of a handler is the host's own, and no call is under way that could give it back.
   reports.failed = [](const Text& why) { ::OutputDebugStringW(reinterpret_cast<const wchar_t*>(why.c_str())); };
+  reports.focused = [this] { ActivateUI(nullptr); };
   reports.left = [this](int step) { LeaveBy(step); };
   reports.hold = [this] { return std::make_shared<ComRef<IUnknown>>(Identity()); };
   auto view = std::make_unique<win32::PrnPropView>(GetDialog(), parent, std::move(reports));

@@ -18,6 +18,7 @@
 namespace ORXKMPrintProp::win32 {
 namespace {
 
+constexpr const wchar_t* kPanelClass = L"ORXQueryPrnProp.Panel";
 constexpr UINT kUse = WM_APP;  ///< posted: the widget in lParam, what it is to do in wParam
 constexpr UINT kResolutionChanged = 0x02E3;  // WM_DPICHANGED_AFTERPARENT, which older headers lack
 
@@ -105,7 +106,11 @@ std::shared_ptr<DialogWindows> DialogWindows::Make(Dialog& dialog, HWND parent, 
 DialogWindows::DialogWindows(Dialog& dialog, Reports reports)
     : Surface(std::move(reports)), dialog_(dialog), dragPointer_(MakeDragPointer()) {}
 
-DialogWindows::~DialogWindows() { ::DestroyCursor(dragPointer_); }
+DialogWindows::~DialogWindows() {
+  ::DestroyCursor(dragPointer_);
+  // Is refused while there are others; the last one leaves nothing behind that points into this library.
+  ::UnregisterClassW(kPanelClass, OwnModule());
+}
 
 void DialogWindows::End() {
   if (!IsOpen()) return;
@@ -126,7 +131,7 @@ HWND DialogWindows::MakePanel(HWND parent) const {
   kind.lpfnWndProc = OnMessageOf;
   kind.hInstance = OwnModule();
   kind.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
-  kind.lpszClassName = L"ORXQueryPrnProp";
+  kind.lpszClassName = kPanelClass;
   ::RegisterClassExW(&kind);
   auto* const self = const_cast<DialogWindows*>(this);
   const HWND panel = ::CreateWindowExW(WS_EX_CONTROLPARENT | WS_EX_NOPARENTNOTIFY, kind.lpszClassName, L"",
@@ -365,6 +370,11 @@ void DialogWindows::TakeFocus(int step) {
                          ? lastFocused_
                          : views::NextInTabOrder(dialog_, nullptr, step == 0 ? 1 : step);
   if (to) ::SetFocus(ViewFor(*to).Window());
+}
+
+void DialogWindows::GotFocus(const Widget& widget) {
+  lastFocused_ = &widget;
+  if (GetReports().focused) GetReports().focused();
 }
 
 void DialogWindows::PassFocus(const Widget& widget) {

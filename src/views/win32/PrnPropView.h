@@ -15,6 +15,8 @@ struct Reports {
   std::function<void(const Text& why)> failed = {};
   /// It is done, with all that it led to.
   std::function<void(const Widget& widget)> used = {};
+  /// A widget has got the focus.
+  std::function<void()> focused = {};
   /// The Tab key leads out of the dialog: 1 behind its end, -1 ahead of its beginning.
   std::function<void(int step)> left = {};
   /// Gives what must not end while what the user does is carried out.
