@@ -122,6 +122,8 @@ void DialogWindows::End() {
   for (const auto& [widget, view] : views_) {
     if (view->Window()) accessible_.Forget(view->Window());
   }
+  // It belongs to the window around all, the host's own.
+  ::DestroyWindow(toolTip_);
   if (window_) ::DestroyWindow(window_);
 }
 
