@@ -1,6 +1,7 @@
 #include "views/win32/ComboBoxView.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "views/Fitting.h"
 #include "views/win32/WindowsKeys.h"
@@ -29,6 +30,7 @@ void ComboBoxView::MoveTo(const views::Place& place) {
 
 void ComboBoxView::Refresh() {
   WidgetView::Refresh();
+  shown_.reset();
   SetFont();
   ShowPicked();
   if (!widget_.Enabled() && IsOpen()) Send(CB_SHOWDROPDOWN, FALSE);
@@ -69,6 +71,7 @@ void ComboBoxView::ShowPicked() {
   const int picked = widget_.ListIndex();
   if (Send(CB_GETCURSEL) != picked) Send(CB_SETCURSEL, static_cast<WPARAM>(picked));
   const Text text = picked < 0 ? Text() : widget_.List(static_cast<std::int16_t>(picked));
+  if (text == std::exchange(shown_, text)) return;
   const bool isCut = surface_.MeasureOf(widget_.GetFont())(text, 100) > Size().cx - FieldEdge();
   surface_.SetToolTip(widget_, views::ToolTipWith(isCut ? text : Text(), widget_.ToolTipText()));
 }

@@ -32,6 +32,7 @@ class ComboBoxView : public ViewOf<ComboBox> {
   void ShowEntry(int index);
   void ShowPicked();
 
+  std::optional<Text> shown_;  ///< in the field, and told in the tooltip where it is cut
   views::TypeAhead search_;
 };
 

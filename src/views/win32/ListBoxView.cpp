@@ -12,6 +12,10 @@
 namespace ORXKMPrintProp::win32 {
 namespace {
 
+/// What is put off.
+constexpr WPARAM kRelease = 0;
+constexpr WPARAM kShowCount = 1;
+
 constexpr UINT_PTR kScrolling = 1;  ///< the timer of a drag
 constexpr int kTextEdge = 2;        ///< ahead of an entry's text
 
@@ -68,22 +72,19 @@ void ListBoxView::EntryChanged(int index, EntryProperty) {
   ::InvalidateRect(Window(), &place, TRUE);
 }
 
-void ListBoxView::EntryAdded(int) {
-  ShowCount();
-  ShowCaret();
-}
+void ListBoxView::EntryAdded(int) { ShowCountLater(); }
+void ListBoxView::EntryRemoved(int) { ShowCountLater(); }
+void ListBoxView::EntriesCleared() { ShowCountLater(); }
 
-void ListBoxView::EntryRemoved(int) {
-  ShowCount();
-  ShowCaret();
+void ListBoxView::ShowCountLater() {
+  if (!std::exchange(isCountBehind_, true)) surface_.PostUse(widget_, kShowCount);
 }
-
-void ListBoxView::EntriesCleared() { ShowCount(); }
 
 void ListBoxView::ShowCount() {
+  isCountBehind_ = false;
   ::InvalidateRect(Window(), nullptr, TRUE);
   const int count = widget_.ListCount();
-  if (Send(LB_GETCOUNT) == count) return;
+  if (std::exchange(shownCount_, count) == count) return;
   const int top = Top();
   Send(LB_SETCOUNT, static_cast<WPARAM>(count));
   if (Top() != top) Send(LB_SETTOPINDEX, static_cast<WPARAM>(std::max(std::min(top, count - 1), 0)));
@@ -151,8 +152,13 @@ void ListBoxView::RunTimer(bool on) {
   }
 }
 
-void ListBoxView::ReleaseLater() { surface_.PostUse(widget_, 0); }
-void ListBoxView::Use(WPARAM) { End(); }
+void ListBoxView::ReleaseLater() { surface_.PostUse(widget_, kRelease); }
+
+void ListBoxView::Use(WPARAM what) {
+  if (what == kRelease) return End();
+  ShowCount();
+  ShowCaret();
+}
 
 void ListBoxView::End() {
   if (::GetCapture() == Window()) ::ReleaseCapture();
@@ -230,6 +236,8 @@ std::optional<LRESULT> ListBoxView::OnRequest(UINT message, WPARAM wParam, LPARA
   const auto has = [&](WPARAM entry) { return entry < static_cast<WPARAM>(widget_.ListCount()); };
   const auto entry = static_cast<std::int16_t>(wParam);
   switch (message) {
+    case LB_GETCOUNT:
+      return widget_.ListCount();
     case LB_GETTEXT:
     case LB_GETTEXTLEN: {
       if (!has(wParam)) return LB_ERR;

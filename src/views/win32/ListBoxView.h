@@ -38,11 +38,15 @@ class ListBoxView : public ViewOf<ListBox>, private views::ListGlass {
   std::optional<LRESULT> OnKey(const views::KeyPress& press);
   /// What other programs ask of a list, or do with it.
   std::optional<LRESULT> OnRequest(UINT message, WPARAM wParam, LPARAM lParam);
+  /// When all of a change has come.
+  void ShowCountLater();
   void ShowCount();
   void ShowCaret();
   void ShowToolTipAt(int y);
   int Top() const;
 
+  int shownCount_ = 0;
+  bool isCountBehind_ = false;
   bool isRunning_ = false;
   views::TypeAhead search_;
   views::ListPointer pointer_{widget_, *this};
