@@ -10,6 +10,7 @@
 namespace ORXKMPrintProp::win32 {
 namespace {
 
+constexpr WPARAM kShowPicked = static_cast<WPARAM>(-1);  ///< in the place of an entry to pick
 constexpr int kOpenEntries = 10;  ///< that are seen of an open list at most
 
 /// What lies beside the text in the field, with the button.
@@ -77,7 +78,10 @@ void ComboBoxView::ShowPicked() {
 }
 
 void ComboBoxView::OnNotify(UINT notification) {
-  if (notification == CBN_SELCHANGE) surface_.PostUse(widget_, static_cast<WPARAM>(Send(CB_GETCURSEL)));
+  // What the keys go over in an open list is not picked yet.
+  const bool isPicked = notification == CBN_SELENDOK || (notification == CBN_SELCHANGE && !IsOpen());
+  if (isPicked) surface_.PostUse(widget_, static_cast<WPARAM>(Send(CB_GETCURSEL)));
+  if (notification == CBN_SELENDCANCEL) surface_.PostUse(widget_, kShowPicked);
   if (notification != CBN_DROPDOWN) return;
   // Entries that are wider than the field are read in the open list.
   const auto measure = surface_.MeasureOf(widget_.GetFont());
@@ -87,6 +91,7 @@ void ComboBoxView::OnNotify(UINT notification) {
 }
 
 void ComboBoxView::Use(WPARAM what) {
+  if (what == kShowPicked) return ShowPicked();
   Perform([&] { widget_.UserPick(static_cast<std::int16_t>(what)); });
 }
 

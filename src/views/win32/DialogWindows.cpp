@@ -334,6 +334,16 @@ LRESULT DialogWindows::OnMessage(HWND window, UINT message, WPARAM wParam, LPARA
 }
 
 bool DialogWindows::TakeKey(const MSG& message) {
+  const bool ends = message.wParam == VK_RETURN || message.wParam == VK_ESCAPE;
+  const WidgetView* const view = IsOpen() && message.message == WM_KEYDOWN && ends ? ViewOf(message.hwnd) : nullptr;
+  const bool isCombo = view && view->Shown().Row().kind == WidgetKind::ComboBox;
+  if (!isCombo || !::SendMessageW(message.hwnd, CB_GETDROPPEDSTATE, 0, 0)) return TakeDialogKey(message);
+  // The open list's, not the button's of the window around it.
+  ::DispatchMessageW(&message);
+  return true;
+}
+
+bool DialogWindows::TakeDialogKey(const MSG& message) {
   if (!IsOpen() || (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN)) return false;
   WidgetView* const view = ViewOf(message.hwnd);
   if (!view) return false;
@@ -359,7 +369,7 @@ bool DialogWindows::TakeKey(const MSG& message) {
 }
 
 bool DialogWindows::TakeKey(Widget& widget, WPARAM virtualKey, LPARAM flags) {
-  if (TakeKey(MSG{ViewFor(widget).Window(), WM_KEYDOWN, virtualKey, flags, 0, {}})) return true;
+  if (TakeDialogKey(MSG{ViewFor(widget).Window(), WM_KEYDOWN, virtualKey, flags, 0, {}})) return true;
   if (virtualKey != VK_TAB) return false;
   const views::KeyPress press = ToKeyPress(virtualKey);
   if (GetReports().left && !press.control && !press.alt) GetReports().left(press.shift ? -1 : 1);

@@ -32,6 +32,7 @@ class DialogWindows final : public Surface, public std::enable_shared_from_this<
 
  private:
   DialogWindows(Dialog& dialog, Reports reports);
+  bool TakeDialogKey(const MSG& message);
   void MakeWindows(HWND parent);
   void MakeWidget(Widget& widget);
   HWND MakePanel(HWND parent) const;

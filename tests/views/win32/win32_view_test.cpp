@@ -177,6 +177,23 @@ TEST_F(WindowsViewTest, AnotherProgramActsAsTheUser) {
   EXPECT_EQ(StateOf(dialog.Get<TextBox>(u"txtGenPrnTitle")), "dictated");
 }
 
+TEST_F(WindowsViewTest, AnOpenListTakesEnterAndEscape) {
+  Load("a");
+  dialog.TabStrip().Tab(kGeneralTab);
+  const HWND combo = WindowOf(u"cmbGenSignPrsnt");
+  ::SetFocus(combo);
+  for (const auto& [key, picked] : {std::pair(VK_ESCAPE, ">-X X- (X)"), std::pair(VK_RETURN, "-X >X- (X)")}) {
+    const MSG ends{combo, WM_KEYDOWN, static_cast<WPARAM>(key), 1, 0, {}};
+    EXPECT_FALSE(view->TakeKey(ends)) << "the list is closed";
+    ::SendMessageW(combo, CB_SHOWDROPDOWN, TRUE, 0);
+    ::SendMessageW(combo, WM_KEYDOWN, VK_DOWN, 1);
+    EXPECT_TRUE(view->TakeKey(ends));
+    Pump();
+    EXPECT_FALSE(::SendMessageW(combo, CB_GETDROPPEDSTATE, 0, 0));
+    EXPECT_EQ(StateOf(dialog.Get<ComboBox>(u"cmbGenSignPrsnt")), picked);
+  }
+}
+
 TEST_F(WindowsViewTest, WhatDoesNotFitIsCut) {
   dialog.Get<Label>(u"lblGenMarginTop").Caption(u"A caption much too long for its place on the page & more");
   const Text shown = win32::TextOf(WindowOf(u"lblGenMarginTop"));
