@@ -1,13 +1,9 @@
 #include "views/win32/CaptionViews.h"
 
-#include <commctrl.h>
-
-#include <string>
-
 namespace ORXKMPrintProp::win32 {
 namespace {
 
-/// At both ends of a frame's caption, in pixels of 96 to the inch.
+/// At both ends of a frame's caption, in pixels.
 constexpr int kFrameIndent = 10;
 /// Between a button's edge and its caption.
 constexpr int kButtonEdge = 4;
@@ -31,27 +27,11 @@ void ButtonView::Refresh() {
   ShowCaption(Size().cx - 2 * kButtonEdge);
 }
 
-void ButtonView::OnNotify(UINT notification) {
-  if (notification == BN_CLICKED) surface_.PostUse(widget_, 0);
-}
-
-void ButtonView::Use(WPARAM) {
-  Perform([this] { widget_.UserPress(); });
-}
-
 void CheckBoxView::Refresh() {
   WidgetView::Refresh();
   ShowCaption(Size().cx - ::GetSystemMetrics(SM_CXMENUCHECK) - kBoxBlank);
   const WPARAM shown = widget_.Value() != 0 ? BST_CHECKED : BST_UNCHECKED;
   if (static_cast<WPARAM>(Send(BM_GETCHECK)) != shown) Send(BM_SETCHECK, shown);
-}
-
-void CheckBoxView::OnNotify(UINT notification) {
-  if (notification == BN_CLICKED) surface_.PostUse(widget_, 0);
-}
-
-void CheckBoxView::Use(WPARAM) {
-  Perform([this] { widget_.UserToggle(); });
 }
 
 }  // namespace ORXKMPrintProp::win32

@@ -24,23 +24,32 @@ class LabelView : public ViewOf<Label> {
   WindowKind Kind() const override { return {L"STATIC", SS_LEFTNOWORDWRAP | SS_NOPREFIX}; }
 };
 
-class ButtonView : public ViewOf<CommandButton> {
+/// What is pressed: the two are one class of window.
+template <class W, Refusal (W::*kPress)()>
+class PressedView : public ViewOf<W> {
  public:
-  using ViewOf::ViewOf;
+  using ViewOf<W>::ViewOf;
+  void OnNotify(UINT notification) override {
+    if (notification == BN_CLICKED) this->surface_.PostUse(this->widget_, 0);
+  }
+  void Use(WPARAM) override {
+    this->Perform([this] { (this->widget_.*kPress)(); });
+  }
+};
+
+class ButtonView : public PressedView<CommandButton, &CommandButton::UserPress> {
+ public:
+  using PressedView::PressedView;
   void Refresh() override;
-  void OnNotify(UINT notification) override;
-  void Use(WPARAM what) override;
 
  protected:
   WindowKind Kind() const override { return {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP}; }
 };
 
-class CheckBoxView : public ViewOf<CheckBox> {
+class CheckBoxView : public PressedView<CheckBox, &CheckBox::UserToggle> {
  public:
-  using ViewOf::ViewOf;
+  using PressedView::PressedView;
   void Refresh() override;
-  void OnNotify(UINT notification) override;
-  void Use(WPARAM what) override;
 
  protected:
   WindowKind Kind() const override { return {L"BUTTON", BS_CHECKBOX | WS_TABSTOP}; }
