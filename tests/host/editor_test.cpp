@@ -108,7 +108,7 @@ void EditorPlayer::Open(const std::string& how) {
   EditOptions options{.file = Path("a.json"), .readOnly = how == "read-only"};
   if (how.starts_with("for ")) options.out = Path(how.substr(4));
   editor_.reset();
-  settings_ = std::make_unique<EditedSettings>(ReadSettings(options.file), options, nullptr, Platform::Plain());
+  settings_ = std::make_unique<EditedSettings>(options, Platform::Plain());
   editor_ = std::make_unique<Editor>(*settings_, *this);
   editor_->Show();
   Tell(editor_->Title("*"));

@@ -56,7 +56,7 @@ class SettingsWindowTest : public testing::Test {
   void Open(EditOptions options = {}) {
     options.file = file;
     window.reset();
-    settings = std::make_unique<EditedSettings>(ReadSettings(file), options, nullptr, platform);
+    settings = std::make_unique<EditedSettings>(options, platform);
     window = std::make_unique<SettingsWindow>(*settings);
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));

@@ -1,11 +1,13 @@
 #include "host/editor/EditedSettings.h"
 
 #include <set>
+#include <stdexcept>
 #include <string_view>
 #include <utility>
 
 #include "control/SharedValues.h"
 #include "host/Changes.h"
+#include "host/DocumentError.h"
 #include "host/Files.h"
 #include "host/Load.h"
 #include "host/Terminal.h"
@@ -13,20 +15,32 @@
 #include "tables/RunTimeError.h"
 
 namespace ORXKMPrintProp::host {
+namespace {
 
-EditedSettings::EditedSettings(SettingsDocument document, const EditOptions& options, const MemoryTableRef& texts,
-                               const Platform& platform)
-    : document_(std::move(document)),
+void CheckTarget(const EditOptions& options) {
+  try {
+    CheckReplaceable(options.out.value_or(options.file));
+  } catch (const DocumentError& error) {
+    const char* const otherwise =
+        options.out ? "" : "; it can be opened with --read-only, or with -o to save elsewhere";
+    throw std::runtime_error(error.what() + std::string(otherwise));
+  }
+}
+
+}  // namespace
+
+EditedSettings::EditedSettings(const EditOptions& options, const Platform& platform)
+    : document_(ReadSettings(options.file)),
       target_(options.out.value_or(options.file)),
       targetIsBehind_(options.out && *options.out != options.file),
       targetStamp_(StampOf(target_)),
       file_(SnapshotOf(document_)),
       control_(platform),
       layouts_(LayoutsIn(file_)) {
+  const MemoryTableRef texts = options.texts ? ReadSettings(*options.texts).texts : document_.texts;
   FindLosses();
   try {
-    if (texts) control_.ORXControlTexts(texts);
-    Load();
+    Load(texts);
     HandBack(layouts_, control_);
     control_.ORXSetReadOnly(options.readOnly);
     Read();
@@ -36,7 +50,8 @@ EditedSettings::EditedSettings(SettingsDocument document, const EditOptions& opt
   SetUnchanged();
 }
 
-void EditedSettings::Load() {
+void EditedSettings::Load(const MemoryTableRef& texts) {
+  if (texts) control_.ORXControlTexts(texts);
   if (!control_.ORXSetPrnTables(document_.general, document_.dimension, document_.member, document_.attribute)) {
     throw LoadError(document_, gErrorText);
   }
@@ -87,6 +102,17 @@ Text EditedSettings::LayoutOf(const LayoutKey& key) const {
 void EditedSettings::SetLayout(const LayoutKey& key, const Text& layout) {
   control_.ORXSetPrintLayout(layout, key.buttonId, key.characteristic);
   layouts_[key] = layout;
+}
+
+std::unique_ptr<EditedSettings> OpenToEdit(const EditOptions& options, const Platform& platform,
+                                           const std::function<void(const std::string& words)>& tell) {
+  try {
+    if (!options.readOnly || options.out) CheckTarget(options);
+    return std::make_unique<EditedSettings>(options, platform);
+  } catch (const std::exception& error) {
+    if (tell) tell(error.what());
+    throw;
+  }
 }
 
 }  // namespace ORXKMPrintProp::host

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -23,10 +25,9 @@ struct EditOptions {
 /// changed, and the save.
 class EditedSettings {
  public:
-  /// Loads the document and hands its layouts back.
-  /// @throws LoadError
-  EditedSettings(SettingsDocument document, const EditOptions& options, const MemoryTableRef& texts,
-                 const Platform& platform);
+  /// Reads and loads the document and hands its layouts back.
+  /// @throws DocumentError for a document that can't be read; LoadError for one that does not load.
+  EditedSettings(const EditOptions& options, const Platform& platform);
 
   ORXQueryPrnProp& Control() { return control_; }
   const std::string& Source() const { return document_.file; }
@@ -63,7 +64,7 @@ class EditedSettings {
   void SetLayout(const LayoutKey& key, const Text& layout);
 
  private:
-  void Load();
+  void Load(const MemoryTableRef& texts);
   void FindLosses();
 
   SettingsDocument document_;
@@ -78,5 +79,11 @@ class EditedSettings {
   Snapshot now_;
   bool isChanged_ = false;
 };
+
+/// Opens a document for a window in which it is edited.
+/// @param tell shows the words of what is thrown to a person, in a window; empty where standard error is seen.
+/// @throws what the constructor throws, also for a file that could not be saved.
+std::unique_ptr<EditedSettings> OpenToEdit(const EditOptions& options, const Platform& platform,
+                                           const std::function<void(const std::string& words)>& tell);
 
 }  // namespace ORXKMPrintProp::host

@@ -5,10 +5,7 @@
 #include <QMessageBox>
 #include <QScreen>
 #include <QTimer>
-#include <stdexcept>
-#include <utility>
 
-#include "host/DocumentError.h"
 #include "host/Files.h"
 #include "host/Load.h"
 #include "host/editor/EditedSettings.h"
@@ -21,27 +18,10 @@ namespace ORXKMPrintProp::host {
 namespace {
 
 /// To somebody who has started the program from the desktop and sees no standard error.
-void Tell(const char* words) {
-  QMessageBox box(QMessageBox::Critical, QStringLiteral("Print settings"), QString::fromUtf8(words));
+void Tell(const std::string& words) {
+  QMessageBox box(QMessageBox::Critical, QStringLiteral("Print settings"), QString::fromStdString(words));
   box.setTextFormat(Qt::PlainText);
   box.exec();
-}
-
-void CheckTarget(const EditOptions& options) {
-  try {
-    CheckReplaceable(options.out.value_or(options.file));
-  } catch (const DocumentError& error) {
-    const char* const otherwise =
-        options.out ? "" : "; it can be opened with --read-only, or with -o to save elsewhere";
-    throw std::runtime_error(error.what() + std::string(otherwise));
-  }
-}
-
-std::unique_ptr<EditedSettings> Load(const EditOptions& options, qt::QtPlatform& platform) {
-  if (!options.readOnly || options.out) CheckTarget(options);
-  SettingsDocument document = ReadSettings(options.file);
-  const MemoryTableRef texts = options.texts ? ReadSettings(*options.texts).texts : document.texts;
-  return std::make_unique<EditedSettings>(std::move(document), options, texts, platform);
 }
 
 }  // namespace
@@ -52,13 +32,8 @@ EditProgram::EditProgram(const EditOptions& options) {
   application_ = std::make_unique<QApplication>(argc_, argv_);
   QGuiApplication::setDesktopFileName(QStringLiteral("prnprop"));
   platform_ = std::make_unique<qt::QtPlatform>();
-  try {
-    settings_ = Load(options, *platform_);
-  } catch (const std::exception& error) {
-    const bool isSeen = IsTerminal(stderr) || QGuiApplication::platformName() == QStringLiteral("offscreen");
-    if (!isSeen) Tell(error.what());
-    throw;
-  }
+  const bool isSeen = IsTerminal(stderr) || QGuiApplication::platformName() == QStringLiteral("offscreen");
+  settings_ = isSeen ? OpenToEdit(options, *platform_, {}) : OpenToEdit(options, *platform_, Tell);
   window_ = std::make_unique<SettingsWindow>(*settings_);
   window_->FitInto(window_->screen()->availableSize());
 }

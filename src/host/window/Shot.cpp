@@ -5,13 +5,10 @@
 #include <QImage>
 #include <QPainter>
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <memory>
-#include <ostream>
 
-#include "host/Files.h"
-#include "host/editor/EditedSettings.h"
+#include "host/editor/WindowCommands.h"
 #include "host/window/Display.h"
 #include "host/window/SettingsWindow.h"
 #include "views/qt/PrnPropView.h"
@@ -19,18 +16,6 @@
 
 namespace ORXKMPrintProp::host {
 namespace {
-
-constexpr int kMostPixels = 16000;
-constexpr double kMostFactor = 16;
-
-/// The number that is the whole text.
-template <class Number>
-std::optional<Number> NumberIn(std::string_view text) {
-  Number number{};
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size()) return {};
-  return number;
-}
 
 QImage Picture(QWidget& view, const PictureSize& wanted) {
   const QSize size = wanted.width > 0
@@ -50,22 +35,7 @@ QImage Picture(QWidget& view, const PictureSize& wanted) {
 
 }  // namespace
 
-std::optional<PictureSize> ParsePictureSize(const std::string& text) {
-  if (const auto cross = text.find('x'); cross != std::string::npos) {
-    const auto width = NumberIn<int>(std::string_view(text).substr(0, cross));
-    const auto height = NumberIn<int>(std::string_view(text).substr(cross + 1));
-    if (!width || !height || *width < 1 || *height < 1 || *width > kMostPixels || *height > kMostPixels) return {};
-    return PictureSize{.width = *width, .height = *height};
-  }
-  const auto factor = NumberIn<double>(text);
-  if (!factor || !(*factor > 0 && *factor <= kMostFactor)) return {};
-  return PictureSize{.factor = *factor};
-}
-
-void Shot(const ShotOptions& options, std::ostream& out) {
-  SettingsDocument document = ReadSettings(options.file);
-  const MemoryTableRef texts = options.texts ? ReadSettings(*options.texts).texts : document.texts;
-
+std::string Shot(const ShotOptions& options) {
   DrawInMemory();
   TakeQtMessages(false);
   int argc = 1;
@@ -73,8 +43,7 @@ void Shot(const ShotOptions& options, std::ostream& out) {
   char* argv[] = {name, nullptr};
   QApplication application(argc, argv);
   qt::QtPlatform platform;
-  const EditOptions edited{.file = options.file, .texts = {}, .out = {}, .readOnly = options.readOnly};
-  EditedSettings settings(std::move(document), edited, texts, platform);
+  EditedSettings settings(options.settings, platform);
   std::unique_ptr<QWidget> drawn;
   if (options.window) {
     drawn = std::make_unique<SettingsWindow>(settings);
@@ -95,12 +64,7 @@ void Shot(const ShotOptions& options, std::ostream& out) {
   QBuffer buffer(&png);
   buffer.open(QIODevice::WriteOnly);
   Picture(*drawn, options.size).save(&buffer, "PNG");
-  const std::string_view bytes(png.constData(), static_cast<std::size_t>(png.size()));
-  if (options.out == kStandardStream) {
-    out << bytes;
-  } else {
-    SaveFile(options.out, bytes);
-  }
+  return png.toStdString();
 }
 
 }  // namespace ORXKMPrintProp::host

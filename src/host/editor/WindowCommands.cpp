@@ -1,0 +1,98 @@
+#include "host/editor/WindowCommands.h"
+
+#include <CLI/CLI.hpp>
+#include <charconv>
+#include <iostream>
+#include <memory>
+#include <string_view>
+
+#include "host/Files.h"
+#include "host/Program.h"
+
+namespace ORXKMPrintProp::host {
+namespace {
+
+constexpr int kMostPixels = 16000;
+constexpr double kMostFactor = 16;
+
+/// The number that is the whole text.
+template <class Number>
+std::optional<Number> NumberIn(std::string_view text) {
+  Number number{};
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc() || end != text.data() + text.size()) return {};
+  return number;
+}
+
+/// "2", "1.5" or "800x600". None for anything else, and for a picture of too many pixels a side.
+std::optional<PictureSize> ParsePictureSize(const std::string& text) {
+  if (const auto cross = text.find('x'); cross != std::string::npos) {
+    const auto width = NumberIn<int>(std::string_view(text).substr(0, cross));
+    const auto height = NumberIn<int>(std::string_view(text).substr(cross + 1));
+    if (!width || !height || *width < 1 || *height < 1 || *width > kMostPixels || *height > kMostPixels) return {};
+    return PictureSize{.width = *width, .height = *height};
+  }
+  const auto factor = NumberIn<double>(text);
+  if (!factor || !(*factor > 0 && *factor <= kMostFactor)) return {};
+  return PictureSize{.factor = *factor};
+}
+
+void AddSettings(CLI::App& command, EditOptions& options) {
+  command.add_option("FILE", options.file, "Settings document")->required();
+  command.add_option("--texts", options.texts, "Document whose text table is used")->type_name("TEXTS");
+  command.add_flag("--read-only", options.readOnly, "The dialog takes no change");
+}
+
+void AddEdit(CLI::App& program, const WindowCommands& commands, int& status) {
+  const auto options = std::make_shared<EditOptions>();
+  CLI::App* const edit = program.add_subcommand("edit", "Opens the dialog in a window");
+  AddSettings(*edit, *options);
+  edit->add_option("-o,--output", options->out, "File to save to, instead of FILE")->type_name("OUT");
+  edit->callback([options, run = commands.edit, &status] {
+    if (options->out.value_or(options->file) == kStandardStream) {
+      throw CLI::ValidationError("-o OUT is needed, with the name of a file to save to");
+    }
+    status = run(*options);
+  });
+}
+
+void AddShot(CLI::App& program, const WindowCommands& commands) {
+  struct Options {
+    ShotOptions shot;
+    std::string size = "1";
+    std::string out;
+  };
+  const auto options = std::make_shared<Options>();
+  CLI::App* const shot = program.add_subcommand("shot", "Draws a page of the dialog, also without a display");
+  AddSettings(*shot, options->shot.settings);
+  shot->add_option("--page", options->shot.page, "0 General, 1 Characteristics, 2 Attributes, 3 Structures")
+      ->required()
+      ->check(CLI::Range(0, 3));
+  shot->add_flag("--window", options->shot.window, "The whole window of edit, not the dialog alone");
+  shot->add_option("--size", options->size, "A factor such as 2, or WIDTHxHEIGHT in pixels")->type_name("SIZE");
+  shot->add_option("-o,--output", options->out, "PNG file to write or replace")->required()->type_name("OUT");
+  shot->callback([options, draw = commands.shot] {
+    const auto size = ParsePictureSize(options->size);
+    if (!size) {
+      throw CLI::ValidationError("--size: " + options->size + " is neither a factor up to 16 nor WIDTHxHEIGHT");
+    }
+    options->shot.size = *size;
+    const std::string picture = draw(options->shot);
+    if (options->out == kStandardStream) {
+      std::cout << picture;
+    } else {
+      SaveFile(options->out, picture);
+    }
+  });
+}
+
+}  // namespace
+
+int RunProgram(int argc, char** argv, const WindowCommands& commands) {
+  return RunProgram(argc, argv, [&commands](CLI::App& program, int& status) {
+    AddEdit(program, commands, status);
+    AddShot(program, commands);
+  });
+}
+
+}  // namespace ORXKMPrintProp::host
