@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "host/editor/Snapshot.h"
+#include "host/Snapshot.h"
 
 namespace ORXKMPrintProp::host {
 

@@ -9,8 +9,8 @@
 #include "control/ORXQueryPrnProp.h"
 #include "host/Files.h"
 #include "host/SettingsDocument.h"
+#include "host/Snapshot.h"
 #include "host/editor/Layouts.h"
-#include "host/editor/Snapshot.h"
 
 namespace ORXKMPrintProp::host {
 

@@ -6,7 +6,7 @@
 #include <set>
 
 #include "control/ORXQueryPrnProp.h"
-#include "host/editor/Snapshot.h"
+#include "host/Snapshot.h"
 
 namespace ORXKMPrintProp::host {
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <vector>
 
-#include "host/editor/Snapshot.h"
+#include "host/Snapshot.h"
 #include "tables/PrnEnums.h"
 
 namespace ORXKMPrintProp::host {

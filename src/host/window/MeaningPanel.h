@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "host/editor/Snapshot.h"
+#include "host/Snapshot.h"
 
 class QLabel;
 class QPushButton;

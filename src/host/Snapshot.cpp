@@ -1,4 +1,4 @@
-#include "host/editor/Snapshot.h"
+#include "host/Snapshot.h"
 
 #include <algorithm>
 
