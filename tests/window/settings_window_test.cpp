@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QAbstractItemModel>
 #include <QApplication>
 #include <QComboBox>
@@ -17,6 +18,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 #include <deque>
 #include <functional>
 
@@ -88,6 +90,21 @@ class SettingsWindowTest : public testing::Test {
       EXPECT_EQ((box.text() + u'\n' + box.informativeText()).toStdString(), question);
       QTest::mouseClick(box.button(button), Qt::LeftButton);
     });
+  }
+  /// What has the focus, from the title on, until the key leads back to what has had it.
+  QStringList Round(Qt::Key key) {
+    QStringList names;
+    QList<QWidget*> been;
+    for (QWidget* at = &Find<QLineEdit>("txtGenPrnTitle"); !been.contains(at); at = window->focusWidget()) {
+      been.append(at);
+      const auto* const button = qobject_cast<QAbstractButton*>(at);
+      names.append(!at->objectName().isEmpty() ? at->objectName()
+                   : button                    ? button->text()
+                                               : QLatin1String(at->metaObject()->className()));
+      at->setFocus();
+      QTest::keyClick(at, key, key == Qt::Key_Backtab ? Qt::ShiftModifier : Qt::NoModifier);
+    }
+    return names;
   }
   std::string Changed() const { return "The settings have changed.\nSave them in " + file + "?"; }
 
@@ -215,6 +232,22 @@ TEST_F(SettingsWindowTest, AChangeOfTheTabOrTheOrderReadsBack) {
   Answer(QMessageBox::Discard, Changed());
   QTest::keyClick(&Find<QLineEdit>("txtGenPrnTitle"), Qt::Key_Escape);
   EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(SettingsWindowTest, TheTabKeyGoesRoundTheWholeWindow) {
+  Open();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window->findChild<QTabWidget*>(); }));
+  const auto behindTheDialog = [this] {
+    const QStringList round = Round(Qt::Key_Tab);
+    QStringList back = Round(Qt::Key_Backtab);
+    std::reverse(back.begin() + 1, back.end());
+    EXPECT_EQ(back, round);
+    return round.mid(round.indexOf(QStringLiteral("cmdPrintLayout(3)"))).join(u' ').toStdString();
+  };
+  EXPECT_EQ(behindTheDialog(),
+            "cmdPrintLayout(3) refresh qt_tabwidget_tabbar QScrollArea &Whole page preview OK Cancel QTabBar");
+  Press("preview");
+  EXPECT_EQ(behindTheDialog(), "cmdPrintLayout(3) preview OK Cancel QTabBar");
 }
 
 }  // namespace

@@ -122,9 +122,10 @@ void MeaningPanel::MakeTabs() {
   }
   connect(tabs_, &QTabWidget::currentChanged, this, [this] { ShowFront(); });
   static_cast<QBoxLayout&>(*layout()).insertWidget(1, tabs_, 1);
-  // What is made late comes last otherwise.
+  // What is made late comes last otherwise, and the tabs themselves would hand their bar the focus of the buttons.
   QWidget* last = refresh_;
   const auto isNext = [&](QWidget* widget) { setTabOrder(std::exchange(last, widget), widget); };
+  isNext(tabs_);
   isNext(tabs_->findChild<QTabBar*>());
   isNext(area);
   isNext(isWhole);
