@@ -2,6 +2,8 @@
 
 #include "control/ORXQueryPrnProp.h"
 #include "control/SharedValues.h"
+#include "host/PrintRows.h"
+#include "host/SettingsColumns.h"
 #include "host/Terminal.h"
 #include "host/Utf8.h"
 #include "tables/RunTimeError.h"
@@ -23,6 +25,31 @@ void LoadAndReadBack(const SettingsDocument& document) {
   } catch (const RunTimeError& error) {
     throw LoadError(document, error.Message());
   }
+}
+
+std::shared_ptr<const PrnPropCls> SettingsOf(const SettingsDocument& document) {
+  const SharedValuesGuard guard;
+  // The end of a root releases what another load may be using.
+  const auto end = [](const PrnPropCls* root) {
+    const SharedValuesGuard kept;
+    delete root;
+  };
+  const std::shared_ptr<PrnPropCls> settings(new PrnPropCls, end);
+  try {
+    if (!settings->FromTable(*document.general, *document.dimension, *document.member, *document.attribute)) {
+      throw LoadError(document, gErrorText);
+    }
+  } catch (const RunTimeError& error) {
+    throw LoadError(document, error.Message());
+  }
+  for (std::int16_t i = 0; const TextView column : kPageLayouts) {
+    settings->FBLayout(i++, RawText(*document.general->Rows(1), column));
+  }
+  auto characteristic = settings->Characteristics().begin();
+  for (const RowRef& row : AllRows(*document.dimension)) {
+    if (!IsStructure(*row)) (*characteristic++)->FBLayout(RawText(*row, kTotalsLayout));
+  }
+  return settings;
 }
 
 }  // namespace ORXKMPrintProp::host

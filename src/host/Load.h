@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <stdexcept>
 
 #include "host/SettingsDocument.h"
+#include "model/PrnPropCls.h"
 
 namespace ORXKMPrintProp::host {
 
@@ -17,5 +19,11 @@ class LoadError : public std::runtime_error {
 /// dialog. The tables then hold what the control has written; controls that are there notice nothing.
 /// @throws LoadError; what the tables hold then is of no use.
 void LoadAndReadBack(const SettingsDocument& document);
+
+/// What a load makes of the document's tables, with the layouts that they hold, which a host hands in; of
+/// characteristics that share a name each has its own. The tables stay as they are, and controls that are there notice
+/// nothing.
+/// @throws LoadError
+std::shared_ptr<const PrnPropCls> SettingsOf(const SettingsDocument& document);
 
 }  // namespace ORXKMPrintProp::host

@@ -1,15 +1,18 @@
 #include "host/Program.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <iostream>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "host/Check.h"
+#include "host/Diff.h"
 #include "host/ExitStatus.h"
 #include "host/Files.h"
 #include "host/Load.h"
@@ -47,6 +50,30 @@ void AddShow(CLI::App& program) {
   show->callback([file] { Show(*file, WantsColor(), std::cout); });
 }
 
+/// @param failure becomes what the program ends with when anything fails, whatever that is.
+void AddDiff(CLI::App& program, int& status, std::optional<int>& failure) {
+  const auto options = std::make_shared<DiffOptions>();
+  CLI::App* const diff = program.add_subcommand("diff", "Tells what the settings of two documents differ in");
+  diff->add_option("A", options->before, "Settings document")->required();
+  diff->add_option("B", options->after, "Settings document that is compared with it")->required();
+  diff->add_option("--texts", options->texts, "Document whose text table is used, instead of that of B or A")
+      ->type_name("FILE");
+  diff->add_flag("--json", options->json, "One JSON object");
+  diff->footer(
+      "Compares what the settings mean, as they are after a load, and their layouts: other codes or types of the\n"
+      "same meaning are no difference, nor is anything that a load drops or that has no effect, such as a width\n"
+      "while it is automatic.\n"
+      "Ends with 0 when the settings are the same, 1 when they differ, 2 when anything fails.");
+  diff->callback([options, &status, &failure] {
+    failure = kTrouble;
+    const std::string inputs[] = {options->before, options->after, options->texts.value_or("")};
+    if (std::count(std::begin(inputs), std::end(inputs), kStandardStream) > 1) {
+      throw CLI::ValidationError("standard input can be read only once");
+    }
+    status = Diff(*options, std::cout);
+  });
+}
+
 void AddReadback(CLI::App& program) {
   struct Options {
     std::string file;
@@ -67,7 +94,7 @@ void AddDrive(CLI::App& program, int& status) {
   drive->callback([options, &status] { status = Drive(*options, std::cout, std::cerr); });
 }
 
-int Run(int argc, char** argv, const AddCommands& addCommands) {
+int Run(int argc, char** argv, const AddCommands& addCommands, std::optional<int>& failure) {
   CLI::App program(
       "Looks at the batch-print settings of a query, and edits them. FILE is a settings document, - is\n"
       "standard input.",
@@ -83,6 +110,7 @@ int Run(int argc, char** argv, const AddCommands& addCommands) {
   int status = kSuccess;
   AddCheck(program, status);
   AddShow(program);
+  AddDiff(program, status, failure);
   AddReadback(program);
   AddDrive(program, status);
   if (addCommands) addCommands(program, status);
@@ -90,9 +118,6 @@ int Run(int argc, char** argv, const AddCommands& addCommands) {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     status = program.exit(error) == 0 ? kSuccess : kUsage;
-  } catch (const LoadError& error) {
-    std::cerr << "prnprop: " << error.what() << "\n";
-    return kLoss;
   }
   std::cout.flush();
   return status;
@@ -111,15 +136,18 @@ int RunProgram(int argc, char** argv, const AddCommands& addCommands) {
   // What can't be written is told at once, while the system's reason is known; a message must not run into it.
   std::cerr.tie(nullptr);
   std::cout.exceptions(std::ios::badbit | std::ios::failbit);
+  std::optional<int> failure;
   try {
-    return Run(argc, argv, addCommands);
+    return Run(argc, argv, addCommands, failure);
   } catch (const std::ios::failure&) {
     std::cerr << "prnprop: standard output: " << std::strerror(errno) << "\n";
-    return kBadFile;
+  } catch (const LoadError& error) {
+    std::cerr << "prnprop: " << error.what() << "\n";
+    return failure.value_or(kLoss);
   } catch (const std::exception& error) {
     std::cerr << "prnprop: " << error.what() << "\n";
-    return kBadFile;
   }
+  return failure.value_or(kBadFile);
 }
 
 }  // namespace ORXKMPrintProp::host

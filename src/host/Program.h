@@ -16,8 +16,8 @@ void AddDriveArguments(CLI::App& command, DriveOptions& options);
 /// Adds commands to the program's own. What a command ends with, its callback puts into `status`, as an ExitStatus.
 using AddCommands = std::function<void(CLI::App& program, int& status)>;
 
-/// The program `prnprop`: carries out what the command line says, of the commands check, show, readback, drive and
-/// those that are added. What fails is told on standard error.
+/// The program `prnprop`: carries out what the command line says, of the commands check, show, diff, readback, drive
+/// and those that are added. What fails is told on standard error.
 /// @return an ExitStatus
 int RunProgram(int argc, char** argv, const AddCommands& addCommands = {});
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "tables/TableCalls.h"
+
 namespace ORXKMPrintProp::host {
 
 Snapshot SnapshotOf(const SettingsDocument& document) {
@@ -11,6 +13,20 @@ Snapshot SnapshotOf(const SettingsDocument& document) {
     snapshot.tables[i] = {table.ColumnNames(), AllRows(table)};
   }
   return snapshot;
+}
+
+SettingsDocument DocumentOf(const Snapshot& snapshot) {
+  SettingsDocument document;
+  document.file = "the settings";
+  for (std::size_t i = 0; i < snapshot.tables.size(); ++i) {
+    const auto& [columns, rows] = snapshot.tables[i];
+    const MemoryTableRef table = document.*kTableMembers[i].table = MemoryTable::Create(columns);
+    for (const RowRef& row : rows) {
+      const RowRef copy = AddRow(*table);
+      for (const Text& column : columns) copy->Value(column, row->Value(column));
+    }
+  }
+  return document;
 }
 
 bool IsSame(const Snapshot& a, const Snapshot& b) {

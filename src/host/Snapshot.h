@@ -26,6 +26,9 @@ struct Snapshot {
 
 Snapshot SnapshotOf(const SettingsDocument& document);
 
+/// The same as tables of their own. They have no text table, and messages call them "the settings".
+SettingsDocument DocumentOf(const Snapshot& snapshot);
+
 /// Whether the same rows stand in the same order, with the same cells.
 bool IsSame(const Snapshot& a, const Snapshot& b);
 

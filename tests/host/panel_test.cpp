@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
+#include "host/Differences.h"
 #include "host/Files.h"
 #include "host/Load.h"
 #include "host/Terminal.h"
@@ -69,6 +72,40 @@ TEST(ComparedTableTest, RowsStandBesideTheirOwnRowOfTheFile) {
   }
   // POSIT is written behind CHAVL.
   EXPECT_EQ(told, "a 2->3 \nb 1 \nb 5->6 \n->new \ngone gone-> \n");
+}
+
+TEST(DifferencesTest, NoSettingIsForgotten) {
+  const auto read = [] {
+    return ParseSettings(R"({"general":[{"MARGIN_TOP":0,"MARGIN_BOTTOM":0,"MARGIN_LEFT":0,"MARGIN_RIGHT":0}],
+        "dimension":[{"IOBJNM":"A","POSIT":1,"AXIS":"Y","IOBJPRSNT":"0","PR_COL1_WIDTH":1,"PR_COL2_WIDTH":1,
+                      "STRT_LVL":1,"HRY_ACTIVE":"X"},
+                     {"IOBJNM":"B","POSIT":2,"AXIS":"Y","PR_COL1_WIDTH":1,"PR_COL2_WIDTH":1,"STRT_LVL":1},
+                     {"IS_STRUCTURE":"X","IOBJNM":"S","POSIT":1}],
+        "member":[{"IOBJNM":"S","CHAVL":"A","POSIT":1,"PR_COL1_WIDTH":1},
+                  {"IOBJNM":"S","CHAVL":"B","POSIT":2,"PR_COL1_WIDTH":1}],
+        "attribute":[{"IOBJNM":"A","ATTRINM":"A","POSIT":1,"IOBJPRSNT":"0","PR_COL1_WIDTH":1,"PR_COL2_WIDTH":1},
+                     {"IOBJNM":"A","ATTRINM":"B","POSIT":2,"PR_COL1_WIDTH":1,"PR_COL2_WIDTH":1}]})",
+                         "settings");
+  };
+  const auto before = SettingsOf(read());
+  const auto checkEach = [&](const auto& columns, MemoryTableRef SettingsDocument::*table, int row) {
+    for (const auto& column : columns) {
+      if (!column.read && !column.name.ends_with(u"_LAYOUT")) continue;
+      std::vector<Text> cells{u"7"};
+      if (column.kind == CellKind::Code) cells = {u"X", u" ", u"0", u"1", u"2", u"H", u"L", u"R", u"C"};
+      const auto isTold = [&](const Text& cell) {
+        const SettingsDocument changed = read();
+        (changed.*table)->Rows(row)->Value(column.name, cell);
+        return !DifferencesOf(*before, *SettingsOf(changed), DifferenceWordsIn("en")).empty();
+      };
+      EXPECT_TRUE(std::any_of(cells.begin(), cells.end(), isTold)) << ToAscii(column.name) << " of row " << row;
+    }
+  };
+  checkEach(PrnPropCls::Columns(), &SettingsDocument::general, 1);
+  checkEach(PrnCharCls::Columns(), &SettingsDocument::dimension, 1);
+  checkEach(PrnStructureCls::Columns(), &SettingsDocument::dimension, 3);
+  checkEach(PrnStrElemCls::Columns(), &SettingsDocument::member, 1);
+  checkEach(PrnAttrCls::Columns(), &SettingsDocument::attribute, 1);
 }
 
 TEST(Utf8, GoesBothWaysAndReplacesWhatIsNoCharacter) {

@@ -1,8 +1,5 @@
 #include "host/editor/ComparedTable.h"
 
-#include <deque>
-#include <unordered_map>
-
 #include "tables/Conversions.h"
 
 namespace ORXKMPrintProp::host {
@@ -21,25 +18,12 @@ ComparedTable::ComparedTable(const TableSnapshot& file, const TableSnapshot& now
     for (const Text& column : keyColumns) key += TextIn(row, column) + u'\0';
     return key;
   };
-  std::unordered_map<Text, std::deque<RowRef>> byKey;
-  for (const RowRef& row : file.rows) byKey[keyOf(row)].push_back(row);
-  for (const RowRef& row : now.rows) {
-    auto& rows = byKey[keyOf(row)];
-    pairs_.push_back({row, rows.empty() ? RowRef() : rows.front()});
-    if (!rows.empty()) rows.pop_front();
-  }
-  for (const RowRef& row : file.rows) {
-    auto& rows = byKey[keyOf(row)];
-    if (!rows.empty() && rows.front() == row) {
-      rows.pop_front();
-      pairs_.push_back({RowRef(), row});
-    }
-  }
+  pairs_ = Paired(file.rows, now.rows, keyOf);
 }
 
 ComparedTable::Cell ComparedTable::At(std::size_t row, std::size_t column) const {
-  const Pair& pair = pairs_[row];
-  Cell cell{.now = TextIn(pair.now, columns_[column]), .file = TextIn(pair.file, columns_[column])};
+  const auto& [before, after] = pairs_[row];
+  Cell cell{.now = TextIn(after, columns_[column]), .file = TextIn(before, columns_[column])};
   cell.differs = cell.now != cell.file && !(IsBlank(cell.now) && IsBlank(cell.file));
   return cell;
 }

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "host/Pairs.h"
 #include "host/Snapshot.h"
 
 namespace ORXKMPrintProp::host {
@@ -24,20 +25,15 @@ class ComparedTable {
   std::size_t RowCount() const { return pairs_.size(); }
   const std::vector<Text>& Columns() const { return columns_; }
   /// Rows of the file that are not read back stand behind all others.
-  bool IsGone(std::size_t row) const { return !pairs_[row].now; }
+  bool IsGone(std::size_t row) const { return !pairs_[row].after; }
   /// A cell without a text and one with blanks alone say the same, and so do a number and its digits.
   Cell At(std::size_t row, std::size_t column) const;
   /// Row and column of the first cell that differs.
   std::optional<std::pair<std::size_t, std::size_t>> FirstDifference() const;
 
  private:
-  struct Pair {
-    RowRef now;
-    RowRef file;
-  };
-
   std::vector<Text> columns_;
-  std::vector<Pair> pairs_;
+  std::vector<PairOf<RowRef>> pairs_;
 };
 
 }  // namespace ORXKMPrintProp::host

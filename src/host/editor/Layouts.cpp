@@ -3,14 +3,11 @@
 #include <unordered_set>
 
 #include "host/PrintRows.h"
+#include "host/SettingsColumns.h"
 #include "host/SettingsDocument.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
-
-constexpr TextView kPageColumns[kTotalsRowButton] = {u"FRONTPAGE_LAYOUT", u"HEADER_LAYOUT", u"FOOTER_LAYOUT",
-                                                     u"LASTPAGE_LAYOUT"};
-constexpr TextView kTotalsColumn = u"PR_SUM_LAYOUT";
 
 /// The characteristics, of several with one name the first.
 std::vector<RowRef> FirstOfEachName(const TableSnapshot& dimension) {
@@ -30,10 +27,10 @@ Layouts LayoutsIn(const Snapshot& file) {
     if (!layout.empty()) layouts.emplace(std::move(key), std::move(layout));
   };
   for (const RowRef& row : file.General().rows) {
-    for (std::int16_t id = 0; id < kTotalsRowButton; ++id) add({.buttonId = id}, RawText(*row, kPageColumns[id]));
+    for (std::int16_t id = 0; id < kTotalsRowButton; ++id) add({.buttonId = id}, RawText(*row, kPageLayouts[id]));
   }
   for (const RowRef& row : FirstOfEachName(file.Dimension())) {
-    add({.buttonId = kTotalsRowButton, .characteristic = RawText(*row, u"IOBJNM")}, RawText(*row, kTotalsColumn));
+    add({.buttonId = kTotalsRowButton, .characteristic = RawText(*row, u"IOBJNM")}, RawText(*row, kTotalsLayout));
   }
   return layouts;
 }
