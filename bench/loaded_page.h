@@ -14,7 +14,7 @@ namespace ORXKMPrintProp {
 /// A control with that many print characteristics, whose positions are in no order, on the Characteristics page.
 class Loaded {
  public:
-  explicit Loaded(std::int64_t count) {
+  explicit Loaded(std::int64_t count, const Platform& platform = Platform::Plain()) : control(platform) {
     std::vector<Text> dimension;
     for (const auto& column : PrnCharCls::Columns()) dimension.emplace_back(column.name);
     dimension.emplace_back(u"IS_STRUCTURE");

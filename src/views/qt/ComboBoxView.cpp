@@ -10,7 +10,9 @@
 namespace ORXKMPrintProp::qt {
 
 ComboBoxView::ComboBoxView(ComboBox& combo, const Reports& reports, QWidget* parent)
-    : ViewOf(combo, reports, parent), entries_(new EntryModel(combo, this)) {
+    : ViewOf(combo, reports, parent),
+      entries_(new EntryModel(
+          combo, [this] { ShowPicked(); }, this)) {
   setModel(entries_);
   setFocusPolicy(Qt::StrongFocus);
   connect(this, &QComboBox::activated, this,
@@ -19,38 +21,20 @@ ComboBoxView::ComboBoxView(ComboBox& combo, const Reports& reports, QWidget* par
 
 void ComboBoxView::Refresh() {
   WidgetView::Refresh();
-  entries_->EntriesChanged();
+  entries_->CatchUp();
+  // Qt may have picked another one.
   ShowPicked();
   if (!isEnabled()) hidePopup();
 }
 
 void ComboBoxView::Show(WidgetProperty what) {
-  if (what == WidgetProperty::ListIndex) return ShowPicked();
+  if (what == WidgetProperty::ListIndex) return entries_->RestChanged();
   WidgetView::Show(what);
   if (what == WidgetProperty::Enabled && !isEnabled()) hidePopup();
 }
 
-void ComboBoxView::EntryChanged(int index, EntryProperty) {
-  entries_->EntryChanged(index);
-  ShowPicked();
-}
-
-void ComboBoxView::EntryAdded(int index) {
-  entries_->EntryAdded(index);
-  ShowPicked();
-}
-
-void ComboBoxView::EntryRemoved(int index) {
-  entries_->EntryRemoved(index);
-  ShowPicked();
-}
-
-void ComboBoxView::EntriesCleared() {
-  entries_->EntriesCleared();
-  ShowPicked();
-}
-
 void ComboBoxView::showPopup() {
+  entries_->CatchUp();
   // Entries that are wider than the field are read in the open list.
   view()->setMinimumWidth(view()->sizeHintForColumn(0) +
                           style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this));
@@ -69,7 +53,13 @@ void ComboBoxView::keyPressEvent(QKeyEvent* event) {
   }
 }
 
+void ComboBoxView::paintEvent(QPaintEvent* event) {
+  entries_->CatchUp();
+  QComboBox::paintEvent(event);
+}
+
 void ComboBoxView::wheelEvent(QWheelEvent* event) {
+  entries_->CatchUp();
   if (hasFocus()) {
     QComboBox::wheelEvent(event);
   } else {

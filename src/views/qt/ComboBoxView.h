@@ -13,13 +13,14 @@ class ComboBoxView : public ViewOf<QComboBox, ComboBox> {
   ComboBoxView(ComboBox& combo, const Reports& reports, QWidget* parent);
   void Refresh() override;
   void Show(WidgetProperty what) override;
-  void EntryChanged(int index, EntryProperty what) override;
-  void EntryAdded(int index) override;
-  void EntryRemoved(int index) override;
-  void EntriesCleared() override;
+  void EntryChanged(int, EntryProperty) override { entries_->EntriesChanged(); }
+  void EntryAdded(int) override { entries_->EntriesChanged(); }
+  void EntryRemoved(int) override { entries_->EntriesChanged(); }
+  void EntriesCleared() override { entries_->EntriesChanged(); }
   void showPopup() override;
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void initStyleOption(QStyleOptionComboBox* option) const override;
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;

@@ -1,31 +1,36 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <functional>
 
 #include "dialog/Lists.h"
 
 namespace ORXKMPrintProp::qt {
 
-/// The entries of a list or combo box as rows. It hears of a change when the widget has changed already, so between
-/// the two it knows one row more or less than the widget has entries.
+/// The entries of a list or combo box as rows. What changes in the widget is shown once for all of a change: when Qt's
+/// events are dealt with next, or at `CatchUp`. Until then there are the rows of before, whose texts are those of now.
 class EntryModel : public QAbstractListModel {
  public:
-  EntryModel(const EntryWidget& widget, QObject* parent);
+  /// @param showRest shows what is no row's own, as soon as the rows are those of the widget.
+  EntryModel(const EntryWidget& widget, std::function<void()> showRest, QObject* parent);
 
   int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
   QVariant data(const QModelIndex& index, int role) const override;
 
-  void EntryAdded(int index);
-  void EntryRemoved(int index);
-  void EntriesCleared();
-  /// Its text or its selection.
-  void EntryChanged(int index);
-  /// Any of them.
+  /// Entries have come or gone, or have another text.
   void EntriesChanged();
+  /// Selection or `ListIndex`.
+  void RestChanged();
+  void CatchUp();
+  /// Nothing waits to be shown.
+  bool IsCaughtUp() const { return !isBehind_; }
 
  private:
   const EntryWidget& widget_;
-  int rows_;
+  std::function<void()> showRest_;
+  int rows_ = 0;
+  bool isBehind_ = false;
+  bool areRowsBehind_ = false;
 };
 
 }  // namespace ORXKMPrintProp::qt

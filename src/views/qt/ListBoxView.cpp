@@ -65,7 +65,14 @@ std::int16_t ButtonOf(const QMouseEvent& event) {
 }  // namespace
 
 ListBoxView::ListBoxView(ListBox& list, const Reports& reports, QWidget* parent)
-    : ViewOf(list, reports, parent), entries_(new EntryModel(list, this)) {
+    : ViewOf(list, reports, parent),
+      entries_(new EntryModel(
+          list,
+          [this] {
+            ShowSelection();
+            ShowCaret();
+          },
+          this)) {
   setModel(entries_);
   setItemDelegate(new EntryDelegate(list, this));
   setSelectionMode(list.Row().multiSelect ? MultiSelection : SingleSelection);
@@ -85,41 +92,25 @@ ListBoxView::ListBoxView(ListBox& list, const Reports& reports, QWidget* parent)
 
 void ListBoxView::Refresh() {
   WidgetView::Refresh();
-  entries_->EntriesChanged();
-  ShowSelection();
-  ShowCaret();
+  entries_->CatchUp();
 }
 
 void ListBoxView::Show(WidgetProperty what) {
-  if (what == WidgetProperty::ListIndex) return ShowCaret();
+  if (what == WidgetProperty::ListIndex) return entries_->RestChanged();
   WidgetView::Show(what);
 }
 
-void ListBoxView::EntryChanged(int index, EntryProperty what) {
-  entries_->EntryChanged(index);
-  if (what != EntryProperty::Selected || std::exchange(isSelectionBehind_, true)) return;
-  // What is painted is the list's own selection; Qt's follows when all of a change has come.
-  QMetaObject::invokeMethod(
-      this, [this] { ShowSelection(); }, Qt::QueuedConnection);
+void ListBoxView::EntryChanged(int, EntryProperty what) {
+  what == EntryProperty::Text ? entries_->EntriesChanged() : entries_->RestChanged();
 }
-
-void ListBoxView::EntryAdded(int index) {
-  entries_->EntryAdded(index);
-  ShowCaret();
-}
-
-void ListBoxView::EntryRemoved(int index) {
-  entries_->EntryRemoved(index);
-  ShowCaret();
-}
-
-void ListBoxView::EntriesCleared() { entries_->EntriesCleared(); }
 
 void ListBoxView::mousePressEvent(QMouseEvent* event) {
+  entries_->CatchUp();
   pointer_.Press(ButtonOf(*event), event->buttons() != event->button(), HeightOf(*event));
 }
 
 void ListBoxView::mouseMoveEvent(QMouseEvent* event) {
+  entries_->CatchUp();
   const Qt::MouseButtons buttons = event->buttons();
   pointer_.Move(buttons.testFlag(Qt::LeftButton), buttons & ~Qt::MouseButtons(Qt::LeftButton), HeightOf(*event));
 }
@@ -178,6 +169,7 @@ void ListBoxView::hideEvent(QHideEvent* event) {
 }
 
 void ListBoxView::paintEvent(QPaintEvent* event) {
+  entries_->CatchUp();
   QListView::paintEvent(event);
   if (!hasFocus()) return;
   // There may be no caret to show it.
@@ -188,13 +180,13 @@ void ListBoxView::paintEvent(QPaintEvent* event) {
 
 void ListBoxView::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
   QListView::selectionChanged(selected, deselected);
-  // An entry has gone, and its row is to follow.
-  if (entries_->rowCount() != widget_.ListCount()) return;
+  if (!entries_->IsCaughtUp()) return;
   for (const QItemSelection* const changed : {&selected, &deselected}) {
     for (const QItemSelectionRange& range : *changed) {
       for (int row = range.top(); row <= range.bottom(); ++row) {
         const auto entry = static_cast<std::int16_t>(row);
         if (widget_.Selected(entry) == (changed == &selected)) continue;
+        entries_->RestChanged();
         Perform([&] {
           widget_.UserMoveCaret(entry);
           widget_.UserToggle();
@@ -213,16 +205,16 @@ void ListBoxView::ShowCaret() {
   const QModelIndex caret = entries_->index(widget_.ListIndex());
   if (caret == currentIndex()) return;
   if (!caret.isValid()) {
+    shownCaret_ = -1;
     selectionModel()->clearCurrentIndex();
     return;
   }
   selectionModel()->setCurrentIndex(caret, QItemSelectionModel::NoUpdate);
-  // Under the pointer nothing is to slip away.
-  if (!pointer_.IsHeld()) scrollTo(caret);
+  // Under the pointer nothing is to slip away, nor where the user has scrolled to.
+  if (std::exchange(shownCaret_, caret.row()) != caret.row() && !pointer_.IsHeld()) scrollTo(caret);
 }
 
 void ListBoxView::ShowSelection() {
-  isSelectionBehind_ = false;
   QItemSelection selection;
   for (int begin = 0, left = widget_.SelCount(); left > 0 && begin < widget_.ListCount(); ++begin) {
     int end = begin;
@@ -232,7 +224,11 @@ void ListBoxView::ShowSelection() {
     left -= end - begin;
     begin = end;
   }
+  // To tell what of many ranges is new, Qt would compare all with all.
+  constexpr int kFew = 500;
+  if (selection.size() > kFew) selectionModel()->reset();
   selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+  viewport()->update();
 }
 
 }  // namespace ORXKMPrintProp::qt

@@ -18,9 +18,9 @@ class ListBoxView : public ViewOf<QListView, ListBox>, private views::ListGlass 
   void Refresh() override;
   void Show(WidgetProperty what) override;
   void EntryChanged(int index, EntryProperty what) override;
-  void EntryAdded(int index) override;
-  void EntryRemoved(int index) override;
-  void EntriesCleared() override;
+  void EntryAdded(int) override { entries_->EntriesChanged(); }
+  void EntryRemoved(int) override { entries_->EntriesChanged(); }
+  void EntriesCleared() override { entries_->EntriesChanged(); }
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
@@ -48,7 +48,7 @@ class ListBoxView : public ViewOf<QListView, ListBox>, private views::ListGlass 
   void ShowSelection();
 
   EntryModel* entries_;
-  bool isSelectionBehind_ = false;  ///< Qt's selection is that of a while ago
+  int shownCaret_ = -1;
   QTimer scrolling_;
   views::TypeAhead search_;
   views::ListPointer pointer_{widget_, *this};

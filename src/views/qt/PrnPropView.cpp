@@ -165,9 +165,9 @@ void PrnPropView::Changed(Widget& widget, WidgetProperty what) {
   SSTab& tabStrip = dialog_.TabStrip();
   if (&widget == &tabStrip) BringUp(tabStrip.Tab());
   ViewFor(widget).Show(what);
-  const bool isSpoken = what == WidgetProperty::Caption || what == WidgetProperty::ToolTipText;
+  if (what != WidgetProperty::Caption && what != WidgetProperty::ToolTipText) return;
   for (const auto& [named, name] : names_) {
-    if (isSpoken && name.DependsOn(widget)) ViewFor(*named).Glass().setAccessibleName(ToQString(name.Spoken()));
+    if (name.DependsOn(widget)) ViewFor(*named).Glass().setAccessibleName(ToQString(name.Spoken()));
   }
 }
 

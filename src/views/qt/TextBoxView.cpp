@@ -24,6 +24,12 @@ TextBoxView::TextBoxView(TextBox& box, const Reports& reports, QWidget* parent) 
 
 void TextBoxView::Refresh() {
   WidgetView::Refresh();
+  ShowText();
+}
+
+void TextBoxView::Show(WidgetProperty what) { what == WidgetProperty::Text ? ShowText() : WidgetView::Show(what); }
+
+void TextBoxView::ShowText() {
   const QString text = ToQString(widget_.GetText());
   const bool isShown = text == this->text();
   // What is written anew is another text, though it reads the same; undo is not to lead out of it.

@@ -10,12 +10,14 @@ class TextBoxView : public ViewOf<QLineEdit, TextBox> {
  public:
   TextBoxView(TextBox& box, const Reports& reports, QWidget* parent);
   void Refresh() override;
+  void Show(WidgetProperty what) override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
 
  private:
+  void ShowText();
   /// What becomes of typed text.
   QString Filtered(const QString& typed);
   char16_t FilterKey(char16_t key);

@@ -5,6 +5,7 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
+#include <QComboBox>
 #include <QDropEvent>
 #include <QGroupBox>
 #include <QHelpEvent>
@@ -16,6 +17,8 @@
 #include <QMimeData>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QSignalSpy>
 #include <QTabBar>
 #include <QTest>
 #include <QTimer>
@@ -125,6 +128,37 @@ TEST_F(QtViewTest, AnAssistiveProgramActsAsTheUser) {
   EXPECT_EQ(Glass(view, "txtCharColWidth2").accessibleName(), QStringLiteral("Width, Key & more"));
 }
 
+TEST_F(QtViewTest, AllOfAChangeIsShownOnce) {
+  Load("a b c d e f g h i j k l m n o p q r s t u v w x y z");
+  const auto& list = Glass<QListView>(view, "lstPrint(1)");
+  const auto& combo = Glass<QComboBox>(view, "cmbCharPageBreak");
+  auto& print = dialog.Get<ListBox>(u"lstPrint", kCharTab);
+  const QSignalSpy selections(list.selectionModel(), &QItemSelectionModel::selectionChanged);
+  const QSignalSpy fills(list.model(), &QAbstractItemModel::modelReset);
+  const QSignalSpy refills(combo.model(), &QAbstractItemModel::modelReset);
+  QScrollBar& bar = *list.verticalScrollBar();
+  const auto shown = [&] {
+    QApplication::processEvents();
+    return QStringLiteral("%1 selections, %2 and %3 fills, %4 entries, %5 selected%6")
+        .arg(selections.size())
+        .arg(fills.size())
+        .arg(refills.size())
+        .arg(list.model()->rowCount())
+        .arg(list.selectionModel()->selectedRows().size())
+        .arg(bar.value() > 0 ? QStringLiteral(", scrolled") : QString())
+        .toStdString();
+  };
+  for (std::int16_t i = 0; i < 20; ++i) print.Selected(i, true);
+  EXPECT_EQ(shown(), "1 selections, 0 and 0 fills, 26 entries, 20 selected");
+  print.ListIndex(25);
+  EXPECT_EQ(shown(), "1 selections, 0 and 0 fills, 26 entries, 20 selected, scrolled");
+  bar.setValue(0);
+  print.List(25, u"changed");
+  EXPECT_EQ(shown(), "2 selections, 1 and 0 fills, 26 entries, 20 selected") << "where the user has scrolled to";
+  dialog.Get<CommandButton>(u"cmdRightToLeft", kCharTab).UserPress();
+  EXPECT_EQ(shown(), "2 selections, 2 and 1 fills, 6 entries, 0 selected");
+}
+
 TEST_F(QtViewTest, UndoStaysWithTheTextThatWasTyped) {
   Load("a b");
   auto& field = Glass<QLineEdit>(view, "txtCharColTitle");
@@ -168,6 +202,7 @@ TEST_F(QtViewTest, ASecondViewShowsWhatTheControlHoldsAlready) {
   EXPECT_EQ(second.size(), QSize(645, 396));
   EXPECT_EQ(shown.layoutDirection(), Qt::LeftToRight) << "the layout is not mirrored";
   dialog.Get<ListBox>(u"lstPrint", 1).AddItem(u"new");
+  QApplication::processEvents();
   EXPECT_EQ(shown.model()->rowCount(), 3);
 }
 
