@@ -16,6 +16,7 @@ function(prnprop_discover_tests target)
   if(CMAKE_CROSSCOMPILING)
     add_test(NAME ${target} COMMAND ${target} --gtest_brief=1)
   else()
-    gtest_discover_tests(${target} ${ARGN})
+    # A machine that does much else takes its time, too.
+    gtest_discover_tests(${target} DISCOVERY_TIMEOUT 120 ${ARGN})
   endif()
 endfunction()
