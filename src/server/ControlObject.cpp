@@ -2,8 +2,6 @@
 
 #include <olectl.h>
 
-#include <optional>
-
 #include "automation/DispatchTable.h"
 #include "automation/Variants.h"
 #include "views/win32/WindowsPlatform.h"
@@ -32,6 +30,7 @@ STDMETHODIMP ControlObject::ORXSetPrnTables(IDispatch* GenPropTable, IDispatch* 
     const bool loaded = control_.ORXSetPrnTables(DispatchTable::Of(GenPropTable), DispatchTable::Of(DimTable),
                                                  DispatchTable::Of(MemTable), DispatchTable::Of(AtrTable));
     *Loaded = loaded ? VARIANT_TRUE : VARIANT_FALSE;
+    DialogChanged();
     return S_OK;
   });
 }
@@ -65,6 +64,7 @@ STDMETHODIMP ControlObject::ORXControlTexts(IDispatch* TextTable, VARIANT_BOOL* 
   *AlwaysFalse = VARIANT_FALSE;
   return Call([&] {
     control_.ORXControlTexts(DispatchTable::Of(TextTable));
+    DialogChanged();
     return S_OK;
   });
 }
@@ -82,6 +82,7 @@ STDMETHODIMP ControlObject::ORXSetPrintLayout(BSTR FBLayout, VARIANT ButtonID, B
 STDMETHODIMP ControlObject::ORXSetReadOnly(VARIANT_BOOL ReadOnly) {
   return Call([&] {
     control_.ORXSetReadOnly(ReadOnly != VARIANT_FALSE);
+    DialogChanged();
     return S_OK;
   });
 }
@@ -124,22 +125,5 @@ void ControlObject::ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIOb
 }
 
 void ControlObject::ORXOrderChanged() { sinks_->Raise(2, nullptr, 0); }
-
-STDMETHODIMP ControlObject::Use(BSTR widget, short place) {
-  return Call([&] {
-    Widget* const used = control_.GetDialog().FindSpelled(TextOf(widget));
-    if (!used) return E_INVALIDARG;
-    std::optional<Refusal> refused;
-    if (auto* const button = dynamic_cast<CommandButton*>(used)) refused = button->UserPress();
-    if (auto* const box = dynamic_cast<CheckBox*>(used)) refused = box->UserToggle();
-    if (auto* const combo = dynamic_cast<ComboBox*>(used)) refused = combo->UserPick(place);
-    if (auto* const tabs = dynamic_cast<SSTab*>(used)) refused = tabs->UserPick(place);
-    if (auto* const list = dynamic_cast<ListBox*>(used)) {
-      refused = list->UserMouseDown(place, ListBox::kLeftButton);
-      if (refused == Refusal::None) list->UserMouseUp(ListBox::kLeftButton);
-    }
-    return refused == Refusal::None ? S_OK : S_FALSE;
-  });
-}
 
 }  // namespace ORXKMPrintProp::server

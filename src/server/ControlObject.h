@@ -13,8 +13,7 @@ namespace ORXKMPrintProp::server {
 /// The control as other programs have it: early-bound, late-bound, with sinks for its events.
 ///
 /// What fails inside is the failure of the call, with the thread's error information; no exception goes out.
-class ControlObject final : public InPlaceControl,
-                            private ORXQueryPrnPropEvents {
+class ControlObject final : public InPlaceControl, private ORXQueryPrnPropEvents {
  public:
   ControlObject();
 
@@ -33,8 +32,6 @@ class ControlObject final : public InPlaceControl,
 
   STDMETHODIMP GetClassInfo(ITypeInfo** info) override;
   STDMETHODIMP GetGUID(DWORD kind, GUID* id) override;
-
-  STDMETHODIMP Use(BSTR widget, short place) override;
 
  private:
   ~ControlObject() override;

@@ -31,6 +31,11 @@ SIZE PixelsOf(const SIZEL& extent) {
 
 bool IsDown(int key) { return ::GetKeyState(key) < 0; }
 
+bool IsTab(const MSG& message) { return message.message == WM_KEYDOWN && message.wParam == VK_TAB; }
+
+/// Into which end of the dialog the Tab key leads, 0 when it is not the Tab key that leads there.
+int StepOf(bool isTab) { return !isTab ? 0 : IsDown(VK_SHIFT) ? -1 : 1; }
+
 /// Keys that a widget wants, which a container would take for itself.
 bool IsForWidget(const MSG& message) {
   return message.message == WM_KEYDOWN && message.wParam >= VK_PRIOR && message.wParam <= VK_DOWN;
@@ -59,9 +64,9 @@ struct InPlaceControl::WindowClass {
 
 HWND InPlaceControl::MakeWindow(HWND parent, DWORD style) {
   static const WindowClass windowClass;
-  const HWND window = ::CreateWindowExW(WS_EX_CONTROLPARENT, WindowClass::kName, nullptr,
-                                        style | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, 0, 0, 0, 0, parent, nullptr,
-                                        win32::OwnModule(), nullptr);
+  const HWND window =
+      ::CreateWindowExW(WS_EX_CONTROLPARENT, WindowClass::kName, nullptr, style | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, 0,
+                        0, 0, 0, parent, nullptr, win32::OwnModule(), nullptr);
   if (!window) throw std::runtime_error("The window of the control can't be made.");
   return window;
 }
@@ -70,17 +75,16 @@ LRESULT CALLBACK InPlaceControl::Receive(HWND window, UINT message, WPARAM wPara
   auto* const control = reinterpret_cast<InPlaceControl*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
   if (control) {
     const ComRef<IUnknown> held(control->Identity());
-    if (message == WM_MOUSEACTIVATE && !control->hasUI_) control->ActivateUI(nullptr);
+    if (message == WM_MOUSEACTIVATE && !control->hasUI_) control->ActivateUI(0);
     if (message == WM_SETFOCUS) {
-      control->ActivateUI(nullptr);
-      if (control->view_) control->view_->TakeFocus(IsDown(VK_TAB) ? IsDown(VK_SHIFT) ? -1 : 1 : 0);
+      control->ActivateUI(StepOf(IsDown(VK_TAB)));
       return 0;
     }
     if (message == WM_NCDESTROY) {
       // By the container, without a word: it is told of nothing more.
       ::SetWindowLongPtrW(window, GWLP_USERDATA, 0);
       control->window_ = nullptr;
-      control->hasUI_ = false;
+      control->hasUI_ = control->hasFocus_ = false;
       control->view_ = nullptr;
       control->frame_ = nullptr;
       control->document_ = nullptr;
@@ -94,7 +98,10 @@ std::unique_ptr<win32::PrnPropView> InPlaceControl::MakeView(HWND parent) {
   win32::Reports reports;
   // The failure of a handler is the host's own, and no call is under way that could give it back.
   reports.failed = [](const Text& why) { ::OutputDebugStringW(reinterpret_cast<const wchar_t*>(why.c_str())); };
-  reports.focused = [this] { ActivateUI(nullptr); };
+  reports.focused = [this](bool has) {
+    if (has) ActivateUI(0);
+    TellFocus(has && hasUI_);
+  };
   reports.left = [this](int step) { LeaveBy(step); };
   reports.hold = [this] { return std::make_shared<ComRef<IUnknown>>(Identity()); };
   auto view = std::make_unique<win32::PrnPropView>(GetDialog(), parent, std::move(reports));
@@ -154,17 +161,26 @@ STDMETHODIMP InPlaceControl::DoVerb(LONG verb, MSG* message, IOleClientSite*, LO
     switch (verb) {
       case OLEIVERB_INPLACEACTIVATE:
       case OLEIVERB_SHOW:
-      case OLEIVERB_OPEN: return Activate();
+      case OLEIVERB_OPEN:
+        return Activate();
       case OLEIVERB_PRIMARY:
       case OLEIVERB_UIACTIVATE: {
         const HRESULT active = Activate();
-        return SUCCEEDED(active) && !IsDesigned() ? ActivateUI(message) : active;
+        return SUCCEEDED(active) && TakesInput() ? ActivateUI(StepOf(message && IsTab(*message))) : active;
       }
       case OLEIVERB_HIDE:
         UIDeactivate();
         if (window_) ::ShowWindow(window_, SW_HIDE);
         return S_OK;
-      default: break;
+      case OLEIVERB_PROPERTIES: {
+        // The control has none; the container may have some of its own for it.
+        const ComRef<IOleControlSite> site = site_.As<IOleControlSite>();
+        return site ? site->ShowPropertyFrame() : E_NOTIMPL;
+      }
+      case OLEIVERB_DISCARDUNDOSTATE:
+        return S_OK;
+      default:
+        break;
     }
     if (verb < 0) return E_NOTIMPL;
     const HRESULT active = Activate();
@@ -214,28 +230,36 @@ HRESULT InPlaceControl::Activate() {
   return S_OK;
 }
 
-HRESULT InPlaceControl::ActivateUI(const MSG* message) {
+HRESULT InPlaceControl::ActivateUI(int step) {
   if (!hasUI_ && inPlaceSite_) {
     hasUI_ = true;
     const ComRef<IOleInPlaceSite> site = inPlaceSite_;
-    const ComRef<IOleInPlaceFrame> frame = frame_;
-    const ComRef<IOleInPlaceUIWindow> document = document_;
     if (const HRESULT result = site->OnUIActivate(); FAILED(result)) {
       hasUI_ = false;
       return result;
     }
-    if (frame) frame->SetActiveObject(this, nullptr);
-    if (document) document->SetActiveObject(this, nullptr);
-    // The control has no tools of its own.
-    if (frame) frame->SetBorderSpace(nullptr);
-    if (document) document->SetBorderSpace(nullptr);
-    if (const ComRef<IOleControlSite> told = site_.As<IOleControlSite>()) told->OnFocus(TRUE);
+    TellActive(true);
   }
-  if (view_ && !view_->HasFocus()) {
-    const bool tab = message && message->message == WM_KEYDOWN && message->wParam == VK_TAB;
-    view_->TakeFocus(tab ? IsDown(VK_SHIFT) ? -1 : 1 : 0);
-  }
+  if (hasUI_ && view_ && !view_->HasFocus()) view_->TakeFocus(step);
   return S_OK;
+}
+
+void InPlaceControl::TellActive(bool isActive) {
+  IOleInPlaceActiveObject* const object = isActive ? this : nullptr;
+  const ComRef<IOleInPlaceFrame> frame = frame_;
+  const ComRef<IOleInPlaceUIWindow> document = document_;
+  for (IOleInPlaceUIWindow* const window : {static_cast<IOleInPlaceUIWindow*>(frame.Get()), document.Get()}) {
+    // The one before may have led to the opposite, and that has been told.
+    if (!window || hasUI_ != isActive) continue;
+    window->SetActiveObject(object, nullptr);
+    // The control has no tools of its own.
+    if (isActive && hasUI_) window->SetBorderSpace(nullptr);
+  }
+}
+
+void InPlaceControl::TellFocus(bool has) {
+  if (std::exchange(hasFocus_, has) == has) return;
+  if (const ComRef<IOleControlSite> told = site_.As<IOleControlSite>()) told->OnFocus(has);
 }
 
 STDMETHODIMP InPlaceControl::EnumVerbs(IEnumOLEVERB** verbs) {
@@ -252,7 +276,7 @@ STDMETHODIMP InPlaceControl::SetExtent(DWORD aspect, SIZEL* size) {
   if (size->cx < 0 || size->cy < 0) return E_INVALIDARG;
   return Call([&] {
     extent_ = *size;
-    if (const ComRef<IAdviseSink> told = viewSink_) told->OnViewChange(DVASPECT_CONTENT, -1);
+    TellViewChange();
     return S_OK;
   });
 }
@@ -297,19 +321,26 @@ STDMETHODIMP InPlaceControl::GetControlInfo(CONTROLINFO* info) {
 
 STDMETHODIMP InPlaceControl::OnAmbientPropertyChange(DISPID id) {
   return Call([&] {
-    if (window_ && (id == DISPID_AMBIENT_USERMODE || id == DISPID_UNKNOWN)) ::EnableWindow(window_, !IsDesigned());
+    if (id != DISPID_AMBIENT_USERMODE && id != DISPID_AMBIENT_UIDEAD && id != DISPID_UNKNOWN) return S_OK;
+    const bool takesInput = TakesInput();
+    if (!takesInput) UIDeactivate();
+    if (window_) ::EnableWindow(window_, takesInput);
     return S_OK;
   });
 }
 
-bool InPlaceControl::IsDesigned() const {
+bool InPlaceControl::TakesInput() const {
+  return Ambient(DISPID_AMBIENT_USERMODE, true) && !Ambient(DISPID_AMBIENT_UIDEAD, false);
+}
+
+bool InPlaceControl::Ambient(DISPID id, bool otherwise) const {
   const ComRef<IDispatch> ambient = site_.As<IDispatch>();
-  if (!ambient) return false;
+  if (!ambient) return otherwise;
   DISPPARAMS none{};
-  OwnedVariant mode;
-  const HRESULT got = ambient->Invoke(DISPID_AMBIENT_USERMODE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none,
-                                      &mode, nullptr, nullptr);
-  return SUCCEEDED(got) && mode.vt == VT_BOOL && mode.boolVal == VARIANT_FALSE;
+  OwnedVariant value;
+  const HRESULT got =
+      ambient->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, &value, nullptr, nullptr);
+  return SUCCEEDED(got) && value.vt == VT_BOOL ? value.boolVal != VARIANT_FALSE : otherwise;
 }
 
 // --- IOleInPlaceObject, IOleInPlaceActiveObject ---
@@ -336,12 +367,11 @@ STDMETHODIMP InPlaceControl::UIDeactivate() {
   return Call([&] {
     if (!std::exchange(hasUI_, false)) return S_OK;
     const ComRef<IOleInPlaceSite> site = inPlaceSite_;
-    const ComRef<IOleInPlaceFrame> frame = frame_;
-    const ComRef<IOleInPlaceUIWindow> document = document_;
-    if (frame) frame->SetActiveObject(nullptr, nullptr);
-    if (document) document->SetActiveObject(nullptr, nullptr);
-    if (const ComRef<IOleControlSite> told = site_.As<IOleControlSite>()) told->OnFocus(FALSE);
+    TellActive(false);
+    TellFocus(false);
     if (site) site->OnUIDeactivate(FALSE);
+    // Keys are not to go on coming here.
+    if (!hasUI_ && view_ && view_->HasFocus()) ::SetFocus(::GetParent(window_));
     return S_OK;
   });
 }
@@ -368,15 +398,17 @@ STDMETHODIMP InPlaceControl::SetObjectRects(LPCRECT position, LPCRECT clip) {
 STDMETHODIMP InPlaceControl::TranslateAccelerator(MSG* message) {
   if (!message) return E_POINTER;
   return Call([&] {
-    if (!view_) return S_FALSE;
-    keyStays_ = false;
-    if (view_->TakeKey(*message)) return keyStays_ ? S_FALSE : S_OK;
+    isTabRefused_ = false;
+    if (!view_ || message->message < WM_KEYFIRST || message->message > WM_KEYLAST) return S_FALSE;
+    if (view_->TakeKey(*message)) return S_OK;
     if (IsForWidget(*message) && view_ && view_->HasFocus()) {
       ::TranslateMessage(message);
       ::DispatchMessageW(message);
       return S_OK;
     }
-    return OfferKey(*message) ? S_OK : S_FALSE;
+    if (OfferKey(*message)) return S_OK;
+    isTabRefused_ = IsTab(*message);
+    return S_FALSE;
   });
 }
 
@@ -387,12 +419,13 @@ bool InPlaceControl::OfferKey(const MSG& message) const {
   return site && site->TranslateAccelerator(&offered, modifiers) == S_OK;
 }
 
-void InPlaceControl::LeaveBy(int) {
+void InPlaceControl::LeaveBy(int step) {
   MSG message{};
   message.hwnd = ::GetFocus();
   message.message = WM_KEYDOWN;
   message.wParam = VK_TAB;
-  keyStays_ = !OfferKey(message);
+  if (!std::exchange(isTabRefused_, false) && OfferKey(message)) return;
+  if (view_) view_->TakeFocus(step);
 }
 
 // --- IViewObject2 ---
@@ -415,13 +448,25 @@ STDMETHODIMP InPlaceControl::Draw(DWORD aspect, LONG, void*, DVTARGETDEVICE*, HD
 }
 
 STDMETHODIMP InPlaceControl::SetAdvise(DWORD aspects, DWORD flags, IAdviseSink* sink) {
+  if (sink && !(aspects & DVASPECT_CONTENT)) return DV_E_DVASPECT;
   return Call([&] {
     viewAspects_ = aspects;
     viewFlags_ = flags;
     viewSink_ = ComRef(sink);
-    if (sink && (flags & ADVF_PRIMEFIRST)) sink->OnViewChange(DVASPECT_CONTENT, -1);
+    if (flags & ADVF_PRIMEFIRST) TellViewChange();
     return S_OK;
   });
+}
+
+void InPlaceControl::TellViewChange() {
+  const ComRef<IAdviseSink> told = viewSink_;
+  if (viewFlags_ & ADVF_ONLYONCE) viewSink_ = nullptr;
+  if (told) told->OnViewChange(DVASPECT_CONTENT, -1);
+}
+
+void InPlaceControl::DialogChanged() {
+  // While it is active the window shows it.
+  if (!window_) TellViewChange();
 }
 
 STDMETHODIMP InPlaceControl::GetAdvise(DWORD* aspects, DWORD* flags, IAdviseSink** sink) {
@@ -451,12 +496,17 @@ STDMETHODIMP InPlaceControl::QuickActivate(QACONTAINER* container, QACONTROL* co
     const ULONG size = control->cbSize;
     *control = {};
     control->cbSize = size;
-    SetClientSite(container->pClientSite);
-    if (container->pAdviseSink) SetAdvise(DVASPECT_CONTENT, 0, container->pAdviseSink);
-    if (container->pUnkEventSink) {
+    HRESULT result = SetClientSite(container->pClientSite);
+    if (SUCCEEDED(result) && container->pAdviseSink) result = SetAdvise(DVASPECT_CONTENT, 0, container->pAdviseSink);
+    if (SUCCEEDED(result) && container->pUnkEventSink) {
       ComRef<IConnectionPoint> events;
       FindConnectionPoint(__uuidof(__ORXQueryPrnProp), events.Out());
-      events->Advise(container->pUnkEventSink, &control->dwEventCookie);
+      result = events->Advise(container->pUnkEventSink, &control->dwEventCookie);
+    }
+    if (FAILED(result)) {
+      SetAdvise(0, 0, nullptr);
+      SetClientSite(nullptr);
+      return result;
     }
     control->dwMiscStatus = kMiscStatus;
     control->dwViewStatus = VIEWSTATUS_OPAQUE;

@@ -7,7 +7,6 @@
 
 #include "automation/ComRef.h"
 #include "automation/Failures.h"
-#include "server/DialogUser.h"
 #include "server/DualObject.h"
 #include "views/win32/PrnPropView.h"
 
@@ -20,9 +19,9 @@ inline constexpr const wchar_t* kMiscStatusText = L"131473";
 
 /// The control in the window of a container. It shows the dialog while it is active in place, draws it while it is
 /// not, and keeps nothing.
-class InPlaceControl : public DualObject<_ORXQueryPrnProp, IConnectionPointContainer, IProvideClassInfo2, IDialogUser,
-                                         IOleObject, IOleControl, IOleInPlaceObject, IOleInPlaceActiveObject,
-                                         IViewObject2, IPersistStreamInit, IPersistPropertyBag, IQuickActivate> {
+class InPlaceControl : public DualObject<_ORXQueryPrnProp, IConnectionPointContainer, IProvideClassInfo2, IOleObject,
+                                         IOleControl, IOleInPlaceObject, IOleInPlaceActiveObject, IViewObject2,
+                                         IPersistStreamInit, IPersistPropertyBag, IQuickActivate> {
  public:
   // IOleObject
   STDMETHODIMP SetClientSite(IOleClientSite* site) override;
@@ -59,7 +58,7 @@ class InPlaceControl : public DualObject<_ORXQueryPrnProp, IConnectionPointConta
   STDMETHODIMP InPlaceDeactivate() override;
   STDMETHODIMP UIDeactivate() override;
   STDMETHODIMP SetObjectRects(LPCRECT position, LPCRECT clip) override;
-  STDMETHODIMP ReactivateAndUndo() override { return E_NOTIMPL; }
+  STDMETHODIMP ReactivateAndUndo() override { return INPLACE_E_NOTUNDOABLE; }
   STDMETHODIMP TranslateAccelerator(MSG* message) override;
   STDMETHODIMP OnFrameWindowActivate(BOOL) override { return S_OK; }
   STDMETHODIMP OnDocWindowActivate(BOOL) override { return S_OK; }
@@ -97,6 +96,8 @@ class InPlaceControl : public DualObject<_ORXQueryPrnProp, IConnectionPointConta
   /// For the class that has the dialog, ahead of the dialog's end.
   void End();
   virtual Dialog& GetDialog() = 0;
+  /// For the class that has the dialog, when a call from outside has changed that.
+  void DialogChanged();
   void* FindBase(REFIID id) override;
 
   /// Runs the body of a call from outside, during which the control does not end.
@@ -129,9 +130,15 @@ class InPlaceControl : public DualObject<_ORXQueryPrnProp, IConnectionPointConta
   std::unique_ptr<win32::PrnPropView> MakeView(HWND parent);
   /// Shows the control in its container. @throws std::runtime_error
   HRESULT Activate();
-  HRESULT ActivateUI(const MSG* message);
+  /// @param step where the focus goes, if it is not in the dialog, as for `PrnPropView::TakeFocus`
+  HRESULT ActivateUI(int step);
+  /// Tells the container's windows whether this is the object that is active in them.
+  void TellActive(bool isActive);
+  void TellFocus(bool has);
+  void TellViewChange();
   void CloseWindow();
-  bool IsDesigned() const;
+  bool TakesInput() const;
+  bool Ambient(DISPID id, bool otherwise) const;
   void LeaveBy(int step);
   /// Whether the container has taken the key.
   bool OfferKey(const MSG& message) const;
@@ -149,7 +156,8 @@ class InPlaceControl : public DualObject<_ORXQueryPrnProp, IConnectionPointConta
   HWND window_ = nullptr;
   std::unique_ptr<win32::PrnPropView> view_;
   bool hasUI_ = false;
-  bool keyStays_ = false;  ///< the container has not taken the key that leads out
+  bool hasFocus_ = false;      ///< as the site has been told
+  bool isTabRefused_ = false;  ///< the site has not taken the Tab key that comes to the dialog now
 };
 
 }  // namespace ORXKMPrintProp::server

@@ -1,138 +1,12 @@
-// A host of the component: it hands in tables of its own, hears the events, and reads the settings back.
+// A host of the component: it holds the control in a window of its own, hands in tables, hears the events, and reads
+// the settings back when the window is closed.
+#include <ocidl.h>
 #include <olectl.h>
 
 #include <cstdio>
-#include <cwchar>
-#include <functional>
-#include <map>
-#include <string>
-#include <vector>
 
-#include "DialogUser.h"
 #include "ORXKMPrintProp.h"
-
-using ORXKMPrintProp::server::IDialogUser;
-
-/// An object that is called by its members' names.
-class Object : public IDispatch {
- public:
-  /// What a member does: its arguments stand in reverse, the value of a property that is set ahead of them.
-  using Member = std::function<HRESULT(DISPPARAMS& arguments, VARIANT* result)>;
-
-  virtual ~Object() = default;
-  STDMETHODIMP QueryInterface(REFIID id, void** object) override {
-    const bool has = id == IID_IUnknown || id == IID_IDispatch;
-    *object = has ? this : nullptr;
-    if (has) AddRef();
-    return has ? S_OK : E_NOINTERFACE;
-  }
-  STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
-  STDMETHODIMP_(ULONG) Release() override {
-    if (references_ > 1) return --references_;
-    delete this;
-    return 0;
-  }
-  STDMETHODIMP GetTypeInfoCount(UINT* count) override { return *count = 0, S_OK; }
-  STDMETHODIMP GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-  STDMETHODIMP GetIDsOfNames(REFIID, OLECHAR** names, UINT, LCID, DISPID* ids) override {
-    for (std::size_t i = 0; i < members_.size(); ++i) {
-      if (members_[i].first == names[0]) return ids[0] = static_cast<DISPID>(i + 1), S_OK;
-    }
-    return ids[0] = DISPID_UNKNOWN, DISP_E_UNKNOWNNAME;
-  }
-  STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS* arguments, VARIANT* result, EXCEPINFO*,
-                      UINT*) override {
-    if (id < 1 || static_cast<std::size_t>(id) > members_.size()) return DISP_E_MEMBERNOTFOUND;
-    return members_[static_cast<std::size_t>(id) - 1].second(*arguments, result);
-  }
-
- protected:
-  void Add(std::wstring name, Member member) { members_.emplace_back(std::move(name), std::move(member)); }
-  static HRESULT Give(VARIANT* result, IDispatch* object) {
-    object->AddRef();
-    result->vt = VT_DISPATCH;
-    result->pdispVal = object;
-    return S_OK;
-  }
-  static HRESULT Give(VARIANT* result, std::size_t number) {
-    result->vt = VT_I4;
-    result->lVal = static_cast<LONG>(number);
-    return S_OK;
-  }
-
- private:
-  std::vector<std::pair<std::wstring, Member>> members_;
-  ULONG references_ = 0;
-};
-
-/// A cell that has not been set is empty; every column is there.
-class Row : public Object {
- public:
-  explicit Row(std::size_t number) {
-    Add(L"RowNumber", [number](DISPPARAMS&, VARIANT* result) { return Give(result, number); });
-    Add(L"Value", [this](DISPPARAMS& arguments, VARIANT* result) {
-      VARIANT& cell = cells_[arguments.rgvarg[arguments.cArgs - 1].bstrVal];
-      return arguments.cArgs == 2 ? VariantCopy(&cell, &arguments.rgvarg[0]) : VariantCopy(result, &cell);
-    });
-  }
-  ~Row() override {
-    for (auto& [column, cell] : cells_) VariantClear(&cell);
-  }
-
-  void Set(const wchar_t* column, const wchar_t* text) {
-    VARIANT& cell = cells_[column];
-    cell.vt = VT_BSTR;
-    cell.bstrVal = SysAllocString(text);
-  }
-  std::wstring Text(const wchar_t* column) {
-    VARIANT text{};
-    VariantChangeType(&text, &cells_[column], 0, VT_BSTR);
-    const std::wstring copy(text.bstrVal ? text.bstrVal : L"");
-    VariantClear(&text);
-    return copy;
-  }
-
- private:
-  std::map<std::wstring, VARIANT> cells_;
-};
-
-/// A table that is its own list of rows. It has no enumerator: `Count` and `Item` do.
-class Table : public Object {
- public:
-  Table() {
-    Add(L"RowCount", [this](DISPPARAMS&, VARIANT* result) { return Give(result, rows_.size()); });
-    Add(L"Count", [this](DISPPARAMS&, VARIANT* result) { return Give(result, rows_.size()); });
-    Add(L"Rows", [this](DISPPARAMS& arguments, VARIANT* result) {
-      return arguments.cArgs == 0 ? Give(result, this) : GiveRow(arguments, result);
-    });
-    Add(L"Item", [this](DISPPARAMS& arguments, VARIANT* result) { return GiveRow(arguments, result); });
-    Add(L"Add", [this](DISPPARAMS&, VARIANT* result) { return Give(result, &AddRow()); });
-    Add(L"RemoveAll", [this](DISPPARAMS&, VARIANT*) { return RemoveAll(), S_OK; });
-  }
-  ~Table() override { RemoveAll(); }
-
-  Row& AddRow() {
-    rows_.push_back(new Row(rows_.size() + 1));
-    rows_.back()->AddRef();
-    return *rows_.back();
-  }
-  const std::vector<Row*>& All() const { return rows_; }
-
- private:
-  void RemoveAll() {
-    for (Row* const row : rows_) row->Release();
-    rows_.clear();
-  }
-  HRESULT GiveRow(DISPPARAMS& arguments, VARIANT* result) {
-    VARIANT number{};
-    const HRESULT converted = VariantChangeType(&number, &arguments.rgvarg[0], 0, VT_I4);
-    if (FAILED(converted)) return converted;
-    const auto place = static_cast<std::size_t>(number.lVal) - 1;
-    return place < rows_.size() ? Give(result, rows_[place]) : DISP_E_BADINDEX;
-  }
-
-  std::vector<Row*> rows_;
-};
+#include "Tables.h"
 
 /// Hears the events: a layout button is answered with a layout.
 class Sink : public Object {
@@ -160,6 +34,52 @@ class Sink : public Object {
   _ORXQueryPrnProp& control_;
 };
 
+/// Where the control is: what it asks and tells a container. This one has no tools, menus or frame for it.
+class Site : public IOleClientSite, public IOleInPlaceSite {
+ public:
+  explicit Site(HWND window) : window_(window) {}
+
+  STDMETHODIMP QueryInterface(REFIID id, void** object) override {
+    *object = nullptr;
+    if (id == IID_IUnknown || id == IID_IOleClientSite) *object = static_cast<IOleClientSite*>(this);
+    if (id == IID_IOleWindow || id == IID_IOleInPlaceSite) *object = static_cast<IOleInPlaceSite*>(this);
+    return *object ? S_OK : E_NOINTERFACE;
+  }
+  // It lives longer than the control, which is told to close.
+  STDMETHODIMP_(ULONG) AddRef() override { return 1; }
+  STDMETHODIMP_(ULONG) Release() override { return 1; }
+
+  STDMETHODIMP GetWindow(HWND* window) override { return *window = window_, S_OK; }
+  STDMETHODIMP GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, RECT* place, RECT* clip,
+                                OLEINPLACEFRAMEINFO*) override {
+    *frame = nullptr;
+    *document = nullptr;
+    GetClientRect(window_, place);
+    *clip = *place;
+    return S_OK;
+  }
+  STDMETHODIMP CanInPlaceActivate() override { return S_OK; }
+  STDMETHODIMP OnInPlaceActivate() override { return S_OK; }
+  STDMETHODIMP OnUIActivate() override { return S_OK; }
+  STDMETHODIMP OnUIDeactivate(BOOL) override { return S_OK; }
+  STDMETHODIMP OnInPlaceDeactivate() override { return S_OK; }
+  STDMETHODIMP ShowObject() override { return S_OK; }
+  STDMETHODIMP OnShowWindow(BOOL) override { return S_OK; }
+
+  STDMETHODIMP SaveObject() override { return E_NOTIMPL; }
+  STDMETHODIMP GetMoniker(DWORD, DWORD, IMoniker**) override { return E_NOTIMPL; }
+  STDMETHODIMP GetContainer(IOleContainer**) override { return E_NOTIMPL; }
+  STDMETHODIMP RequestNewObjectLayout() override { return E_NOTIMPL; }
+  STDMETHODIMP ContextSensitiveHelp(BOOL) override { return E_NOTIMPL; }
+  STDMETHODIMP Scroll(SIZE) override { return E_NOTIMPL; }
+  STDMETHODIMP DiscardUndoState() override { return E_NOTIMPL; }
+  STDMETHODIMP DeactivateAndUndo() override { return E_NOTIMPL; }
+  STDMETHODIMP OnPosRectChange(LPCRECT) override { return E_NOTIMPL; }
+
+ private:
+  HWND window_;
+};
+
 /// Tells the failure of a call, with the words of the component.
 bool Succeeds(HRESULT result) {
   if (SUCCEEDED(result)) return true;
@@ -174,57 +94,99 @@ bool Succeeds(HRESULT result) {
   return false;
 }
 
-/// There is no window here: this program is the user, too.
-bool Use(_ORXQueryPrnProp& control, const wchar_t* widget, short place = 0) {
-  IDialogUser* user = nullptr;
-  if (!Succeeds(control.QueryInterface(__uuidof(IDialogUser), reinterpret_cast<void**>(&user)))) return false;
-  const BSTR name = SysAllocString(widget);
-  const bool used = Succeeds(user->Use(name, place));
-  SysFreeString(name);
-  user->Release();
-  return used;
+/// The same object by another interface, which the control has.
+template <class Interface>
+Interface* As(_ORXQueryPrnProp& control) {
+  Interface* other = nullptr;
+  control.QueryInterface(__uuidof(Interface), reinterpret_cast<void**>(&other));
+  return other;
 }
 
-/// The four tables of a query, which live as long as somebody holds them.
-struct Tables {
-  Tables() {
-    for (Table* const table : All()) table->AddRef();
-    Row& page = general->AddRow();
-    for (const wchar_t* const margin : {L"MARGIN_TOP", L"MARGIN_BOTTOM", L"MARGIN_LEFT", L"MARGIN_RIGHT"}) {
-      page.Set(margin, L"10");
-    }
-    for (const wchar_t* const name : {L"REGION", L"CUSTOMER", L"MONTH"}) {
-      Row& row = dimension->AddRow();
-      for (const wchar_t* const text : {L"IOBJNM", L"IOBJTXT"}) row.Set(text, name);
-      for (const wchar_t* const number : {L"POSIT", L"PR_COL1_WIDTH", L"PR_COL2_WIDTH", L"STRT_LVL"}) {
-        row.Set(number, L"0");
-      }
-      row.Set(L"AXIS", name == std::wstring(L"MONTH") ? L"" : L"Y");
-    }
+/// A window with the control in it.
+class Window {
+ public:
+  explicit Window(_ORXQueryPrnProp& control)
+      : object_(As<IOleObject>(control)),
+        place_(As<IOleInPlaceObject>(control)),
+        keys_(As<IOleInPlaceActiveObject>(control)) {
+    SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   }
-  ~Tables() {
-    for (Table* const table : All()) table->Release();
+  ~Window() {
+    object_->Close(OLECLOSE_NOSAVE);
+    object_->SetClientSite(nullptr);
+    for (IUnknown* const one :
+         {static_cast<IUnknown*>(object_), static_cast<IUnknown*>(place_), static_cast<IUnknown*>(keys_)}) {
+      one->Release();
+    }
+    SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+    DestroyWindow(window_);
   }
-  Tables(const Tables&) = delete;
-  Tables& operator=(const Tables&) = delete;
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
 
-  std::vector<Table*> All() const { return {general, dimension, member, attribute}; }
+  /// Until it is closed.
+  HRESULT Show() {
+    SIZEL extent{};
+    object_->SetClientSite(&site_);
+    object_->GetExtent(DVASPECT_CONTENT, &extent);
+    const HDC screen = GetDC(nullptr);
+    constexpr int kHimetricPerInch = 2540;
+    RECT place{0, 0, MulDiv(extent.cx, GetDeviceCaps(screen, LOGPIXELSX), kHimetricPerInch),
+               MulDiv(extent.cy, GetDeviceCaps(screen, LOGPIXELSY), kHimetricPerInch)};
+    ReleaseDC(nullptr, screen);
+    AdjustWindowRect(&place, kStyle, FALSE);
+    SetWindowPos(window_, nullptr, 0, 0, place.right - place.left, place.bottom - place.top,
+                 SWP_NOMOVE | SWP_NOZORDER | SWP_SHOWWINDOW);
+    const HRESULT shown = object_->DoVerb(OLEIVERB_UIACTIVATE, nullptr, &site_, 0, window_, nullptr);
+    MSG message{};
+    while (SUCCEEDED(shown) && GetMessageW(&message, nullptr, 0, 0) > 0) {
+      // Keys are the control's first: Tab would leave it otherwise.
+      const bool isKey = message.message >= WM_KEYFIRST && message.message <= WM_KEYLAST;
+      if (isKey && keys_->TranslateAccelerator(&message) == S_OK) continue;
+      TranslateMessage(&message);
+      DispatchMessageW(&message);
+    }
+    return shown;
+  }
 
-  Table* general = new Table;
-  Table* dimension = new Table;
-  Table* member = new Table;
-  Table* attribute = new Table;
+ private:
+  static constexpr DWORD kStyle = WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN;
+
+  static HWND Make() {
+    WNDCLASSW kind{};
+    kind.lpfnWndProc = Receive;
+    kind.hCursor = LoadCursorW(nullptr, reinterpret_cast<LPCWSTR>(IDC_ARROW));
+    kind.lpszClassName = L"client";
+    RegisterClassW(&kind);
+    return CreateWindowExW(0, kind.lpszClassName, L"Print settings", kStyle, CW_USEDEFAULT, CW_USEDEFAULT, 0, 0,
+                           nullptr, nullptr, nullptr, nullptr);
+  }
+  static LRESULT CALLBACK Receive(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    Window* const self = reinterpret_cast<Window*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (message == WM_CLOSE) return PostQuitMessage(0), 0;
+    if (self && message == WM_SIZE) {
+      RECT place{};
+      GetClientRect(window, &place);
+      self->place_->SetObjectRects(&place, &place);
+    }
+    if (self && message == WM_SETFOCUS) {
+      self->object_->DoVerb(OLEIVERB_UIACTIVATE, nullptr, &self->site_, 0, window, nullptr);
+    }
+    return DefWindowProcW(window, message, wParam, lParam);
+  }
+
+  HWND window_ = Make();
+  Site site_{window_};
+  IOleObject* object_;
+  IOleInPlaceObject* place_;
+  IOleInPlaceActiveObject* keys_;
 };
 
 bool Work(_ORXQueryPrnProp& control) {
   const Tables tables;
   VARIANT_BOOL loaded = VARIANT_FALSE;
   if (!Succeeds(control.ORXSetPrnTables(tables.general, tables.dimension, tables.member, tables.attribute, &loaded)) ||
-      !loaded) {
-    return false;
-  }
-  if (!Use(control, L"cmdPrintLayout(0)") || !Use(control, L"tstPrint", 1) || !Use(control, L"lstAvail(1)", 0) ||
-      !Use(control, L"cmdLeftToRight(1)")) {
+      !loaded || !Succeeds(Window(control).Show())) {
     return false;
   }
   IDispatch* given = nullptr;

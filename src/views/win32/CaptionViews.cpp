@@ -19,7 +19,7 @@ void FrameView::Refresh() {
 
 void LabelView::Refresh() {
   WidgetView::Refresh();
-  ShowCaption(Size().cx);
+  ShowCaption(Size().cx, true);
 }
 
 void ButtonView::Refresh() {

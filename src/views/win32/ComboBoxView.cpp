@@ -10,7 +10,9 @@
 namespace ORXKMPrintProp::win32 {
 namespace {
 
-constexpr WPARAM kShowPicked = static_cast<WPARAM>(-1);  ///< in the place of an entry to pick
+/// In the place of an entry to pick.
+constexpr WPARAM kShowPicked = static_cast<WPARAM>(-1);
+constexpr WPARAM kShowEntries = static_cast<WPARAM>(-2);
 constexpr int kOpenEntries = 10;  ///< that are seen of an open list at most
 
 /// What lies beside the text in the field, with the button.
@@ -33,6 +35,7 @@ void ComboBoxView::Refresh() {
   WidgetView::Refresh();
   shown_.reset();
   SetFont();
+  ShowEntries();
   ShowPicked();
   if (!widget_.Enabled() && IsOpen()) Send(CB_SHOWDROPDOWN, FALSE);
 }
@@ -43,32 +46,30 @@ void ComboBoxView::Show(WidgetProperty what) {
   if (what == WidgetProperty::Enabled && !widget_.Enabled() && IsOpen()) Send(CB_SHOWDROPDOWN, FALSE);
 }
 
-void ComboBoxView::ShowEntry(int index) {
-  const std::wstring text = ToWide(views::OnOneLine(widget_.List(static_cast<std::int16_t>(index))));
-  Send(CB_INSERTSTRING, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(text.c_str()));
+void ComboBoxView::EntryChanged(int, EntryProperty) { ShowEntriesLater(); }
+void ComboBoxView::EntryAdded(int) { ShowEntriesLater(); }
+void ComboBoxView::EntryRemoved(int) { ShowEntriesLater(); }
+void ComboBoxView::EntriesCleared() { ShowEntriesLater(); }
+
+void ComboBoxView::ShowEntriesLater() {
+  if (!std::exchange(areEntriesBehind_, true)) surface_.PostUse(widget_, kShowEntries);
 }
 
-void ComboBoxView::EntryChanged(int index, EntryProperty) {
-  Send(CB_DELETESTRING, static_cast<WPARAM>(index));
-  EntryAdded(index);
-}
-
-void ComboBoxView::EntryAdded(int index) {
-  ShowEntry(index);
-  ShowPicked();
-}
-
-void ComboBoxView::EntryRemoved(int index) {
-  Send(CB_DELETESTRING, static_cast<WPARAM>(index));
-  ShowPicked();
-}
-
-void ComboBoxView::EntriesCleared() {
+void ComboBoxView::ShowEntries() {
+  if (!std::exchange(areEntriesBehind_, false)) return;
+  Send(WM_SETREDRAW, FALSE);
   Send(CB_RESETCONTENT);
+  for (std::int16_t i = 0; i < widget_.ListCount(); ++i) {
+    const std::wstring text = ToWide(views::OnOneLine(widget_.List(i)));
+    Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text.c_str()));
+  }
+  Send(WM_SETREDRAW, TRUE);
+  ::InvalidateRect(Window(), nullptr, TRUE);
   ShowPicked();
 }
 
 void ComboBoxView::ShowPicked() {
+  if (areEntriesBehind_) return;  // with the entries
   const int picked = widget_.ListIndex();
   if (Send(CB_GETCURSEL) != picked) Send(CB_SETCURSEL, static_cast<WPARAM>(picked));
   const Text text = picked < 0 ? Text() : widget_.List(static_cast<std::int16_t>(picked));
@@ -91,6 +92,7 @@ void ComboBoxView::OnNotify(UINT notification) {
 }
 
 void ComboBoxView::Use(WPARAM what) {
+  if (what == kShowEntries) return ShowEntries();
   if (what == kShowPicked) return ShowPicked();
   Perform([&] { widget_.UserPick(static_cast<std::int16_t>(what)); });
 }
@@ -104,6 +106,7 @@ std::optional<LRESULT> ComboBoxView::TakeKeyPress(const views::KeyPress& press) 
 
 std::optional<LRESULT> ComboBoxView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   if (const auto result = ViewOf::OnMessage(message, wParam, lParam)) return result;
+  if (IsPainting(message) || (message >= CB_GETEDITSEL && message < CB_MSGMAX)) ShowEntries();
   switch (message) {
     case WM_KEYDOWN:
       return IsOpen() ? std::nullopt : TakeKeyPress(ToKeyPress(wParam));

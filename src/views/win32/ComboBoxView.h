@@ -6,7 +6,7 @@
 
 namespace ORXKMPrintProp::win32 {
 
-/// The window's own entries are brought in line at each change.
+/// The window's own entries are brought in line once for all of a change, ahead of anything that is asked of them.
 class ComboBoxView : public ViewOf<ComboBox> {
  public:
   using ViewOf::ViewOf;
@@ -29,9 +29,11 @@ class ComboBoxView : public ViewOf<ComboBox> {
  private:
   bool IsOpen() const { return Send(CB_GETDROPPEDSTATE) != 0; }
   std::optional<LRESULT> TakeKeyPress(const views::KeyPress& press);
-  void ShowEntry(int index);
+  void ShowEntriesLater();
+  void ShowEntries();
   void ShowPicked();
 
+  bool areEntriesBehind_ = false;
   std::optional<Text> shown_;  ///< in the field, and told in the tooltip where it is cut
   views::TypeAhead search_;
 };

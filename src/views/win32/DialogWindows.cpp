@@ -19,7 +19,7 @@ namespace ORXKMPrintProp::win32 {
 namespace {
 
 constexpr const wchar_t* kPanelClass = L"ORXQueryPrnProp.Panel";
-constexpr UINT kUse = WM_APP;  ///< posted: the widget in lParam, what it is to do in wParam
+constexpr UINT kUse = WM_APP;                ///< posted: the widget in lParam, what it is to do in wParam
 constexpr UINT kResolutionChanged = 0x02E3;  // WM_DPICHANGED_AFTERPARENT, which older headers lack
 
 template <class Shown, class W>
@@ -144,6 +144,8 @@ HWND DialogWindows::MakePanel(HWND parent) const {
 
 void DialogWindows::MakeWindows(HWND parent) {
   const Styled styled;
+  const INITCOMMONCONTROLSEX tabs{sizeof tabs, ICC_TAB_CLASSES};  // and tooltips
+  ::InitCommonControlsEx(&tabs);
   const auto dpi = static_cast<double>(PrnPropView::DpiOf(parent));
   Resolution({dpi, dpi});
   window_ = MakePanel(parent);
@@ -186,8 +188,8 @@ HWND DialogWindows::PanelOf(const LayoutRow& row) const {
 }
 
 void DialogWindows::MakeToolTips() {
-  toolTip_ = ::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0, 0,
-                               0, window_, nullptr, nullptr, nullptr);
+  toolTip_ = ::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0,
+                               0, 0, window_, nullptr, nullptr, nullptr);
   // So wide that a line of any tooltip has its place, and that lines break where they say.
   constexpr LPARAM kWidth = 600;
   ::SendMessageW(toolTip_, TTM_SETMAXTIPWIDTH, 0, kWidth);
@@ -386,7 +388,11 @@ void DialogWindows::TakeFocus(int step) {
 
 void DialogWindows::GotFocus(const Widget& widget) {
   lastFocused_ = &widget;
-  if (GetReports().focused) GetReports().focused();
+  if (GetReports().focused) GetReports().focused(true);
+}
+
+void DialogWindows::LostFocus(HWND to) {
+  if (GetReports().focused && to != window_ && !::IsChild(window_, to)) GetReports().focused(false);
 }
 
 void DialogWindows::PassFocus(const Widget& widget) {

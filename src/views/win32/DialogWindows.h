@@ -55,6 +55,7 @@ class DialogWindows final : public Surface, public std::enable_shared_from_this<
   void PostUse(Widget& widget, WPARAM what) override;
   bool TakeKey(Widget& widget, WPARAM virtualKey, LPARAM flags) override;
   void GotFocus(const Widget& widget) override;
+  void LostFocus(HWND to) override;
   void PassFocus(const Widget& widget) override;
   void SetToolTip(const Widget& widget, const Text& text) override;
   void RelayToToolTip(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -25,10 +25,14 @@ struct MouseMessage {
   bool presses;
 };
 constexpr MouseMessage kMouseMessages[] = {
-    {WM_LBUTTONDOWN, ListBox::kLeftButton, true},   {WM_LBUTTONDBLCLK, ListBox::kLeftButton, true},
-    {WM_LBUTTONUP, ListBox::kLeftButton, false},    {WM_RBUTTONDOWN, ListBox::kRightButton, true},
-    {WM_RBUTTONDBLCLK, ListBox::kRightButton, true}, {WM_RBUTTONUP, ListBox::kRightButton, false},
-    {WM_MBUTTONDOWN, 0, true},                      {WM_MBUTTONDBLCLK, 0, true},
+    {WM_LBUTTONDOWN, ListBox::kLeftButton, true},
+    {WM_LBUTTONDBLCLK, ListBox::kLeftButton, true},
+    {WM_LBUTTONUP, ListBox::kLeftButton, false},
+    {WM_RBUTTONDOWN, ListBox::kRightButton, true},
+    {WM_RBUTTONDBLCLK, ListBox::kRightButton, true},
+    {WM_RBUTTONUP, ListBox::kRightButton, false},
+    {WM_MBUTTONDOWN, 0, true},
+    {WM_MBUTTONDBLCLK, 0, true},
     {WM_MBUTTONUP, 0, false},
 };
 
@@ -166,6 +170,9 @@ void ListBoxView::End() {
 }
 
 std::optional<LRESULT> ListBoxView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
+  // Ahead of what is told of the focus: that may end the window.
+  if (message == WM_SETFOCUS || message == WM_KILLFOCUS) ::InvalidateRect(Window(), nullptr, TRUE);
+  if (IsPainting(message) && isCountBehind_) ShowCount();
   if (const auto result = ViewOf::OnMessage(message, wParam, lParam)) return result;
   if (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST && message != WM_MOUSEWHEEL) {
     return OnMouse(message, wParam, lParam);
@@ -185,10 +192,6 @@ std::optional<LRESULT> ListBoxView::OnMessage(UINT message, WPARAM wParam, LPARA
     case WM_CHAR:
       if (wParam > L' ') OnKey({.text = Text(1, static_cast<char16_t>(wParam))});
       return 0;
-    case WM_SETFOCUS:
-    case WM_KILLFOCUS:
-      ::InvalidateRect(Window(), nullptr, TRUE);
-      return {};
     default:
       return OnRequest(message, wParam, lParam);
   }

@@ -15,8 +15,8 @@ struct Reports {
   std::function<void(const Text& why)> failed = {};
   /// It is done, with all that it led to.
   std::function<void(const Widget& widget)> used = {};
-  /// A widget has got the focus.
-  std::function<void()> focused = {};
+  /// A widget has got the focus, or the focus has left the dialog.
+  std::function<void(bool has)> focused = {};
   /// The Tab key leads out of the dialog: 1 behind its end, -1 ahead of its beginning.
   std::function<void(int step)> left = {};
   /// Gives what must not end while what the user does is carried out.
@@ -45,8 +45,8 @@ class PrnPropView {
   /// How many pixels make an inch where the window is.
   static UINT DpiOf(HWND window);
 
-  /// Does what a key message does to the dialog rather than to one widget, and what a host's window might take away: Tab,
-  /// the keys of the tabs, Enter on a button.
+  /// Does what a key message does to the dialog rather than to one widget, and what a host's window might take away:
+  /// Tab, the keys of the tabs, Enter on a button.
   /// @return false for all others, and where Tab leads out of the dialog.
   bool TakeKey(const MSG& message);
   /// Gives the focus to the first widget in tab order (1), the last one (-1), or the one that had it last (0).

@@ -35,21 +35,11 @@ class Ruler {
 
 }  // namespace
 
-Surface::~Surface() { EndFonts(); }
-
-Surface::Held Surface::Hold() {
-  return {Shared(), isOpen_ && reports_.hold ? reports_.hold() : nullptr};
-}
-
-void Surface::Resolution(const views::Resolution& resolution) {
-  resolution_ = resolution;
-  EndFonts();
-}
-
-void Surface::EndFonts() {
+Surface::~Surface() {
   for (const auto& [key, font] : fonts_) ::DeleteObject(font);
-  fonts_.clear();
 }
+
+Surface::Held Surface::Hold() { return {Shared(), isOpen_ && reports_.hold ? reports_.hold() : nullptr}; }
 
 HFONT Surface::FontOf(const Font& font, int percent) {
   constexpr double kPointsPerInch = 72;

@@ -33,7 +33,7 @@ class Surface {
   const Reports& GetReports() const { return reports_; }
   const views::Resolution& Resolution() const { return resolution_; }
 
-  /// The font in so many per cent of its size; lives as long as the resolution is the same.
+  /// The font in so many per cent of its size; lives as long as the windows.
   HFONT FontOf(const Font& font, int percent = 100);
   views::Measure MeasureOf(const Font& font);
   int HeightOf(const Font& font);
@@ -46,6 +46,8 @@ class Surface {
   /// Does what is done by keys in the whole dialog. @return false for what belongs to the widget alone.
   virtual bool TakeKey(Widget& widget, WPARAM virtualKey, LPARAM flags) = 0;
   virtual void GotFocus(const Widget& widget) = 0;
+  /// A widget no longer has it, but that window or none.
+  virtual void LostFocus(HWND to) = 0;
   /// The widget can't have the focus any longer.
   virtual void PassFocus(const Widget& widget) = 0;
   /// The text that the pointer finds over the widget.
@@ -54,14 +56,12 @@ class Surface {
 
  protected:
   virtual std::shared_ptr<Surface> Shared() = 0;
-  void Resolution(const views::Resolution& resolution);
+  void Resolution(const views::Resolution& resolution) { resolution_ = resolution; }
   void Close() { isOpen_ = false; }
 
   HCURSOR pointer_ = nullptr;
 
  private:
-  void EndFonts();
-
   Reports reports_;
   views::Resolution resolution_{96, 96};
   std::map<std::tuple<Text, long, int>, HFONT> fonts_;

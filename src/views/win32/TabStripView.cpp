@@ -56,8 +56,8 @@ void TabStripView::FitTabs() {
   Text whole;
   for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) {
     const Text& caption = widget_.TabCaption(tab);
-    std::wstring text = ToWide(fitted.areCut ? views::Fit(caption, width / SSTab::kTabs - 2 * kPadding, measure).text
-                                             : caption);
+    std::wstring text = WithoutShortcut(
+        fitted.areCut ? views::Fit(caption, width / SSTab::kTabs - 2 * kPadding, measure).text : caption);
     if (fitted.areCut) whole = views::ToolTipWith(whole, caption);
     TCITEMW item{};
     item.mask = TCIF_TEXT;

@@ -1,7 +1,5 @@
 #include "views/win32/TextBoxView.h"
 
-#include <commctrl.h>
-
 #include <utility>
 
 #include "views/win32/WindowsText.h"
@@ -62,7 +60,7 @@ LRESULT TextBoxView::TakeCharacter(wchar_t character, LPARAM lParam) {
   if (isBackspace || !IsControl(character)) Attempt([&] { key = widget_.FilterKey(key); });
   if (key == 0 || (isBackspace && key < u' ' && key != TextBox::kBackspace)) return 0;
   if (key == TextBox::kBackspace) SelectPairAhead();
-  return ::DefSubclassProc(Window(), WM_CHAR, key, lParam);
+  return PassOn(WM_CHAR, key, lParam);
 }
 
 /// Both halves of a character go at once.

@@ -1,7 +1,5 @@
 #include "views/win32/WidgetView.h"
 
-#include <commctrl.h>
-
 #include <exception>
 #include <system_error>
 
@@ -15,28 +13,37 @@ void WidgetView::Make(HWND parent, int id) {
   const WindowKind kind = Kind();
   window_ = ::CreateWindowExW(kind.extendedStyle | WS_EX_NOPARENTNOTIFY, kind.name, L"", kind.style | WS_CHILD, 0, 0, 0,
                               0, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
-  if (!window_ || !::SetWindowSubclass(window_, OnMessageOf, 0, reinterpret_cast<DWORD_PTR>(this))) {
-    throw std::system_error(static_cast<int>(::GetLastError()), std::system_category(), "no window");
-  }
+  if (!window_) throw std::system_error(static_cast<int>(::GetLastError()), std::system_category(), "no window");
+  // Not by SetWindowSubclass, which asks the system for the view at each message; that takes a while under Wine.
+  ::SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  kind_ = reinterpret_cast<WNDPROC>(
+      ::SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&WidgetView::OnMessageOf)));
 }
 
-LRESULT CALLBACK WidgetView::OnMessageOf(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                         DWORD_PTR view) {
-  auto& self = *reinterpret_cast<WidgetView*>(view);
+LRESULT CALLBACK WidgetView::OnMessageOf(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto& self = *reinterpret_cast<WidgetView*>(::GetWindowLongPtrW(window, GWLP_USERDATA));
   const Surface::Held held = self.surface_.Hold();
+  const WNDPROC kind = self.kind_;
   if (message == WM_NCDESTROY) {
     self.window_ = nullptr;
-    ::RemoveWindowSubclass(window, OnMessageOf, 0);
+    ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(kind));
   } else if (self.surface_.IsOpen()) {
     if (const auto result = self.OnMessage(message, wParam, lParam)) return *result;
   }
-  return ::DefSubclassProc(window, message, wParam, lParam);
+  return ::CallWindowProcW(kind, window, message, wParam, lParam);
+}
+
+LRESULT WidgetView::PassOn(UINT message, WPARAM wParam, LPARAM lParam) const {
+  return ::CallWindowProcW(kind_, window_, message, wParam, lParam);
 }
 
 std::optional<LRESULT> WidgetView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SETFOCUS:
       surface_.GotFocus(base_);
+      return {};
+    case WM_KILLFOCUS:
+      surface_.LostFocus(reinterpret_cast<HWND>(wParam));
       return {};
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
@@ -130,12 +137,12 @@ void WidgetView::SetFont(int percent) {
   if (reinterpret_cast<HFONT>(Send(WM_GETFONT)) != font) Send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
 
-void WidgetView::ShowCaption(int width) {
+void WidgetView::ShowCaption(int width, bool asItIs) {
   const views::FittedText fitted = views::Fit(base_.Caption(), width, surface_.MeasureOf(base_.GetFont()));
   SetFont(fitted.percent);
   surface_.SetToolTip(base_, views::ToolTipWith(fitted.isCut ? base_.Caption() : Text(), base_.ToolTipText()));
-  if (TextOf(window_) == fitted.text) return;
-  ::SetWindowTextW(window_, ToWide(fitted.text).c_str());
+  const std::wstring text = asItIs ? ToWide(fitted.text) : WithoutShortcut(fitted.text);
+  if (ToWide(TextOf(window_)) != text) ::SetWindowTextW(window_, text.c_str());
 }
 
 }  // namespace ORXKMPrintProp::win32

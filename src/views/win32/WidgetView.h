@@ -58,25 +58,29 @@ class WidgetView {
   virtual WindowKind Kind() const = 0;
   /// @return none where the window itself is to handle it.
   virtual std::optional<LRESULT> OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+  static bool IsPainting(UINT message) { return message == WM_PAINT || message == WM_PRINTCLIENT; }
+  /// What the window itself makes of it.
+  LRESULT PassOn(UINT message, WPARAM wParam, LPARAM lParam) const;
 
   /// The same for what changes nothing.
   void Attempt(const std::function<void()>& action);
   LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
   void SetFont(int percent = 100);
   /// Sets the window's text, and its font and tooltip for it to fit.
-  void ShowCaption(int width);
+  /// @param asItIs whether the window takes no character for the mark of a shortcut.
+  void ShowCaption(int width, bool asItIs = false);
   SIZE Size() const;
 
   Surface& surface_;
 
  private:
-  static LRESULT CALLBACK OnMessageOf(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                      DWORD_PTR view);
+  static LRESULT CALLBACK OnMessageOf(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   void ShowEnabled();
   void ShowVisible();
 
   Widget& base_;
   HWND window_ = nullptr;
+  WNDPROC kind_ = nullptr;  ///< what the platform has for windows of this kind
 };
 
 /// The same of a kind of widget.

@@ -26,8 +26,8 @@ struct NamedKey {
 };
 constexpr NamedKey kModifiers[] = {{"Shift+", VK_SHIFT}, {"Ctrl+", VK_CONTROL}, {"Alt+", VK_MENU}, {"Num+", 0}};
 constexpr NamedKey kKeys[] = {
-    {"Up", VK_UP},       {"Down", VK_DOWN},   {"Left", VK_LEFT},   {"Right", VK_RIGHT},  {"Home", VK_HOME},
-    {"End", VK_END},     {"PgUp", VK_PRIOR},  {"PgDown", VK_NEXT}, {"Space", VK_SPACE},  {"Tab", VK_TAB},
+    {"Up", VK_UP},       {"Down", VK_DOWN},     {"Left", VK_LEFT},   {"Right", VK_RIGHT},    {"Home", VK_HOME},
+    {"End", VK_END},     {"PgUp", VK_PRIOR},    {"PgDown", VK_NEXT}, {"Space", VK_SPACE},    {"Tab", VK_TAB},
     {"Backtab", VK_TAB}, {"Return", VK_RETURN}, {"Del", VK_DELETE},  {"Backspace", VK_BACK},
 };
 
@@ -196,7 +196,7 @@ class WindowsHand : public Hand {
   void Settle() override { Pump(); }
 
  private:
-  HWND WindowOf(const Widget& widget) const { return test::WindowOf(view_->Window(), dialog_, widget); }
+  HWND WindowOf(const Widget& widget) const { return windows_.at(&widget); }
   static WPARAM VirtualKeyOf(const std::string& name, std::array<BYTE, 256>& state) {
     for (const NamedKey& key : kKeys) {
       if (name != key.name) continue;
@@ -263,6 +263,7 @@ class WindowsHand : public Hand {
   HWND beside_ = ::CreateWindowExW(0, L"BUTTON", L"beside", WS_CHILD | WS_VISIBLE, 660, 10, 60, 20, window_, nullptr,
                                    nullptr, nullptr);
   std::unique_ptr<PrnPropView> view_;
+  const std::unordered_map<const Widget*, HWND> windows_ = WindowsOf(view_->Window(), dialog_);
   WPARAM held_ = 0;
   Read read_;
 };

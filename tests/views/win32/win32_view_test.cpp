@@ -40,7 +40,7 @@ class WindowsViewTest : public testing::Test, protected ORXQueryPrnPropEvents {
     ASSERT_TRUE(Settings(Characteristics(characteristics)).LoadInto(control));
     dialog.TabStrip().Tab(kCharTab);
   }
-  HWND WindowOf(const Widget& widget) const { return test::WindowOf(view->Window(), dialog, widget); }
+  HWND WindowOf(const Widget& widget) const { return WindowsOf(view->Window(), dialog).at(&widget); }
   HWND WindowOf(const char16_t* name, std::int16_t index = WidgetName::kNoIndex) const {
     return WindowOf(*dialog.Find({name, index}));
   }
@@ -55,8 +55,8 @@ class WindowsViewTest : public testing::Test, protected ORXQueryPrnPropEvents {
   std::function<void()> onEvent = [] {};
   ORXQueryPrnProp control{(ReleaseSharedValues(), gDefaultFontName.clear(), WindowsPlatform::Instance())};
   Dialog& dialog = control.GetDialog();
-  HWND host = ::CreateWindowExW(0, L"STATIC", L"host", WS_OVERLAPPEDWINDOW, 0, 0, 700, 450, nullptr, nullptr, nullptr,
-                                nullptr);
+  HWND host =
+      ::CreateWindowExW(0, L"STATIC", L"host", WS_OVERLAPPEDWINDOW, 0, 0, 700, 450, nullptr, nullptr, nullptr, nullptr);
   std::unique_ptr<PrnPropView> view;
 };
 
@@ -200,6 +200,8 @@ TEST_F(WindowsViewTest, WhatDoesNotFitIsCut) {
   EXPECT_EQ(shown.back(), u'\u2026');
   dialog.Get<Label>(u"lblGenMarginTop").Caption(u"T&p");
   EXPECT_EQ(win32::TextOf(WindowOf(u"lblGenMarginTop")), u"T&p");
+  dialog.Get<CheckBox>(u"chkGenNoLines").Caption(u"T&p");
+  EXPECT_EQ(win32::TextOf(WindowOf(u"chkGenNoLines")), u"T&&p") << "no shortcut";
 }
 
 }  // namespace
