@@ -5,8 +5,8 @@
 
 #include "automation/Variants.h"
 #include "dialog/DialogLayout.h"
-#include "server/WindowDrawing.h"
 #include "views/win32/Styled.h"
+#include "views/win32/WindowDrawing.h"
 
 namespace ORXKMPrintProp::server {
 
@@ -439,11 +439,15 @@ STDMETHODIMP InPlaceControl::Draw(DWORD aspect, LONG, void*, DVTARGETDEVICE*, HD
     SIZEL extent{};
     GetExtent(DVASPECT_CONTENT, &extent);
     const SIZE size = PixelsOf(extent);
-    if (view_) return DrawWindow(view_->Window(), size, context, place) ? S_OK : E_OUTOFMEMORY;
+    if (view_) {
+      win32::DrawWindow(view_->Window(), size, context, place);
+      return S_OK;
+    }
     const std::unique_ptr<void, void (*)(void*)> parent(
         MakeWindow(nullptr, WS_POPUP), [](void* window) { ::DestroyWindow(static_cast<HWND>(window)); });
     const auto view = MakeView(static_cast<HWND>(parent.get()));
-    return DrawWindow(view->Window(), size, context, place) ? S_OK : E_OUTOFMEMORY;
+    win32::DrawWindow(view->Window(), size, context, place);
+    return S_OK;
   });
 }
 
