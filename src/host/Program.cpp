@@ -101,6 +101,8 @@ int Run(int argc, char** argv, const AddCommands& addCommands, std::optional<int
       "prnprop");
   program.set_version_flag("--version", "prnprop " PRNPROP_VERSION);
   program.require_subcommand(1);
+  // A path that begins with a slash is no option on any system.
+  program.allow_windows_style_options(false);
   program.failure_message([](const CLI::App* failed, const CLI::Error& error) {
     const auto unknown = failed->remaining();
     const bool noCommand = failed->get_subcommands().empty() && !unknown.empty();

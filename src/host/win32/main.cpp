@@ -10,8 +10,10 @@
 #include <string>
 #include <vector>
 
-#include "host/Program.h"
 #include "host/Utf8.h"
+#include "host/editor/WindowCommands.h"
+#include "host/win32/Edit.h"
+#include "host/win32/Shot.h"
 
 int wmain(int argc, wchar_t** argv) {
   using namespace ORXKMPrintProp;
@@ -26,7 +28,7 @@ int wmain(int argc, wchar_t** argv) {
   }
   std::vector<char*> pointers(arguments.size());
   std::transform(arguments.begin(), arguments.end(), pointers.begin(), [](std::string& text) { return text.data(); });
-  const int status = host::RunProgram(argc, pointers.data());
+  const int status = host::RunProgram(argc, pointers.data(), {.edit = host::Edit, .shot = host::Shot});
   ::SetConsoleOutputCP(formerPage);
   return status;
 }
