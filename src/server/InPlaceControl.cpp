@@ -21,12 +21,10 @@ constexpr SIZEL NaturalExtent() {
   return {kClientArea.width * kHimetricPerInch / kTwipsPerInch, kClientArea.height * kHimetricPerInch / kTwipsPerInch};
 }
 
-SIZE PixelsOf(const SIZEL& extent) {
-  const HDC screen = ::GetDC(nullptr);
-  const SIZE pixels{::MulDiv(extent.cx, ::GetDeviceCaps(screen, LOGPIXELSX), kHimetricPerInch),
-                    ::MulDiv(extent.cy, ::GetDeviceCaps(screen, LOGPIXELSY), kHimetricPerInch)};
-  ::ReleaseDC(nullptr, screen);
-  return pixels;
+void Draw(const win32::PrnPropView& view, const SIZEL& extent, HDC context, const RECT& place) {
+  const auto dpi = static_cast<int>(win32::PrnPropView::DpiOf(view.Window()));
+  const SIZE pixels{::MulDiv(extent.cx, dpi, kHimetricPerInch), ::MulDiv(extent.cy, dpi, kHimetricPerInch)};
+  win32::DrawWindow(view.Window(), pixels, context, place);
 }
 
 bool IsDown(int key) { return ::GetKeyState(key) < 0; }
@@ -68,6 +66,8 @@ HWND InPlaceControl::MakeWindow(HWND parent, DWORD style) {
       ::CreateWindowExW(WS_EX_CONTROLPARENT, WindowClass::kName, nullptr, style | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, 0,
                         0, 0, 0, parent, nullptr, win32::OwnModule(), nullptr);
   if (!window) throw std::runtime_error("The window of the control can't be made.");
+  // The dialog is the same for every language, and so is where it lies.
+  ::SetWindowLongPtrW(window, GWL_EXSTYLE, ::GetWindowLongPtrW(window, GWL_EXSTYLE) & ~WS_EX_LAYOUTRTL);
   return window;
 }
 
@@ -79,6 +79,9 @@ LRESULT CALLBACK InPlaceControl::Receive(HWND window, UINT message, WPARAM wPara
     if (message == WM_SETFOCUS) {
       control->ActivateUI(StepOf(IsDown(VK_TAB)));
       return 0;
+    }
+    if (control->view_ && (message == WM_SYSCOLORCHANGE || message == WM_SETTINGCHANGE || message == WM_THEMECHANGED)) {
+      ::SendMessageW(control->view_->Window(), message, wParam, lParam);
     }
     if (message == WM_NCDESTROY) {
       // By the container, without a word: it is told of nothing more.
@@ -190,48 +193,57 @@ STDMETHODIMP InPlaceControl::DoVerb(LONG verb, MSG* message, IOleClientSite*, LO
 
 HRESULT InPlaceControl::Activate() {
   if (!window_) {
-    const ComRef<IOleInPlaceSite> site = site_.As<IOleInPlaceSite>();
-    if (!site) return E_UNEXPECTED;
-    if (site->CanInPlaceActivate() != S_OK) return E_FAIL;
-    HWND parent = nullptr;
-    RECT position{}, clip{};
-    OLEINPLACEFRAMEINFO info{};
-    info.cb = sizeof info;
-    ComRef<IOleInPlaceFrame> frame;
-    ComRef<IOleInPlaceUIWindow> document;
-    HRESULT result = site->OnInPlaceActivate();
-    if (FAILED(result)) return result;
-    result = site->GetWindow(&parent);
-    if (SUCCEEDED(result)) {
-      result = site->GetWindowContext(frame.Out(), document.Out(), &position, &clip, &info);
-    }
-    if (SUCCEEDED(result)) {
-      try {
-        window_ = MakeWindow(parent, WS_CHILD);
-        ::SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
-        view_ = MakeView(window_);
-      } catch (...) {
-        CloseWindow();
-        site->OnInPlaceDeactivate();
-        throw;
-      }
-      inPlaceSite_ = site;
-      frame_ = std::move(frame);
-      document_ = std::move(document);
-      OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE);
-      SetObjectRects(&position, &clip);
-    } else {
-      site->OnInPlaceDeactivate();
-      return result;
-    }
+    // From inside a call to the site: it is under way.
+    if (inPlaceSite_) return S_OK;
+    if (const HRESULT result = MakeActive(); FAILED(result)) return result;
   }
-  ::ShowWindow(window_, SW_SHOWNA);
+  if (window_) ::ShowWindow(window_, SW_SHOWNA);
   if (const ComRef<IOleClientSite> site = site_) site->ShowObject();
   return S_OK;
 }
 
+HRESULT InPlaceControl::MakeActive() {
+  const ComRef<IOleInPlaceSite> site = site_.As<IOleInPlaceSite>();
+  if (!site) return E_UNEXPECTED;
+  if (site->CanInPlaceActivate() != S_OK) return E_FAIL;
+  HWND parent = nullptr;
+  RECT position{}, clip{};
+  OLEINPLACEFRAMEINFO info{};
+  info.cb = sizeof info;
+  ComRef<IOleInPlaceFrame> frame;
+  ComRef<IOleInPlaceUIWindow> document;
+  inPlaceSite_ = site;
+  // Each call may have closed the control, and activated it anew.
+  const auto goesOn = [&](HRESULT result) { return SUCCEEDED(result) && !window_ && inPlaceSite_.Get() == site.Get(); };
+  HRESULT result = site->OnInPlaceActivate();
+  if (FAILED(result)) {
+    inPlaceSite_ = nullptr;
+    return result;
+  }
+  if (goesOn(result)) result = site->GetWindow(&parent);
+  if (goesOn(result)) result = site->GetWindowContext(frame.Out(), document.Out(), &position, &clip, &info);
+  if (window_) return S_OK;
+  if (!goesOn(result)) {
+    InPlaceDeactivate();
+    return FAILED(result) ? result : E_FAIL;
+  }
+  frame_ = std::move(frame);
+  document_ = std::move(document);
+  try {
+    window_ = MakeWindow(parent, WS_CHILD);
+    ::SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    view_ = MakeView(window_);
+  } catch (...) {
+    InPlaceDeactivate();
+    throw;
+  }
+  OnAmbientPropertyChange(DISPID_AMBIENT_USERMODE);
+  SetObjectRects(&position, &clip);
+  return S_OK;
+}
+
 HRESULT InPlaceControl::ActivateUI(int step) {
-  if (!hasUI_ && inPlaceSite_) {
+  if (!hasUI_ && window_) {
     hasUI_ = true;
     const ComRef<IOleInPlaceSite> site = inPlaceSite_;
     if (const HRESULT result = site->OnUIActivate(); FAILED(result)) {
@@ -358,7 +370,10 @@ STDMETHODIMP InPlaceControl::InPlaceDeactivate() {
     frame_ = nullptr;
     document_ = nullptr;
     const ComRef<IOleInPlaceSite> site = std::move(inPlaceSite_);
-    if (site) site->OnInPlaceDeactivate();
+    if (site) {
+      site->OnInPlaceDeactivate();
+      TellViewChange();
+    }
     return S_OK;
   });
 }
@@ -438,15 +453,14 @@ STDMETHODIMP InPlaceControl::Draw(DWORD aspect, LONG, void*, DVTARGETDEVICE*, HD
     const RECT place{bounds->left, bounds->top, bounds->right, bounds->bottom};
     SIZEL extent{};
     GetExtent(DVASPECT_CONTENT, &extent);
-    const SIZE size = PixelsOf(extent);
     if (view_) {
-      win32::DrawWindow(view_->Window(), size, context, place);
+      server::Draw(*view_, extent, context, place);
       return S_OK;
     }
     const std::unique_ptr<void, void (*)(void*)> parent(
         MakeWindow(nullptr, WS_POPUP), [](void* window) { ::DestroyWindow(static_cast<HWND>(window)); });
     const auto view = MakeView(static_cast<HWND>(parent.get()));
-    win32::DrawWindow(view->Window(), size, context, place);
+    server::Draw(*view, extent, context, place);
     return S_OK;
   });
 }

@@ -130,6 +130,8 @@ class InPlaceControl : public DualObject<_ORXQueryPrnProp, IConnectionPointConta
   std::unique_ptr<win32::PrnPropView> MakeView(HWND parent);
   /// Shows the control in its container. @throws std::runtime_error
   HRESULT Activate();
+  /// From nothing to a window. @throws std::runtime_error, std::system_error
+  HRESULT MakeActive();
   /// @param step where the focus goes, if it is not in the dialog, as for `PrnPropView::TakeFocus`
   HRESULT ActivateUI(int step);
   /// Tells the container's windows whether this is the object that is active in them.

@@ -17,6 +17,7 @@ void AccessibleNames::Give(HWND window, const Text& name) {
   if (!services_) return;
   services_->SetHwndPropStr(window, static_cast<DWORD>(OBJID_CLIENT), CHILDID_SELF, PROPID_ACC_NAME,
                             ToWide(name).c_str());
+  ::NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, window, OBJID_CLIENT, CHILDID_SELF);
 }
 
 void AccessibleNames::Forget(HWND window) {

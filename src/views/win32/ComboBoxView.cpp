@@ -80,8 +80,12 @@ void ComboBoxView::ShowPicked() {
 
 void ComboBoxView::OnNotify(UINT notification) {
   // What the keys go over in an open list is not picked yet.
-  const bool isPicked = notification == CBN_SELENDOK || (notification == CBN_SELCHANGE && !IsOpen());
-  if (isPicked) surface_.PostUse(widget_, static_cast<WPARAM>(Send(CB_GETCURSEL)));
+  // What is picked is told twice when the list closes with it.
+  const bool isChanged = notification == CBN_SELCHANGE && !IsOpen() && !std::exchange(isTold_, false);
+  if (notification == CBN_SELENDOK) isTold_ = true;
+  if (notification == CBN_SELENDOK || isChanged) {
+    surface_.PostUse(widget_, static_cast<WPARAM>(Send(CB_GETCURSEL)));
+  }
   if (notification == CBN_SELENDCANCEL) surface_.PostUse(widget_, kShowPicked);
   if (notification != CBN_DROPDOWN) return;
   // Entries that are wider than the field are read in the open list.
@@ -94,6 +98,7 @@ void ComboBoxView::OnNotify(UINT notification) {
 void ComboBoxView::Use(WPARAM what) {
   if (what == kShowEntries) return ShowEntries();
   if (what == kShowPicked) return ShowPicked();
+  isTold_ = false;
   Perform([&] { widget_.UserPick(static_cast<std::int16_t>(what)); });
 }
 
@@ -109,7 +114,10 @@ std::optional<LRESULT> ComboBoxView::OnMessage(UINT message, WPARAM wParam, LPAR
   if (IsPainting(message) || (message >= CB_GETEDITSEL && message < CB_MSGMAX)) ShowEntries();
   switch (message) {
     case WM_KEYDOWN:
-      return IsOpen() ? std::nullopt : TakeKeyPress(ToKeyPress(wParam));
+      if (IsOpen() || wParam == VK_F4) return {};
+      TakeKeyPress(ToKeyPress(wParam));
+      // The window has keys of its own for its entries.
+      return 0;
     case WM_CHAR:
       if (IsOpen()) return {};
       TakeKeyPress({.text = Text(1, static_cast<char16_t>(wParam))});

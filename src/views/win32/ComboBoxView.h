@@ -34,6 +34,7 @@ class ComboBoxView : public ViewOf<ComboBox> {
   void ShowPicked();
 
   bool areEntriesBehind_ = false;
+  bool isTold_ = false;        ///< that an entry has been picked, by the first of two notifications
   std::optional<Text> shown_;  ///< in the field, and told in the tooltip where it is cut
   views::TypeAhead search_;
 };

@@ -66,15 +66,14 @@ HCURSOR MakeDragPointer() {
 /// The message box that this thread opens next.
 class NextBox {
  public:
-  explicit NextBox(HWND& box) : box_(&box) {
-    gBox = &box;
+  explicit NextBox(HWND& box) : box_(box), outer_(std::exchange(box, nullptr)), outerNext_(std::exchange(gBox, &box)) {
     hook_ = ::SetWindowsHookExW(WH_CBT, OnEvent, nullptr, ::GetCurrentThreadId());
   }
   NextBox(const NextBox&) = delete;
   NextBox& operator=(const NextBox&) = delete;
   ~NextBox() {
-    *box_ = nullptr;
-    gBox = nullptr;
+    box_ = outer_;
+    gBox = outerNext_;
     ::UnhookWindowsHookEx(hook_);
   }
 
@@ -85,7 +84,9 @@ class NextBox {
   }
 
   static thread_local HWND* gBox;
-  HWND* box_;
+  HWND& box_;
+  HWND outer_;  ///< the box that is open already
+  HWND* outerNext_;
   HHOOK hook_;
 };
 thread_local HWND* NextBox::gBox = nullptr;
@@ -139,6 +140,8 @@ HWND DialogWindows::MakePanel(HWND parent) const {
   const HWND panel = ::CreateWindowExW(WS_EX_CONTROLPARENT | WS_EX_NOPARENTNOTIFY, kind.lpszClassName, L"",
                                        WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 0, 0, parent, nullptr, OwnModule(), self);
   if (!panel) throw std::system_error(static_cast<int>(::GetLastError()), std::system_category(), "no window");
+  // The layout is the same for every language; a window that is mirrored passes that on to those in it.
+  ::SetWindowLongPtrW(panel, GWL_EXSTYLE, ::GetWindowLongPtrW(panel, GWL_EXSTYLE) & ~WS_EX_LAYOUTRTL);
   return panel;
 }
 
@@ -349,6 +352,9 @@ bool DialogWindows::TakeDialogKey(const MSG& message) {
   if (!IsOpen() || (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN)) return false;
   WidgetView* const view = ViewOf(message.hwnd);
   if (!view) return false;
+  // A drag is to come to its end.
+  const WidgetView* const dragged = ViewOf(::GetCapture());
+  if (dragged && dragged->Shown().Row().kind == WidgetKind::ListBox) return true;
   const Held held = Hold();
   const views::KeyPress press = ToKeyPress(message.wParam);
   Widget& from = view->Shown();
@@ -410,6 +416,10 @@ void DialogWindows::SetToolTip(const Widget& widget, const Text& text) {
   const auto [told, isNew] = toolTips_.try_emplace(&widget);
   if (!isNew && told->second == text) return;
   told->second = text;
+  PlaceTool(widget);
+}
+
+void DialogWindows::PlaceTool(const Widget& widget) {
   AddTool(widget);
   // Of several at one place the first is shown: those in a frame are to come ahead of its own.
   const Widget* const around = dialog_.Find({widget.Row().parent});
@@ -427,7 +437,7 @@ void DialogWindows::AddTool(const Widget& widget) {
   ::GetWindowRect(ViewFor(widget).Window(), &tool.rect);
   ::MapWindowPoints(nullptr, tool.hwnd, reinterpret_cast<POINT*>(&tool.rect), 2);
   ::SendMessageW(toolTip_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
-  if (!text.empty()) ::SendMessageW(toolTip_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
+  if (!text.empty() && widget.Visible()) ::SendMessageW(toolTip_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tool));
 }
 
 void DialogWindows::RelayToToolTip(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -443,6 +453,7 @@ void DialogWindows::RelayToToolTip(HWND window, UINT message, WPARAM wParam, LPA
 void DialogWindows::Changed(Widget& widget, WidgetProperty what) {
   if (what == WidgetProperty::Tab) BringUp();
   ViewFor(widget).Show(what);
+  if (what == WidgetProperty::Visible) PlaceTool(widget);
   if (what == WidgetProperty::Caption || what == WidgetProperty::ToolTipText) SpeakNames(&widget);
 }
 
@@ -462,8 +473,12 @@ void DialogWindows::MousePointerChanged(std::int16_t pointer) {
 void DialogWindows::MsgBox(const Text& text, const Text& title) {
   const Held held = Hold();
   const Styled styled;
-  const NextBox next(message_);
-  ::MessageBoxW(::GetAncestor(window_, GA_ROOT), ToWide(text).c_str(), ToWide(title).c_str(), MB_OK);
+  {
+    const NextBox next(message_);
+    ::MessageBoxW(::GetAncestor(window_, GA_ROOT), ToWide(text).c_str(), ToWide(title).c_str(), MB_OK);
+  }
+  // The windows have ended with that box; so does the one below it.
+  if (!IsOpen() && message_) ::EndDialog(message_, IDOK);
 }
 
 }  // namespace ORXKMPrintProp::win32

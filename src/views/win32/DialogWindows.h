@@ -41,6 +41,7 @@ class DialogWindows final : public Surface, public std::enable_shared_from_this<
   void Arrange();
   void SpeakNames(const Widget* changed);
   void BringUp();
+  void PlaceTool(const Widget& widget);
   void AddTool(const Widget& widget);
 
   WidgetView* ViewOf(HWND window) const;

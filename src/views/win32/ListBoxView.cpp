@@ -34,6 +34,9 @@ constexpr MouseMessage kMouseMessages[] = {
     {WM_MBUTTONDOWN, 0, true},
     {WM_MBUTTONDBLCLK, 0, true},
     {WM_MBUTTONUP, 0, false},
+    {WM_XBUTTONDOWN, 0, true},
+    {WM_XBUTTONDBLCLK, 0, true},
+    {WM_XBUTTONUP, 0, false},
 };
 
 /// How many buttons are held, as a message of the mouse tells it.
@@ -70,7 +73,21 @@ void ListBoxView::Show(WidgetProperty what) {
   if (what == WidgetProperty::Visible && !widget_.Visible()) pointer_.LetGo();
 }
 
-void ListBoxView::EntryChanged(int index, EntryProperty) {
+void ListBoxView::Make(HWND parent, int id) {
+  WidgetView::Make(parent, id);
+  // The system then hands the entries' texts, which are asked of the view, on to other programs.
+  ::SetWindowLongPtrW(Window(), GWL_STYLE, ::GetWindowLongPtrW(Window(), GWL_STYLE) | LBS_HASSTRINGS);
+}
+
+void ListBoxView::Notify(DWORD event, int entry) const {
+  ::NotifyWinEvent(event, Window(), OBJID_CLIENT, entry < 0 ? CHILDID_SELF : entry + 1);
+}
+
+void ListBoxView::EntryChanged(int index, EntryProperty what) {
+  if (what == EntryProperty::Selected) {
+    const bool isSelected = widget_.Selected(static_cast<std::int16_t>(index));
+    Notify(isSelected ? EVENT_OBJECT_SELECTIONADD : EVENT_OBJECT_SELECTIONREMOVE, index);
+  }
   RECT place{};
   Send(LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&place));
   ::InvalidateRect(Window(), &place, TRUE);
@@ -91,12 +108,14 @@ void ListBoxView::ShowCount() {
   if (std::exchange(shownCount_, count) == count) return;
   const int top = Top();
   Send(LB_SETCOUNT, static_cast<WPARAM>(count));
+  Notify(EVENT_OBJECT_REORDER, -1);
   if (Top() != top) Send(LB_SETTOPINDEX, static_cast<WPARAM>(std::max(std::min(top, count - 1), 0)));
 }
 
 void ListBoxView::ShowCaret() {
   ::InvalidateRect(Window(), nullptr, FALSE);
   const int caret = widget_.ListIndex();
+  if (caret >= 0 && ::GetFocus() == Window()) Notify(EVENT_OBJECT_FOCUS, caret);
   // Under the pointer nothing is to slip away.
   if (caret < 0 || pointer_.IsHeld()) return;
   const int visible = std::max(Height() / std::max(static_cast<int>(Send(LB_GETITEMHEIGHT)), 1), 1);
@@ -184,7 +203,7 @@ std::optional<LRESULT> ListBoxView::OnMessage(UINT message, WPARAM wParam, LPARA
       return 0;
     case WM_CAPTURECHANGED:
       // Something else has the mouse, and the release does not come here.
-      if (pointer_.IsHeld() && reinterpret_cast<HWND>(lParam) != Window()) ReleaseLater();
+      if (!isReleasing_ && pointer_.IsHeld() && reinterpret_cast<HWND>(lParam) != Window()) ReleaseLater();
       return 0;
     case WM_KEYDOWN:
     case WM_SYSKEYDOWN:
@@ -213,11 +232,10 @@ std::optional<LRESULT> ListBoxView::OnMouse(UINT message, WPARAM wParam, LPARAM 
       pointer_.Press(row.button, HeldIn(wParam) > 1, y);
     } else {
       if (HeldIn(wParam) == 0) {
-        // Ahead of what the user has begun ends: that may end the window.
-        const HWND window = Window();
-        pointer_.Release(row.button);
-        if (::GetCapture() == window) ::ReleaseCapture();
-        return 0;
+        // Ahead of what the user has begun ends: that may end this window, and open others that want the mouse.
+        isReleasing_ = true;
+        if (::GetCapture() == Window()) ::ReleaseCapture();
+        isReleasing_ = false;
       }
       pointer_.Release(row.button);
     }
@@ -230,7 +248,8 @@ std::optional<LRESULT> ListBoxView::OnKey(const views::KeyPress& press) {
   if (pointer_.IsHeld()) return 0;
   const int height = std::max(static_cast<int>(Send(LB_GETITEMHEIGHT)), 1);
   const auto action = views::ActionOf(widget_, press, Height() / height, search_);
-  if (!action) return {};
+  // The window has a use of its own for some with Ctrl.
+  if (!action) return press.key == views::Key::Other ? std::nullopt : std::optional<LRESULT>(0);
   Perform(action);
   return 0;
 }

@@ -12,6 +12,7 @@ namespace ORXKMPrintProp::win32 {
 class ListBoxView : public ViewOf<ListBox>, private views::ListGlass {
  public:
   using ViewOf::ViewOf;
+  void Make(HWND parent, int id) override;
   void Refresh() override;
   void Show(WidgetProperty what) override;
   void EntryChanged(int index, EntryProperty what) override;
@@ -43,11 +44,14 @@ class ListBoxView : public ViewOf<ListBox>, private views::ListGlass {
   void ShowCount();
   void ShowCaret();
   void ShowToolTipAt(int y);
+  /// Tells a screen reader. @param entry -1 for the list itself
+  void Notify(DWORD event, int entry) const;
   int Top() const;
 
   int shownCount_ = 0;
   bool isCountBehind_ = false;
   bool isRunning_ = false;
+  bool isReleasing_ = false;  ///< the mouse, by the list itself
   views::TypeAhead search_;
   views::ListPointer pointer_{widget_, *this};
 };

@@ -47,7 +47,7 @@ HFONT Surface::FontOf(const Font& font, int percent) {
   HFONT& made = fonts_[{font.Name, height, font.Weight}];
   if (!made) {
     made = ::CreateFontW(-static_cast<int>(height), 0, 0, 0, font.Weight, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
-                         OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, CLEARTYPE_QUALITY, DEFAULT_PITCH | FF_DONTCARE,
+                         OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE,
                          ToWide(font.Name).c_str());
   }
   return made;

@@ -10,6 +10,7 @@ class TextBoxView : public ViewOf<TextBox> {
   void Make(HWND parent, int id) override;
   void Refresh() override;
   void OnNotify(UINT notification) override;
+  void Use(WPARAM what) override;
 
  protected:
   WindowKind Kind() const override { return {L"EDIT", ES_AUTOHSCROLL | WS_TABSTOP, WS_EX_CLIENTEDGE}; }

@@ -4,8 +4,10 @@
 
 #include <array>
 #include <cctype>
+#include <cstdint>
 #include <cstring>
 #include <utility>
+#include <vector>
 
 #include "host/Utf8.h"
 #include "views/hand.h"
@@ -156,17 +158,44 @@ class WindowsHand : public Hand {
     if (kind == WidgetKind::ListBox || kind == WidgetKind::ComboBox) {
       const bool isList = kind == WidgetKind::ListBox;
       state["items"] = Json::array();
+      const auto isSeen = [&](int entry, const std::wstring& text) {
+        const bool isSelected = send(LB_GETSEL, entry) > 0;
+        return (GroundOf(window, entry) == ::GetSysColor(COLOR_HIGHLIGHT)) == isSelected &&
+               IsPainted(window, entry, text, isSelected);
+      };
       for (int i = 0; i < send(isList ? LB_GETCOUNT : CB_GETCOUNT); ++i) {
         std::wstring text(static_cast<std::size_t>(send(isList ? LB_GETTEXTLEN : CB_GETLBTEXTLEN, i)) + 1, L'\0');
         send(isList ? LB_GETTEXT : CB_GETLBTEXT, i, text.data());
         text.pop_back();
         Json item{{"text", host::ToUtf8(ToText(text))}};
         if (isList) item["selected"] = send(LB_GETSEL, i) > 0;
+        // The answers are the widget's own; what a user sees is painted, where a box was in front of it a little later.
+        constexpr int kTries = 50;
+        for (int tries = 0; isList && ::IsWindowVisible(window) && Contains(window, i) && !isSeen(i, text); ++tries) {
+          if (tries == kTries) {
+            item["text"] = "painted otherwise";
+            break;
+          }
+          ::Sleep(10);
+          test::Pump();
+          ::UpdateWindow(window);
+        }
         state["items"].push_back(item);
       }
       state["listIndex"] = send(isList ? LB_GETCARETINDEX : CB_GETCURSEL);
     }
-    if (kind == WidgetKind::TextBox) state["text"] = host::ToUtf8(win32::TextOf(window));
+    if (kind == WidgetKind::TextBox) state["text"] = host::ToUtf8(EditTextOf(window));
+    if (state.contains("caption")) state["caption"] = Whole(win32::TextOf(window), state["caption"]);
+    for (int tab = 0; state.contains("captions") && tab < SSTab::kTabs; ++tab) {
+      std::array<wchar_t, 256> text{};
+      TCITEMW item{};
+      item.mask = TCIF_TEXT;
+      item.pszText = text.data();
+      item.cchTextMax = static_cast<int>(text.size());
+      send(TCM_GETITEMW, tab, &item);
+      Json& caption = state["captions"][static_cast<std::size_t>(tab)];
+      caption = Whole(ToText(text.data()), caption);
+    }
     if (kind == WidgetKind::CheckBox) state["value"] = send(BM_GETCHECK) == BST_CHECKED ? 1 : 0;
     if (kind == WidgetKind::SSTab) state["tab"] = send(TCM_GETCURSEL);
   }
@@ -215,6 +244,71 @@ class WindowsHand : public Hand {
     ::SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&place));
     return ::PtInRect(&inside, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
   }
+  /// The caption that is seen, which may be cut, and has "&" twice where it would mark a shortcut key.
+  static std::string Whole(Text seen, const std::string& held) {
+    for (std::size_t at = 0; (at = seen.find(u"&&", at)) != Text::npos; ++at) seen.erase(at, 1);
+    const Text whole = host::FromUtf8(held);
+    const bool isCut = seen.ends_with(u'\u2026') && whole.starts_with(TextView(seen).substr(0, seen.size() - 1));
+    return isCut ? held : host::ToUtf8(seen);
+  }
+
+  static RECT RowOf(HWND list, int entry) {
+    RECT row{};
+    ::SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&row));
+    return row;
+  }
+  static COLORREF GroundOf(HWND list, int entry) {
+    const RECT row = RowOf(list, entry);
+    const HDC seen = ::GetDC(list);
+    const COLORREF ground = ::GetPixel(seen, row.right - 3, (row.top + row.bottom) / 2);
+    ::ReleaseDC(list, seen);
+    return ground;
+  }
+  /// Whether on the screen the entry looks like that, but for the mark of the caret around it.
+  static bool IsPainted(HWND list, int entry, const std::wstring& text, bool isSelected) {
+    RECT row = RowOf(list, entry);
+    const int width = row.right - row.left, height = row.bottom - row.top;
+    const HDC seen = ::GetDC(list);
+    const auto picture = [&](bool isExpected) {
+      const HDC context = ::CreateCompatibleDC(seen);
+      const HBITMAP bitmap = ::CreateCompatibleBitmap(seen, width, height);
+      const HGDIOBJ formerBitmap = ::SelectObject(context, bitmap);
+      const HGDIOBJ formerFont =
+          ::SelectObject(context, reinterpret_cast<HFONT>(::SendMessageW(list, WM_GETFONT, 0, 0)));
+      ::BitBlt(context, 0, 0, width, height, seen, row.left, row.top, SRCCOPY);
+      if (isExpected) {
+        const bool isEnabled = ::IsWindowEnabled(list) != FALSE;
+        RECT all{0, 0, width, height};
+        ::FillRect(context, &all, ::GetSysColorBrush(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
+        ::SetBkMode(context, TRANSPARENT);
+        ::SetTextColor(context, ::GetSysColor(!isEnabled   ? COLOR_GRAYTEXT
+                                              : isSelected ? COLOR_HIGHLIGHTTEXT
+                                                           : COLOR_WINDOWTEXT));
+        all.left = 2;
+        ::DrawTextW(context, text.c_str(), -1, &all, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS | DT_VCENTER);
+      }
+      std::vector<std::uint32_t> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
+      BITMAPINFO info{};
+      info.bmiHeader = {sizeof info.bmiHeader, width, height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+      ::SelectObject(context, formerBitmap);
+      ::GetDIBits(context, bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
+      ::SelectObject(context, formerFont);
+      ::DeleteObject(bitmap);
+      ::DeleteDC(context);
+      return pixels;
+    };
+    const auto found = picture(false), expected = picture(true);
+    ::ReleaseDC(list, seen);
+    int others = 0;
+    for (int y = 1; y < height - 1; ++y) {
+      for (int x = 1; x < width - 1; ++x) {
+        const auto at = static_cast<std::size_t>(y * width + x);
+        others += (found[at] & 0xFFFFFF) != (expected[at] & 0xFFFFFF);
+      }
+    }
+    return others == 0;
+  }
+
   /// By the scroll bar, until the entry is seen.
   static void ScrollTo(HWND list, int entry) {
     const auto count = static_cast<int>(::SendMessageW(list, LB_GETCOUNT, 0, 0));
