@@ -65,7 +65,8 @@ void EditWindow::MakeWindows(Dialog& dialog) {
       win32::Reports{.failed = [this](const Text& why) { editor_.OnFailed(ToUtf8(why)); },
                      .used = [this](const Widget& widget) { editor_.OnUsed(widget); },
                      .focused =
-                         [this] {
+                         [this](bool has) {
+                           if (!has) return;
                            dialog_->BringIntoSight(::GetFocus());
                            buttons_.ShowDefault();
                          },
