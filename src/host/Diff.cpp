@@ -36,11 +36,9 @@ std::vector<PageDifferences> Compare(const DiffOptions& options) {
                                              : before.texts;
   const auto from = SettingsOf(before);
   const auto to = SettingsOf(after);
-  // English words would stand between captions of the user's language, and the other way round.
-  if (!texts) return DifferencesOf(*from, *to, DifferenceWordsIn("en"));
   ORXQueryPrnProp control;
-  control.ORXControlTexts(texts);
-  return DifferencesOf(*from, *to, DifferenceWordsIn(UserLanguage()));
+  if (texts) control.ORXControlTexts(texts);
+  return DifferencesOf(*from, *to, WordsBesideCaptions(UserLanguage()));
 }
 
 void PrintJson(const DiffOptions& options, int status, const char* error,

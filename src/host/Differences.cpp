@@ -536,6 +536,10 @@ std::vector<PageDifferences> DifferencesOf(const PrnPropCls& before, const PrnPr
   return differences;
 }
 
+const DifferenceWords& WordsBesideCaptions(std::string_view language) {
+  return DifferenceWordsIn(gTextTable ? language : "en");
+}
+
 std::vector<PageDifferences> DifferencesOf(const Snapshot& before, const Snapshot& after,
                                            const DifferenceWords& words) {
   return DifferencesOf(*SettingsOf(DocumentOf(before)), *SettingsOf(DocumentOf(after)), words);

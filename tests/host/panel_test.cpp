@@ -58,7 +58,7 @@ TEST(ComparedTableTest, RowsStandBesideTheirOwnRowOfTheFile) {
   const ComparedTable table(rowsOf(R"({"CHAVL":"b","POSIT":"1"},{"CHAVL":"gone"},{"CHAVL":"a","POSIT":2,"HIDDEN":" "},)"
                                    R"({"CHAVL":"b","POSIT":5})"),
                             rowsOf(R"({"CHAVL":"a","POSIT":3},{"CHAVL":"b","POSIT":1},{"CHAVL":"b","POSIT":6},)"
-                                   R"({"CHAVL":"new"})"),
+                                   R"({"CHAVL":"new","POSIT":9})"),
                             {u"CHAVL"});
   std::string told;
   for (std::size_t row = 0; row < table.RowCount(); ++row) {
@@ -71,7 +71,28 @@ TEST(ComparedTableTest, RowsStandBesideTheirOwnRowOfTheFile) {
     told += "\n";
   }
   // POSIT is written behind CHAVL.
-  EXPECT_EQ(told, "a 2->3 \nb 1 \nb 5->6 \n->new \ngone gone-> \n");
+  EXPECT_EQ(told, "a 2->3 \nb 1 \nb 5->6 \n->new ->9 \ngone gone-> \n");
+
+  // From one difference to the next and back; a row that stands alone is one.
+  for (const bool forward : {true, false}) {
+    std::string places;
+    std::optional<ComparedTable::Place> place;
+    while ((place = table.Difference(place, forward))) {
+      places += std::to_string(place->first) + ToUtf8(u":" + table.Columns()[place->second] + u" ");
+    }
+    EXPECT_EQ(places, forward ? "0:POSIT 2:POSIT 3:CHAVL 4:CHAVL " : "4:CHAVL 3:CHAVL 2:POSIT 0:POSIT ");
+  }
+}
+
+TEST(ComparedTableTest, ATextThatIsCutShowsWhatDiffers) {
+  const std::tuple<Text, Text, Text> rows[] = {
+      {u"abcdefghijkl", u"abcdefghijkL", u"\u2026fghijkl"},
+      {u"abcdefghijkl", u"abcdefghijkl and more", u"\u2026ghijkl"},
+      {u"abcdefgh", u"abcdefgH", u"abcdefgh"},  // nothing would be won
+      {u"abc\U0001F600fghijk", u"abc\U0001F600fghijK", u"\u2026fghijk"},
+      {u"abcdef", u"", u"abcdef"},
+  };
+  for (const auto& [text, other, cut] : rows) EXPECT_EQ(ToUtf8(CutToDifference(text, other)), ToUtf8(cut));
 }
 
 TEST(DifferencesTest, NoSettingIsForgotten) {

@@ -17,6 +17,7 @@
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTextEdit>
 #include <QTimer>
 #include <algorithm>
 #include <deque>
@@ -170,15 +171,16 @@ TEST_F(SettingsWindowTest, ThePanelMarksCellsThatDifferAndSaysWhenItIsOlder) {
   Open();
   ASSERT_TRUE(QTest::qWaitFor([&] { return window->findChild<QTabWidget*>(); }));
   auto& tabs = *window->findChild<QTabWidget*>();
-  tabs.setCurrentIndex(1);
+  tabs.setCurrentIndex(2);
   const QAbstractItemModel& model = *static_cast<QTableView&>(*tabs.currentWidget()).model();
   const auto state = [&] {
-    QString text = QString::fromStdString(State()) + u'\n' + tabs.tabText(1);
+    QString text = QString::fromStdString(State()) + u'\n' + tabs.tabText(2);
     for (int column = 0; column < model.columnCount(); ++column) {
       const QModelIndex cell = model.index(0, column);
       if (!cell.data(Qt::BackgroundRole).isValid()) continue;
       text += u'\n' + model.headerData(column, Qt::Horizontal).toString() + u'=' + cell.data().toString() + u'|' +
               cell.data(Qt::ToolTipRole).toString();
+      EXPECT_EQ(cell.data(Qt::AccessibleDescriptionRole), cell.data(Qt::ToolTipRole));
     }
     return text.toStdString();
   };
@@ -186,9 +188,30 @@ TEST_F(SettingsWindowTest, ThePanelMarksCellsThatDifferAndSaysWhenItIsOlder) {
   Type("!");
   EXPECT_EQ(state(), "open modified apply older\ngeneral") << "typing reads nothing";
   Press("refresh");
-  EXPECT_EQ(state(), "open modified apply\ngeneral *\nTITLE=Orders by region!|In the file: Orders by region");
+  EXPECT_EQ(state(), "open modified apply\ngeneral *\nTITLE=\u2260 Orders by region!|In the file: Orders by region");
+
+  QTest::keyClicks(&Find<QLineEdit>("txtGenMarginTop"), QStringLiteral("5"));
+  Press("refresh");
+  tabs.setCurrentIndex(1);
+  EXPECT_EQ(window->findChild<QTextEdit*>()->toPlainText().toStdString(),
+            "General\nPrint title: 'Orders by region' is now 'Orders by region!'\nPage margins, Top: 10 is now 105");
+  const auto differenceAt = [&](Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(window.get(), Qt::Key_F8, modifiers);
+    const auto* const table = qobject_cast<QTableView*>(tabs.currentWidget());
+    if (!table || !table->hasFocus()) return std::string("no table");
+    const int column = table->currentIndex().column();
+    return table->model()->headerData(column, Qt::Horizontal).toString().toStdString();
+  };
+  EXPECT_EQ(differenceAt({}), "TITLE");
+  EXPECT_EQ(differenceAt({}), "MARGIN_TOP");
+  EXPECT_EQ(differenceAt({}), "TITLE") << "round to the first";
+  EXPECT_EQ(differenceAt(Qt::ShiftModifier), "MARGIN_TOP") << "and back";
+  EXPECT_TRUE(Find<QPushButton>("nextDifference").isEnabled());
   Press(QDialogButtonBox::Apply);
   EXPECT_EQ(state(), "open\ngeneral");
+  EXPECT_FALSE(Find<QPushButton>("nextDifference").isEnabled());
+  tabs.setCurrentIndex(1);
+  EXPECT_EQ(window->findChild<QTextEdit*>()->toPlainText(), QStringLiteral("Nothing has changed."));
 
   const int width = window->width();
   Press("preview");

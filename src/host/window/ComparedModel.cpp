@@ -2,6 +2,8 @@
 
 #include <QBrush>
 #include <QFont>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "host/Terminal.h"
@@ -14,6 +16,8 @@ namespace {
 // Both colors are set: the text must stay readable under a dark theme.
 const QColor kMarked(255, 224, 140);
 const QColor kMarkedInk(32, 32, 32);
+// Told by no color alone.
+const QString kMark = QStringLiteral("\u2260 ");
 
 }  // namespace
 
@@ -21,8 +25,20 @@ void ComparedModel::Show(ComparedTable table) {
   beginResetModel();
   table_ = std::move(table);
   endResetModel();
-  const auto first = table_.FirstDifference();
-  firstMark_ = first ? index(static_cast<int>(first->first), static_cast<int>(first->second)) : QModelIndex();
+}
+
+QModelIndex ComparedModel::Mark(const QModelIndex& from, bool forward) const {
+  std::optional<ComparedTable::Place> place;
+  if (from.isValid()) place = {static_cast<std::size_t>(from.row()), static_cast<std::size_t>(from.column())};
+  const auto mark = table_.Difference(place, forward);
+  return mark ? index(static_cast<int>(mark->first), static_cast<int>(mark->second)) : QModelIndex();
+}
+
+QString ComparedModel::CutText(const QModelIndex& index) const {
+  const auto row = static_cast<std::size_t>(index.row());
+  const auto cell = table_.At(row, static_cast<std::size_t>(index.column()));
+  if (!cell.differs || table_.IsGone(row)) return index.data().toString();
+  return kMark + qt::ToQString(CutToDifference(OneLine(cell.now), OneLine(cell.file)));
 }
 
 int ComparedModel::rowCount(const QModelIndex& parent) const {
@@ -41,18 +57,20 @@ QVariant ComparedModel::data(const QModelIndex& index, int role) const {
     font.setStrikeOut(isGone);
     return isGone ? font : QVariant();
   }
-  if (role != Qt::DisplayRole && role != Qt::BackgroundRole && role != Qt::ForegroundRole && role != Qt::ToolTipRole) {
-    return {};
-  }
+  static constexpr int kRoles[] = {Qt::DisplayRole, Qt::BackgroundRole, Qt::ForegroundRole, Qt::ToolTipRole,
+                                   Qt::AccessibleDescriptionRole};
+  if (std::find(std::begin(kRoles), std::end(kRoles), role) == std::end(kRoles)) return {};
   const ComparedTable::Cell cell = table_.At(row, static_cast<std::size_t>(index.column()));
-  if (role == Qt::DisplayRole) return qt::ToQString(OneLine(isGone ? cell.file : cell.now));
+  const QString text = qt::ToQString(OneLine(isGone ? cell.file : cell.now));
+  if (role == Qt::DisplayRole) return cell.differs ? kMark + text : text;
   if (!cell.differs) return {};
   if (role == Qt::BackgroundRole) return QBrush(kMarked);
   if (role == Qt::ForegroundRole) return QBrush(kMarkedInk);
-  if (isGone) return QStringLiteral("The row does not come back");
   const QString file = qt::ToQString(OneLine(cell.file));
-  return qt::ToolTipOf(file.trimmed().isEmpty() ? QStringLiteral("Empty in the file")
-                                                : QStringLiteral("In the file: ") + file);
+  const QString told = isGone                     ? QStringLiteral("The row does not come back")
+                       : file.trimmed().isEmpty() ? QStringLiteral("Empty in the file")
+                                                  : QStringLiteral("In the file: ") + file;
+  return role == Qt::ToolTipRole ? qt::ToolTipOf(told) : told;
 }
 
 QVariant ComparedModel::headerData(int section, Qt::Orientation orientation, int role) const {

@@ -1,21 +1,22 @@
 #include "host/window/MeaningPanel.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTableView>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <exception>
 #include <utility>
 
-#include "host/window/ComparedModel.h"
+#include "host/window/ChangesView.h"
+#include "host/window/ComparedView.h"
 #include "host/window/PageSketchView.h"
 
 namespace ORXKMPrintProp::host {
@@ -65,22 +66,6 @@ class PageArea : public QScrollArea {
   bool isWhole_ = false;
 };
 
-QTableView* MakeTable(ComparedModel* model, QWidget* parent) {
-  auto* const view = new QTableView(parent);
-  view->setModel(model);
-  view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  view->setTabKeyNavigation(false);
-  view->setAlternatingRowColors(true);
-  view->setWordWrap(false);
-  constexpr int kMeasuredRows = 50;
-  view->horizontalHeader()->setResizeContentsPrecision(kMeasuredRows);
-  constexpr int kMostWidth = 300;
-  view->horizontalHeader()->setMaximumSectionSize(kMostWidth);
-  view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() + 6);
-  return view;
-}
-
 }  // namespace
 
 MeaningPanel::MeaningPanel(std::function<void()> refresh, QWidget* parent)
@@ -114,14 +99,30 @@ void MeaningPanel::MakeTabs() {
   down->addWidget(area);
   down->addWidget(isWhole);
   tabs_->addTab(page, QStringLiteral("Page"));
+  changes_ = new ChangesView(this);
+  changes_->setAccessibleName(QStringLiteral("Changes"));
+  tabs_->addTab(changes_, QStringLiteral("Changes"));
   for (const TableTab& table : TableTabs()) {
-    models_.push_back(new ComparedModel(this));
-    views_.push_back(MakeTable(models_.back(), this));
+    views_.push_back(new ComparedView(this));
     views_.back()->setAccessibleName(QLatin1String(table.caption));
     tabs_->addTab(views_.back(), QLatin1String(table.caption));
   }
   connect(tabs_, &QTabWidget::currentChanged, this, [this] { ShowFront(); });
-  static_cast<QBoxLayout&>(*layout()).insertWidget(1, tabs_, 1);
+  auto& column = static_cast<QBoxLayout&>(*layout());
+  column.insertWidget(1, tabs_, 1);
+  next_ = new QPushButton(QStringLiteral("&Next difference"), this);
+  next_->setObjectName(QStringLiteral("nextDifference"));
+  next_->setAutoDefault(true);
+  next_->setToolTip(
+      QStringLiteral("Goes to the next cell that is another than in the file (F8), "
+                     "or back to the one before (Shift+F8)"));
+  connect(next_, &QPushButton::clicked, this, [this] { GoToMark(true); });
+  column.insertWidget(2, next_, 0, Qt::AlignRight);
+  for (const bool forward : {true, false}) {
+    new QShortcut(forward ? Qt::Key_F8 : Qt::SHIFT | Qt::Key_F8, this, [this, forward] {
+      if (!QApplication::activePopupWidget()) GoToMark(forward);
+    });
+  }
   // What is made late comes last otherwise, and the tabs themselves would hand their bar the focus of the buttons.
   QWidget* last = refresh_;
   const auto isNext = [&](QWidget* widget) { setTabOrder(std::exchange(last, widget), widget); };
@@ -129,13 +130,15 @@ void MeaningPanel::MakeTabs() {
   isNext(tabs_->findChild<QTabBar*>());
   isNext(area);
   isNext(isWhole);
-  for (QTableView* const view : views_) isNext(view);
+  isNext(changes_);
+  for (ComparedView* const view : views_) isNext(view);
+  isNext(next_);
 }
 
 void MeaningPanel::Show(const Snapshot& file, const Snapshot& now) {
   file_ = file;
   now_ = now;
-  isFilled_ = false;
+  isFilled_ = areChangesTold_ = false;
   if (tabs_ && tabs_->isVisible()) Fill();
 }
 
@@ -172,7 +175,8 @@ void MeaningPanel::Fill() {
   isFilled_ = true;
   try {
     sketch_->Show(SketchOf(now_));
-    for (std::size_t table = 0; table < models_.size(); ++table) FillTable(table);
+    for (std::size_t table = 0; table < views_.size(); ++table) FillTable(table);
+    next_->setEnabled(std::any_of(views_.begin(), views_.end(), [](const auto* view) { return view->HasMarks(); }));
     ShowFront();
   } catch (const std::exception& error) {
     state_->setText(QString::fromUtf8(error.what()));
@@ -181,20 +185,46 @@ void MeaningPanel::Fill() {
 
 void MeaningPanel::FillTable(std::size_t table) {
   const TableTab& tab = TableTabs()[table];
-  models_[table]->Show(ComparedTable(file_.tables[table], now_.tables[table], tab.keyColumns));
+  ComparedView& view = *views_[table];
+  view.Show(ComparedTable(file_.tables[table], now_.tables[table], tab.keyColumns));
   QString caption = QLatin1String(tab.caption);
-  if (models_[table]->FirstMark().isValid()) caption += QStringLiteral(" *");
-  const int page = tabs_->indexOf(views_[table]);
+  if (view.HasMarks()) caption += QStringLiteral(" *");
+  const int page = tabs_->indexOf(&view);
   tabs_->setTabText(page, caption);
-  tabs_->setTabToolTip(page,
-                       models_[table]->FirstMark().isValid() ? QStringLiteral("Differs from the file") : QString());
+  tabs_->setTabToolTip(page, view.HasMarks() ? QStringLiteral("Differs from the file") : QString());
 }
 
 void MeaningPanel::ShowFront() {
-  for (std::size_t table = 0; table < views_.size(); ++table) {
-    if (tabs_->currentWidget() != views_[table]) continue;
-    views_[table]->resizeColumnsToContents();
-    if (const QModelIndex mark = models_[table]->FirstMark(); mark.isValid()) views_[table]->scrollTo(mark);
+  if (ComparedView* const view = FrontTable()) view->ComeToFront();
+  if (tabs_->currentWidget() != changes_ || std::exchange(areChangesTold_, true)) return;
+  try {
+    changes_->Show(file_, now_);
+  } catch (const std::exception& error) {
+    state_->setText(QString::fromUtf8(error.what()));
+  }
+}
+
+ComparedView* MeaningPanel::FrontTable() const {
+  const auto front = std::find(views_.begin(), views_.end(), tabs_->currentWidget());
+  return front == views_.end() ? nullptr : *front;
+}
+
+void MeaningPanel::GoToMark(bool forward) {
+  // Round the tables, and at the end of the round to what is ahead in the first of them.
+  const ComparedView* const front = FrontTable();
+  const auto start = std::find(views_.begin(), views_.end(), front);
+  std::vector<ComparedView*> round(start, views_.end());
+  round.insert(round.end(), views_.begin(), start);
+  if (!forward) std::reverse(round.begin() + (front ? 1 : 0), round.end());
+  if (front) round.push_back(round.front());
+  for (std::size_t i = 0; i < round.size(); ++i) {
+    const QModelIndex mark = round[i]->MarkFrom(front && i == 0, forward);
+    if (!mark.isValid()) continue;
+    tabs_->setCurrentWidget(round[i]);
+    round[i]->setCurrentIndex(mark);
+    round[i]->scrollTo(mark);
+    round[i]->setFocus();
+    return;
   }
 }
 

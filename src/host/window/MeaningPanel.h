@@ -9,16 +9,17 @@
 
 class QLabel;
 class QPushButton;
-class QTableView;
 class QTabWidget;
 
 namespace ORXKMPrintProp::host {
 
-class ComparedModel;
+class ChangesView;
+class ComparedView;
 class PageSketchView;
 
-/// Shows what the settings mean: a sketch of the page, and the four tables as they are read back with the cells
-/// marked that are others than in the file. It shows what it is given and reads nothing itself.
+/// Shows what the settings mean: a sketch of the page, what has changed since the file in plain words, and the four
+/// tables as they are read back with the cells marked that are others than in the file. It shows what it is given and
+/// reads nothing itself.
 class MeaningPanel : public QWidget {
  public:
   /// @param refresh what the button does
@@ -38,16 +39,21 @@ class MeaningPanel : public QWidget {
   /// What can't be seen is computed when it can.
   void Fill();
   void FillTable(std::size_t table);
-  /// A table comes to the front with the first of its marks in sight.
+  /// A table comes to the front with the first of its marks in sight; the changes are worked out when they do.
   void ShowFront();
+  ComparedView* FrontTable() const;
+  /// Brings the next cell that differs to the front, or the one before, in whichever table that is.
+  void GoToMark(bool forward);
 
   QLabel* state_;
   QPushButton* refresh_;
   QTabWidget* tabs_ = nullptr;  ///< none until the panel has been seen
   PageSketchView* sketch_ = nullptr;
-  std::vector<ComparedModel*> models_;
-  std::vector<QTableView*> views_;
+  ChangesView* changes_ = nullptr;
+  std::vector<ComparedView*> views_;
+  QPushButton* next_ = nullptr;
   bool isFilled_ = false;
+  bool areChangesTold_ = false;  ///< since the tables were shown
   Snapshot file_;
   Snapshot now_;
 };
