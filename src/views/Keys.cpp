@@ -1,28 +1,51 @@
 #include "views/Keys.h"
 
 #include <algorithm>
-
-#include "tables/CaseFolding.h"
+#include <cstdlib>
+#include <utility>
 
 namespace ORXKMPrintProp::views {
 namespace {
 
-bool BeginsWith(TextView entry, TextView head) {
-  return entry.size() >= head.size() && FoldedEqual()(entry.substr(0, head.size()), head);
-}
-
 bool IsTyped(const KeyPress& press) { return !press.text.empty() && press.text.front() >= u' '; }
 
-bool IsOneLetterAgain(TextView typed) {
-  return std::all_of(typed.begin(), typed.end(), [&](char16_t c) { return FoldCase(c) == FoldCase(typed.front()); });
+/// Where a caret begins, -1 in a list without entries.
+std::int16_t BeginOf(const ListBox& list) {
+  std::int16_t first = 0;
+  if (list.SelCount() == 0) return list.ListCount() > 0 ? first : std::int16_t{-1};
+  while (!list.Selected(first)) ++first;
+  return first;
 }
 
-/// Where the caret goes. Without one every key leads to the first entry.
+bool IsOfSeveral(const ListBox& list) { return list.Row().multiSelect; }
+
+/// A caret does not select here.
+void GiveCaret(ListBox& list) {
+  if (list.ListIndex() < 0 && IsOfSeveral(list)) list.UserMoveCaret(BeginOf(list));
+}
+
+/// @return whether the list goes on as it was but for the selection.
+bool Toggle(ListBox& list, int entry) {
+  const std::int16_t count = list.ListCount();
+  return list.UserMoveCaret(static_cast<std::int16_t>(entry)) == Refusal::None && list.UserToggle() == Refusal::None &&
+         list.ListCount() == count;
+}
+
+void SelectAll(ListBox& list, bool selected) {
+  GiveCaret(list);
+  const std::int16_t caret = list.ListIndex();
+  for (std::int16_t i = 0; i < list.ListCount(); ++i) {
+    if (list.Selected(i) != selected && !Toggle(list, i)) return;
+  }
+  list.UserMoveCaret(caret);
+}
+
+/// Where the caret goes. Without one every key leads to where it begins.
 std::optional<int> CaretOf(const ListBox& list, Key key, int visible) {
   const int page = std::max(visible - 1, 1);
   const int caret = list.ListIndex();
   const auto to = [&](int entry) {
-    return std::optional(caret < 0 ? 0 : std::clamp(entry, 0, std::max(list.ListCount() - 1, 0)));
+    return std::optional<int>(caret < 0 ? BeginOf(list) : std::clamp(entry, 0, std::max(list.ListCount() - 1, 0)));
   };
   switch (key) {
     case Key::Up:
@@ -46,46 +69,79 @@ std::optional<int> CaretOf(const ListBox& list, Key key, int visible) {
 
 }  // namespace
 
-std::optional<std::int16_t> TypeAhead::Find(const EntryWidget& widget, TextView typed, Clock::time_point now) {
-  if (now - last_ > std::chrono::seconds(1)) typed_.clear();
-  last_ = now;
-  typed_ += typed;
-  auto found = Search(widget);
-  if (!found && typed_.size() > typed.size()) {
-    typed_ = typed;
-    found = Search(widget);
+void ListKeys::Stretch::GoTo(ListBox& list, int entry) {
+  GiveCaret(list);
+  int at = list.ListIndex();
+  if (at < 0) return;
+  if (anchor < 0 || end != at || entries != list.ListCount()) {
+    *this = {.anchor = at, .entries = list.ListCount()};
+    if (!list.Selected(static_cast<std::int16_t>(at))) {
+      selected.push_back(at);
+      if (!Toggle(list, at)) return;
+    }
   }
-  return found;
+  for (end = at; at != entry; end = at) {
+    const int next = at + (entry > at ? 1 : -1);
+    const bool isBack = std::abs(next - anchor) < std::abs(at - anchor);
+    const int passed = isBack ? at : next;
+    at = next;
+    const bool isSelected = list.Selected(static_cast<std::int16_t>(passed));
+    if (!isBack) {
+      if (isSelected) continue;
+      selected.push_back(passed);
+    } else {
+      if (selected.empty() || selected.back() != passed) continue;
+      selected.pop_back();
+      if (!isSelected) continue;
+    }
+    if (!Toggle(list, passed)) return;
+  }
+  list.UserMoveCaret(static_cast<std::int16_t>(entry));
 }
 
-std::optional<std::int16_t> TypeAhead::Search(const EntryWidget& widget) const {
-  // A text goes on at the entry that is found already, a letter alone behind it.
-  const bool isLetter = IsOneLetterAgain(typed_);
-  const TextView wanted = isLetter ? TextView(typed_).substr(0, 1) : TextView(typed_);
-  const int count = widget.ListCount();
-  for (int i = 0; i < count; ++i) {
-    const auto entry = static_cast<std::int16_t>((widget.ListIndex() + (isLetter ? 1 : 0) + count + i) % count);
-    if (BeginsWith(widget.List(entry), wanted)) return entry;
+std::function<void()> ListKeys::ActionOf(ListBox& list, const KeyPress& press, int visible) {
+  const bool isExtending = press.shift && !press.control && !press.alt && IsOfSeveral(list);
+  const auto caret = isExtending ? CaretOf(list, press.key, visible) : std::nullopt;
+  if (caret) {
+    return [&list, stretch = stretch_, entry = *caret] { stretch->GoTo(list, entry); };
   }
-  return {};
+  auto action = SingleActionOf(list, press, visible);
+  if (action) stretch_ = std::make_shared<Stretch>();
+  return action;
 }
 
-std::function<void()> ActionOf(ListBox& list, const KeyPress& press, int visible, TypeAhead& search) {
+std::function<void()> ListKeys::SingleActionOf(ListBox& list, const KeyPress& press, int visible) {
   const bool isArrow = press.key == Key::Up || press.key == Key::Down;
   if (press.alt && isArrow && !press.control && !press.shift) {
     const auto step = static_cast<std::int16_t>(press.key == Key::Up ? -1 : 1);
-    return [&list, step] { list.UserDragStep(step); };
+    return [&list, step] {
+      GiveCaret(list);
+      list.UserDragStep(step);
+    };
+  }
+  if (press.key == Key::A && press.control && !press.alt && IsOfSeveral(list)) {
+    return [&list, selected = !press.shift] { SelectAll(list, selected); };
   }
   if (press.alt || press.control) return {};
-  if (press.key == Key::Space) return [&list] { list.UserToggle(); };
+  if (press.key == Key::Space) {
+    return [&list] {
+      GiveCaret(list);
+      list.UserToggle();
+    };
+  }
   const auto moveTo = [&list](int entry) {
     return [&list, entry] { list.UserMoveCaret(static_cast<std::int16_t>(entry)); };
   };
   if (const auto caret = CaretOf(list, press.key, visible)) return moveTo(*caret);
   if (!IsTyped(press)) return {};
-  const auto found = search.Find(list, press.text);
+  const auto found = search_.Find(list, press.text);
   if (!found) return [] {};
   return moveTo(*found);
+}
+
+std::function<void()> ActionOfFocus(ListBox& list) {
+  if (list.ListIndex() >= 0 || list.ListCount() == 0 || !IsOfSeveral(list)) return {};
+  return [&list] { GiveCaret(list); };
 }
 
 std::optional<std::int16_t> PickOf(const ComboBox& combo, const KeyPress& press, TypeAhead& search) {
@@ -104,6 +160,7 @@ std::optional<std::int16_t> PickOf(const ComboBox& combo, const KeyPress& press,
     case Key::End:
       return to(last);
     case Key::Other:
+    case Key::A:
       return IsTyped(press) ? search.Find(combo, press.text) : std::nullopt;
     default:
       return {};
@@ -135,6 +192,65 @@ std::optional<std::int16_t> TabOf(const SSTab& tabs, const KeyPress& press, bool
                                                : std::clamp(tab, 0, SSTab::kTabs - 1));
   }
   return {};
+}
+
+std::span<const KeyRow> KeyTable() {
+  using enum KeyRow::Place;
+  static constexpr KeyRow kRows[] = {
+      {Dialog, "Tab and Shift+Tab", "lead to the next field and to the one before"},
+      {Dialog, "Ctrl+Tab and Ctrl+PgDown", "bring the next page to the top"},
+      {Dialog, "Ctrl+Shift+Tab and Ctrl+PgUp", "bring the page before to the top"},
+      {Tabs, "Arrows, Home and End", "bring another page to the top"},
+      {AnyList, "Arrows, PgUp, PgDown, Home and End", "lead to another entry"},
+      {AnyList, "Letters", "lead to the entry that begins with them"},
+      {ListOfSeveral, "Space", "selects the entry, or takes it out of the selection"},
+      {ListOfSeveral, "Shift with arrows, PgUp, PgDown, Home and End", "selects all entries on the way"},
+      {ListOfSeveral, "Ctrl+A", "selects all entries"},
+      {ListOfSeveral, "Ctrl+Shift+A", "takes all entries out of the selection"},
+      {PrintList, "Alt+Up and Alt+Down", "move the entry up and down in the print order"},
+      {ComboBox, "Up, Down, Home and End", "pick another entry"},
+      {ComboBox, "Letters", "pick the entry that begins with them"},
+      {ComboBox, "F4 and Alt+Down", "open the list"},
+      {Button, "Space and Enter", "press the button"},
+      {CheckBox, "Space", "ticks the box, or takes the tick out"},
+  };
+  return kRows;
+}
+
+const char* WordsOf(KeyRow::Place place) {
+  using enum KeyRow::Place;
+  switch (place) {
+    case Dialog:
+      return "in the whole dialog";
+    case Tabs:
+      return "on the tabs";
+    case AnyList:
+      return "in a list";
+    case ListOfSeveral:
+      return "in a list of entries to select";
+    case PrintList:
+      return "in a list of what is printed";
+    case ComboBox:
+      return "in a box with a list";
+    case Button:
+      return "on a button";
+    case CheckBox:
+      return "on a check box";
+  }
+  return "";
+}
+
+std::string KeysSpoken(const ListBox& list) {
+  using enum KeyRow::Place;
+  // What leads to another entry needs no words in a list where there is more.
+  const bool isReordered = list.MouseMove != nullptr;
+  std::string spoken;
+  for (const KeyRow& row : KeyTable()) {
+    const bool isMeant = IsOfSeveral(list) ? row.place == ListOfSeveral || (row.place == PrintList && isReordered)
+                                           : row.place == AnyList;
+    if (isMeant) spoken += (spoken.empty() ? "" : " ") + std::string(row.keys) + " " + row.does + ".";
+  }
+  return spoken;
 }
 
 }  // namespace ORXKMPrintProp::views

@@ -1,17 +1,21 @@
 #pragma once
 
-#include <chrono>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
+#include <span>
+#include <string>
+#include <vector>
 
-#include "dialog/Lists.h"
+#include "views/Search.h"
 
 // What keys do in the widgets that hold entries, and to the tabs. What they do to the text of a box is the toolkit's.
 
 namespace ORXKMPrintProp::views {
 
-enum class Key { Other, Up, Down, Left, Right, Home, End, PageUp, PageDown, Space, Tab };
+/// `A` is that letter with Ctrl.
+enum class Key { Other, Up, Down, Left, Right, Home, End, PageUp, PageDown, Space, Tab, A };
 
 struct KeyPress {
   Key key = Key::Other;
@@ -21,27 +25,35 @@ struct KeyPress {
   Text text = {};  ///< what the key types, empty for nothing
 };
 
-/// Finds the entry that begins with what is typed, regardless of case, round and round. Keys that follow each other
-/// within a second count as one text, where an entry begins with it; the same letter again leads to the next entry that
-/// begins with it.
-class TypeAhead {
+/// The keys of a list: arrows and page keys move the caret, with Shift they select what it goes over, Space toggles the
+/// entry at the caret, Ctrl+A selects all entries, Alt with an arrow takes the entry a step up or down, and letters
+/// search. All of it in the steps that a user can do one by one.
+class ListKeys {
  public:
-  using Clock = std::chrono::steady_clock;
-
-  /// @return none when there is no such entry.
-  std::optional<std::int16_t> Find(const EntryWidget& widget, TextView typed, Clock::time_point now = Clock::now());
+  /// What the key does, none when it is not for the list. What is done may be the end of this object.
+  /// @param visible how many entries are seen at a time.
+  std::function<void()> ActionOf(ListBox& list, const KeyPress& press, int visible);
 
  private:
-  std::optional<std::int16_t> Search(const EntryWidget& widget) const;
+  /// What has been selected with Shift, as long as the caret has moved with Shift alone.
+  struct Stretch {
+    int anchor = -1;
+    int end = -1;
+    int entries = 0;                 ///< of the list
+    std::vector<int> selected = {};  ///< by these keys, from the anchor on
 
-  Text typed_;
-  Clock::time_point last_;
+    void GoTo(ListBox& list, int entry);
+  };
+
+  std::function<void()> SingleActionOf(ListBox& list, const KeyPress& press, int visible);
+
+  std::shared_ptr<Stretch> stretch_ = std::make_shared<Stretch>();
+  TypeAhead search_;
 };
 
-/// What the key does to a list, none when it is not for it: arrows and page keys move the caret, Space toggles the
-/// entry at the caret, Alt with an arrow takes it a step up or down, and letters search.
-/// @param visible how many entries are seen at a time.
-std::function<void()> ActionOf(ListBox& list, const KeyPress& press, int visible, TypeAhead& search);
+/// What the focus does to a list that gets it by keyboard: a caret goes to the first selected entry, else to the first
+/// one. None where there is a caret, or where it would select.
+std::function<void()> ActionOfFocus(ListBox& list);
 
 /// The entry that the key picks in a combo box whose list is closed, none when it picks none. It may be the one that
 /// is shown.
@@ -50,5 +62,20 @@ std::optional<std::int16_t> PickOf(const ComboBox& combo, const KeyPress& press,
 /// The page that the key brings to the top: with Ctrl Tab and the page keys from anywhere, round and round; on the
 /// tabs themselves also the arrows, Home and End.
 std::optional<std::int16_t> TabOf(const SSTab& tabs, const KeyPress& press, bool isOnTabs);
+
+/// For a person, in English: "Space" "selects the entry, ...".
+struct KeyRow {
+  enum class Place { Dialog, Tabs, AnyList, ListOfSeveral, PrintList, ComboBox, Button, CheckBox };
+
+  Place place;
+  const char* keys;
+  const char* does;
+};
+std::span<const KeyRow> KeyTable();
+/// Where these keys are for: "in the whole dialog", "in a list".
+const char* WordsOf(KeyRow::Place place);
+
+/// What is particular about the keys of a list, in a sentence each, for a screen reader.
+std::string KeysSpoken(const ListBox& list);
 
 }  // namespace ORXKMPrintProp::views

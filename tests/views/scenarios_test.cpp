@@ -175,6 +175,33 @@ TEST_F(ViewScenario, AViewThatGoesEndsWhatHasBegun) {
   EXPECT_EQ(StateOf(list), "b:2 >*a:1 c:3");
 }
 
+TEST_F(ViewScenario, ACaretBeginsAtWhatIsSelected) {
+  Load("a b c", "3");
+  auto& structures = dialog.Get<ListBox>(u"lstStrStructures");
+  structures.Click = {};
+  Fill(structures, "x y");
+  stage.Play("focus tstPrint; key tstPrint Tab");
+  EXPECT_EQ(StateOf(structures), "x y") << "a caret would select";
+  stage.Play("key lstStrStructures Shift+Down; key lstStrStructures Ctrl+A");
+  EXPECT_EQ(StateOf(structures), ">*x y");
+  stage.Play("tab 1");
+  list.Click = {};
+  list.Selected(0, false);
+  list.Selected(1, true);
+  EXPECT_EQ(stage.Play("focus cmdRightToLeft(1); key cmdRightToLeft(1) Tab"), "  lists 1: [] [a:1 >*b:2 c:3]\n");
+}
+
+TEST_F(ViewScenario, AHandlerMayEmptyTheListThatIsBeingSelected) {
+  Load("a b c d");
+  list.Click = [&] {
+    if (list.SelCount() == 3) list.Clear();
+  };
+  EXPECT_EQ(stage.Play("key lstPrint(1) Ctrl+A"), "  lists 1: [] []\n");
+  Fill(list, "x y z");
+  stage.Play("key lstPrint(1) Home; key lstPrint(1) Shift+End");
+  EXPECT_EQ(StateOf(list), "");
+}
+
 TEST_F(ViewScenario, ABoxShowsWhatItsFilterLeavesWithoutALimit) {
   Load("a", "0");
   auto& box = dialog.Get<TextBox>(u"txtGenMaxPages");

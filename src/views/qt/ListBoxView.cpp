@@ -27,6 +27,15 @@ class EntryDelegate : public QStyledItemDelegate {
     return {QStyledItemDelegate::sizeHint(option, index).width(), option.fontMetrics.height()};
   }
 
+  /// The mark of the caret that styles draw is not seen on a selected entry.
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QStyledItemDelegate::paint(painter, option, index);
+    const auto entry = static_cast<std::int16_t>(index.row());
+    if (entry != list_.ListIndex() || !option.widget->hasFocus()) return;
+    painter->setPen(option.palette.color(list_.Selected(entry) ? QPalette::HighlightedText : QPalette::Text));
+    painter->drawRect(option.rect.adjusted(1, 0, -2, -1));
+  }
+
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
                  const QModelIndex& index) override {
     // The row may be wider than what is seen of it.
@@ -41,8 +50,7 @@ class EntryDelegate : public QStyledItemDelegate {
     QStyledItemDelegate::initStyleOption(option, index);
     const auto entry = static_cast<std::int16_t>(index.row());
     option->state.setFlag(QStyle::State_Selected, entry < list_.ListCount() && list_.Selected(entry));
-    option->state.setFlag(QStyle::State_HasFocus,
-                          entry == list_.ListIndex() && option->widget && option->widget->hasFocus());
+    option->state.setFlag(QStyle::State_HasFocus, false);
   }
 
  private:
@@ -140,7 +148,7 @@ void ListBoxView::ReleaseLater() {
 void ListBoxView::keyPressEvent(QKeyEvent* event) {
   if (pointer_.IsHeld()) return;
   const int rowHeight = std::max(sizeHintForRow(0), 1);
-  const auto action = views::ActionOf(widget_, ToKeyPress(*event), Height() / rowHeight, search_);
+  const auto action = keys_.ActionOf(widget_, ToKeyPress(*event), Height() / rowHeight);
   if (action) {
     Perform(action);
   } else {
@@ -149,13 +157,16 @@ void ListBoxView::keyPressEvent(QKeyEvent* event) {
 }
 
 void ListBoxView::keyboardSearch(const QString& text) {
-  if (const auto action = views::ActionOf(widget_, {.text = ToText(text)}, 1, search_)) Perform(action);
+  if (const auto action = keys_.ActionOf(widget_, {.text = ToText(text)}, 1)) Perform(action);
 }
 
 void ListBoxView::focusInEvent(QFocusEvent* event) {
   QListView::focusInEvent(event);
   // Qt gives the focused list a current entry by itself.
   ShowCaret();
+  const Qt::FocusReason reason = event->reason();
+  if (reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason && reason != Qt::ShortcutFocusReason) return;
+  if (const auto action = views::ActionOfFocus(widget_)) Perform(action);
 }
 
 void ListBoxView::changeEvent(QEvent* event) {

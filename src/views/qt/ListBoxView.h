@@ -50,7 +50,7 @@ class ListBoxView : public ViewOf<QListView, ListBox>, private views::ListGlass 
   EntryModel* entries_;
   int shownCaret_ = -1;
   QTimer scrolling_;
-  views::TypeAhead search_;
+  views::ListKeys keys_;
   views::ListPointer pointer_{widget_, *this};
 };
 

@@ -114,7 +114,9 @@ bool PrnPropView::focusNextPrevChild(bool next) {
   const auto from = std::find_if(order.begin(), order.end(), hasFocus);
   const Widget* const to = from == order.end() ? nullptr : views::NextInTabOrder(dialog_, *from, next ? 1 : -1);
   if (!to) return QWidget::focusNextPrevChild(next);
-  ViewFor(*to).Glass().setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+  // What has the focus passes it on like this, too, when it is disabled.
+  const bool isByKey = (*from)->Refuses() == Refusal::None;
+  ViewFor(*to).Glass().setFocus(!isByKey ? Qt::OtherFocusReason : next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
   return true;
 }
 

@@ -25,6 +25,7 @@ views::KeyPress ToKeyPress(const QKeyEvent& event) {
   press.shift = modifiers.testFlag(Qt::ShiftModifier);
   press.control = modifiers & (Qt::ControlModifier | Qt::MetaModifier);
   press.alt = modifiers.testFlag(Qt::AltModifier);
+  if (press.control && event.key() == Qt::Key_A) press.key = Key::A;
   press.text = ToText(event.text());
   return press;
 }

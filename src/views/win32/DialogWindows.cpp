@@ -362,6 +362,7 @@ bool DialogWindows::TakeDialogKey(const MSG& message) {
     Widget* const next = views::NextInTabOrder(dialog_, &from, press.shift ? -1 : 1);
     if (!next) return false;
     ::SetFocus(ViewFor(*next).Window());
+    if (IsOpen()) ViewFor(*next).ReachedByKey();
     return true;
   }
   SSTab& strip = dialog_.TabStrip();
@@ -389,7 +390,10 @@ void DialogWindows::TakeFocus(int step) {
   const Widget* to = step == 0 && lastFocused_ && lastFocused_->Refuses() == Refusal::None
                          ? lastFocused_
                          : views::NextInTabOrder(dialog_, nullptr, step == 0 ? 1 : step);
-  if (to) ::SetFocus(ViewFor(*to).Window());
+  if (!to) return;
+  const Held held = Hold();
+  ::SetFocus(ViewFor(*to).Window());
+  if (step != 0 && IsOpen()) ViewFor(*to).ReachedByKey();
 }
 
 void DialogWindows::GotFocus(const Widget& widget) {

@@ -188,6 +188,10 @@ void ListBoxView::End() {
   pointer_.Release();
 }
 
+void ListBoxView::ReachedByKey() {
+  if (const auto action = views::ActionOfFocus(widget_)) Perform(action);
+}
+
 std::optional<LRESULT> ListBoxView::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   // Ahead of what is told of the focus: that may end the window.
   if (message == WM_SETFOCUS || message == WM_KILLFOCUS) ::InvalidateRect(Window(), nullptr, TRUE);
@@ -247,7 +251,7 @@ std::optional<LRESULT> ListBoxView::OnMouse(UINT message, WPARAM wParam, LPARAM 
 std::optional<LRESULT> ListBoxView::OnKey(const views::KeyPress& press) {
   if (pointer_.IsHeld()) return 0;
   const int height = std::max(static_cast<int>(Send(LB_GETITEMHEIGHT)), 1);
-  const auto action = views::ActionOf(widget_, press, Height() / height, search_);
+  const auto action = keys_.ActionOf(widget_, press, Height() / height);
   // The window has a use of its own for some with Ctrl.
   if (!action) return press.key == views::Key::Other ? std::nullopt : std::optional<LRESULT>(0);
   Perform(action);

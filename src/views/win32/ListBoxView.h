@@ -22,6 +22,7 @@ class ListBoxView : public ViewOf<ListBox>, private views::ListGlass {
   void Draw(const DRAWITEMSTRUCT& item) override;
   void Use(WPARAM what) override;
   void End() override;
+  void ReachedByKey() override;
 
  protected:
   WindowKind Kind() const override;
@@ -52,7 +53,7 @@ class ListBoxView : public ViewOf<ListBox>, private views::ListGlass {
   bool isCountBehind_ = false;
   bool isRunning_ = false;
   bool isReleasing_ = false;  ///< the mouse, by the list itself
-  views::TypeAhead search_;
+  views::ListKeys keys_;
   views::ListPointer pointer_{widget_, *this};
 };
 

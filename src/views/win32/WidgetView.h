@@ -47,6 +47,8 @@ class WidgetView {
   virtual void Draw(const DRAWITEMSTRUCT&) {}
   /// What `Surface::PostUse` has asked for.
   virtual void Use(WPARAM /*what*/) {}
+  /// The focus has come to the widget by keyboard.
+  virtual void ReachedByKey() {}
   /// Ends what the user has begun.
   virtual void End() {}
 

@@ -15,6 +15,7 @@ views::KeyPress ToKeyPress(WPARAM virtualKey) {
   const auto isDown = [](int key) { return ::GetKeyState(key) < 0; };
   views::KeyPress press{
       .shift = isDown(VK_SHIFT), .control = isDown(VK_CONTROL), .alt = isDown(VK_MENU)};
+  if (press.control && virtualKey == 'A') press.key = Key::A;
   for (const auto& row : kKeys) {
     if (row.virtualKey == virtualKey) press.key = row.key;
   }
