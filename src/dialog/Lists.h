@@ -99,6 +99,9 @@ class ListBox : public EntryWidget {
   bool Selected(std::int16_t index) const;
   void Selected(std::int16_t index, bool selected);
 
+  /// The left button is held over the list.
+  bool IsHeld() const { return held_; }
+
   /// While the left button is held, this is the entry under the pointer, whatever entries come and go.
   std::int16_t ListIndex() const override;
   using EntryWidget::ListIndex;

@@ -29,7 +29,15 @@ Snapshot SnapshotOf(const SettingsDocument& document);
 /// The same as tables of their own. They have no text table, and messages call them "the settings".
 SettingsDocument DocumentOf(const Snapshot& snapshot);
 
+/// What was read back, as it can be loaded: the control writes the attributes, or elements, of a name once for each
+/// characteristic, or structure, that bears it; here they stand once.
+Snapshot Loadable(Snapshot readBack);
+
 /// Whether the same rows stand in the same order, with the same cells.
 bool IsSame(const Snapshot& a, const Snapshot& b);
+
+/// Puts the rows of the former one, which is kept as well, in the place of equal ones: so both need little more than
+/// one.
+void ShareRows(Snapshot& snapshot, const Snapshot& former);
 
 }  // namespace ORXKMPrintProp::host

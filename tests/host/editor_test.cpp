@@ -10,6 +10,7 @@
 #include "support/table_text.h"
 #include "support/transcript.h"
 #include "support/user_step.h"
+#include "support/widget_text.h"
 
 namespace ORXKMPrintProp::host::test {
 namespace {
@@ -21,16 +22,17 @@ using namespace ORXKMPrintProp::test;
 /// copy of an example. The steps are those of user_step.h and:
 ///
 ///     open, open read-only, open for FILE
-///     end (the user's action has come to its end), save, accept, close, refresh
+///     save, accept, close, refresh, undo, redo, revert
 ///     answer Discard (to the next question)
 ///     put OLD -> NEW (somebody else does, in the row of REGION), copy FILE (of the tests), remove (the file)
-///     show FILE
+///     show FILE, look WIDGET WIDGET (and so on, what they hold)
 ///
 /// The state: "window", what is seen of it: modified, Apply can be pressed, the panel is older than a change; "note";
-/// and of each file how often it has been written, with its general row.
+/// of each file how often it has been written, with its general row; and aside "steps", what can be undone, done again
+/// and gone back from.
 class EditorPlayer : public Player, public EditorWindow {
  public:
-  EditorPlayer() : Player({}) {
+  EditorPlayer() : Player({"steps"}) {
     ReleaseSharedValues();
     fs::create_directory(folder_);
     SaveFile(Path("a.json"), ReadFile(PRNPROP_EXAMPLES "/small.json"));
@@ -56,7 +58,7 @@ class EditorPlayer : public Player, public EditorWindow {
     Tell("layout: '" + ToAscii(layout) + "'");
     return u"<head>";
   }
-  void ReadLater() override { readsLater_ = true; }
+  void Focus(const Widget& widget) override { Tell("focus: " + ToAscii(widget.Row().name.Spelled())); }
 
   std::string Path(const std::string& name) const { return (folder_ / name).string(); }
   /// With the folder left out.
@@ -64,12 +66,12 @@ class EditorPlayer : public Player, public EditorWindow {
   void Open(const std::string& how);
   void Put(const std::string& change);
   void Show(const std::string& file);
+  void Look(const std::string& widget);
 
   const fs::path folder_ = fs::path(testing::TempDir()) / ("editor_test-" + std::to_string(std::random_device{}()));
   std::map<std::string, std::pair<std::string, int>> contents_;  ///< of the files, and how often they were written
   EditorState window_;
   Choice answer_ = Choice::Cancel;
-  bool readsLater_ = false;
   std::unique_ptr<EditedSettings> settings_;
   std::unique_ptr<Editor> editor_;
 };
@@ -80,16 +82,19 @@ void EditorPlayer::DoStep(const std::string& line) {
   const auto answer = [this](bool yes) { Tell(yes ? "yes" : "no"); };
   const Steps steps{
       {"open", [&] { Open(rest); }},
-      {"end", [&] { readsLater_ = readsLater_ && !editor_->Read(); }},
       {"save", [&] { answer(editor_->Save()); }},
       {"accept", [&] { answer(editor_->Accept()); }},
       {"close", [&] { answer(editor_->MayClose()); }},
       {"refresh", [&] { answer(editor_->Read()); }},
+      {"undo", [&] { editor_->Undo(); }},
+      {"redo", [&] { editor_->Redo(); }},
+      {"revert", [&] { editor_->Revert(); }},
       {"answer", [&] { answer_ = rest == "Save" ? Choice::Save : Choice::Discard; }},
       {"put", [&] { Put(rest); }},
       {"copy", [&] { SaveFile(Path("a.json"), ReadFile(PRNPROP_HOST_TESTS "/" + rest)); }},
       {"remove", [&] { fs::remove(Path("a.json")); }},
       {"show", [&] { Show(rest); }},
+      {"look", [&] { ForEach(rest, " ", [this](const std::string& name) { Look(name); }); }},
   };
   if (DoOneOf(steps, verb)) return;
   const UserStep step(settings_->Control().GetDialog(), line);
@@ -127,10 +132,17 @@ void EditorPlayer::Show(const std::string& file) {
           BriefOf(Kind::Attribute, *document.attribute) + BriefOf(Kind::Member, *document.member));
 }
 
+void EditorPlayer::Look(const std::string& widget) {
+  Tell(widget + ": " + StateOf(*settings_->Control().GetDialog().FindSpelled(Wide(widget))));
+}
+
 Player::Lines EditorPlayer::State() {
-  Lines lines{{"note", window_.note.empty() ? "none" : window_.note},
-              {"window", std::string(window_.isModified ? "modified" : "unmodified") +
-                             (window_.canApply ? ", apply" : "") + (window_.isStale ? ", older" : "")}};
+  Lines lines{
+      {"note", window_.note.empty() ? "none" : window_.note},
+      {"window", std::string(window_.isModified ? "modified" : "unmodified") + (window_.canApply ? ", apply" : "") +
+                     (window_.isStale ? ", older" : "")},
+      {"steps", (window_.canUndo ? "undo " + window_.undo + "; " : "") +
+                    (window_.canRedo ? "redo " + window_.redo + "; " : "") + (window_.canRevert ? "revert" : "")}};
   for (const auto& entry : fs::directory_iterator(folder_)) {
     const std::string path = entry.path().string();
     auto& [content, times] = contents_[path];

@@ -35,13 +35,13 @@ EditedSettings::EditedSettings(const EditOptions& options, const Platform& platf
       targetIsBehind_(options.out && *options.out != options.file),
       targetStamp_(StampOf(target_)),
       file_(SnapshotOf(document_)),
-      control_(platform),
-      layouts_(LayoutsIn(file_)) {
+      control_(platform) {
   const MemoryTableRef texts = options.texts ? ReadSettings(*options.texts).texts : document_.texts;
   FindLosses();
   try {
-    Load(texts);
-    HandBack(layouts_, control_);
+    if (texts) control_.ORXControlTexts(texts);
+    Load();
+    SetLayouts(std::make_shared<Layouts>(LayoutsIn(file_)));
     control_.ORXSetReadOnly(options.readOnly);
     Read();
   } catch (const RunTimeError& error) {
@@ -50,8 +50,7 @@ EditedSettings::EditedSettings(const EditOptions& options, const Platform& platf
   SetUnchanged();
 }
 
-void EditedSettings::Load(const MemoryTableRef& texts) {
-  if (texts) control_.ORXControlTexts(texts);
+void EditedSettings::Load() {
   if (!control_.ORXSetPrnTables(document_.general, document_.dimension, document_.member, document_.attribute)) {
     throw LoadError(document_, gErrorText);
   }
@@ -75,12 +74,16 @@ void EditedSettings::FindLosses() {
 void EditedSettings::Read() {
   // Any of the four reads rewrites all tables.
   control_.ORXGenPropTable();
-  now_ = SnapshotOf(document_);
-  isChanged_ = !IsReadOnly() && !IsSame(now_, saved_);
+  Snapshot read = SnapshotOf(document_);
+  if (now_.tables) ShareRows(read, *now_.tables);
+  if (!now_.tables || !IsSame(read, *now_.tables)) now_.tables = std::make_shared<Snapshot>(std::move(read));
+  FindChange();
 }
 
+void EditedSettings::FindChange() { isChanged_ = saved_ && !IsReadOnly() && !IsSame(*now_.tables, *saved_); }
+
 void EditedSettings::SetUnchanged() {
-  saved_ = now_;
+  saved_ = now_.tables;
   isChanged_ = false;
 }
 
@@ -88,20 +91,53 @@ void EditedSettings::Save() {
   Read();
   SaveFile(target_, ToJson(document_));
   targetStamp_ = StampOf(target_);
-  file_ = now_;
+  file_ = Now();
   SetUnchanged();
   targetIsBehind_ = false;
   losses_.clear();
 }
 
 Text EditedSettings::LayoutOf(const LayoutKey& key) const {
-  const auto known = layouts_.find(key);
-  return known == layouts_.end() ? Text() : known->second;
+  const auto known = now_.layouts->find(key);
+  return known == now_.layouts->end() ? Text() : known->second;
 }
 
 void EditedSettings::SetLayout(const LayoutKey& key, const Text& layout) {
-  control_.ORXSetPrintLayout(layout, key.buttonId, key.characteristic);
-  layouts_[key] = layout;
+  const auto layouts = std::make_shared<Layouts>(*now_.layouts);
+  (*layouts)[key] = layout;
+  SetLayouts(layouts);
+}
+
+void EditedSettings::SetLayouts(const std::shared_ptr<const Layouts>& layouts) {
+  const auto former = std::exchange(now_.layouts, layouts);
+  HandBack(*layouts, control_, former ? *former : Layouts());
+}
+
+void EditedSettings::CheckRestorable(const Snapshot& readBack) {
+  const SettingsDocument copy = DocumentOf(Loadable(readBack));
+  const SharedValuesGuard guard;
+  ORXQueryPrnProp control;
+  bool isSame = control.ORXSetPrnTables(copy.general, copy.dimension, copy.member, copy.attribute);
+  if (isSame) {
+    HandBack(LayoutsIn(readBack), control);
+    control.ORXGenPropTable();
+    isSame = IsSame(SnapshotOf(copy), readBack);
+  }
+  if (!isSame) {
+    throw RunTimeError(ErrorKind::Table, u"Names that stand more than once in the settings can't be told apart.");
+  }
+}
+
+void EditedSettings::Restore(const HostSettings& settings) {
+  SettingsDocument copy = DocumentOf(Loadable(*settings.tables));
+  copy.file = document_.file;
+  copy.texts = document_.texts;
+  copy.schema = document_.schema;
+  document_ = std::move(copy);
+  Load();
+  now_ = {.tables = settings.tables, .layouts = nullptr};
+  SetLayouts(settings.layouts);
+  FindChange();
 }
 
 std::unique_ptr<EditedSettings> OpenToEdit(const EditOptions& options, const Platform& platform,

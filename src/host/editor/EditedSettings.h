@@ -21,6 +21,12 @@ struct EditOptions {
   bool readOnly = false;
 };
 
+/// What a host has of settings, apart from what stands in the dialog: enough to load them again.
+struct HostSettings {
+  std::shared_ptr<const Snapshot> tables;
+  std::shared_ptr<const Layouts> layouts;
+};
+
 /// A document in a control, without the window: the load, the layouts that the control does not keep, what has
 /// changed, and the save.
 class EditedSettings {
@@ -40,7 +46,9 @@ class EditedSettings {
   /// What the file said when it was loaded, or was given by the last save.
   const Snapshot& File() const { return file_; }
   /// What the control has read back last.
-  const Snapshot& Now() const { return now_; }
+  const Snapshot& Now() const { return *now_.tables; }
+  /// The same with the layouts. The tables are the same object as long as reads give the same.
+  const HostSettings& Host() const { return now_; }
 
   /// Reads the tables, which commits the page on top. @throws RunTimeError
   void Read();
@@ -50,6 +58,8 @@ class EditedSettings {
   /// Takes what was read last as unchanged: so it is after a load, after a save, and where the user has done nothing
   /// but look, since a page that is committed gets its numbers and codes as the control writes them.
   void SetUnchanged();
+  /// The target has never held the settings.
+  bool IsTargetBehind() const { return targetIsBehind_; }
   /// Whether a save would write something that the target does not hold yet.
   bool IsToBeSaved() const { return isChanged_ || targetIsBehind_; }
   /// Whether somebody else has written the target since it was loaded, or was saved last.
@@ -62,10 +72,18 @@ class EditedSettings {
   /// The layout that the host knows, empty when there is none.
   Text LayoutOf(const LayoutKey& key) const;
   void SetLayout(const LayoutKey& key, const Text& layout);
+  /// Hands in those that are others now.
+  void SetLayouts(const std::shared_ptr<const Layouts>& layouts);
+
+  /// Whether `Restore` would bring back all of these tables. @throws RunTimeError when not; nothing is changed.
+  static void CheckRestorable(const Snapshot& readBack);
+  /// Loads what was read back once, which fills all pages. What stood in the fields is not stored.
+  void Restore(const HostSettings& settings);
 
  private:
-  void Load(const MemoryTableRef& texts);
+  void Load();
   void FindLosses();
+  void FindChange();
 
   SettingsDocument document_;
   std::string target_;
@@ -73,10 +91,9 @@ class EditedSettings {
   FileStamp targetStamp_;
   Snapshot file_;
   ORXQueryPrnProp control_;
-  Layouts layouts_;
   std::vector<std::string> losses_;
-  Snapshot saved_;  ///< what was read when nothing had changed
-  Snapshot now_;
+  std::shared_ptr<const Snapshot> saved_;  ///< what was read when nothing had changed
+  HostSettings now_;
   bool isChanged_ = false;
 };
 

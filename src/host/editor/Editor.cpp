@@ -1,5 +1,6 @@
 #include "host/editor/Editor.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <span>
 #include <utility>
@@ -20,10 +21,19 @@ std::string Joined(std::span<const std::string> lines, const char* separator) {
   return joined;
 }
 
+bool IsField(const Widget& widget) {
+  const WidgetKind kind = widget.Row().kind;
+  return kind == WidgetKind::TextBox || kind == WidgetKind::CheckBox || kind == WidgetKind::ComboBox;
+}
+
 }  // namespace
 
 Editor::Editor(EditedSettings& settings, EditorWindow& window)
-    : settings_(settings), window_(window), printOrder_(PrintOrder()) {
+    : settings_(settings),
+      window_(window),
+      now_{.host = settings.Host(), .page = std::make_shared<PageContent>(ContentOf(settings.Control().GetDialog()))},
+      saved_(now_),
+      printOrder_(PrintOrder(now_.page->page)) {
   settings.Control().Connect(*this);
 }
 
@@ -40,46 +50,150 @@ void Editor::Show() {
 }
 
 void Editor::OnUsed(const Widget& widget) {
-  const TextView name = widget.Row().name.name;
-  const auto before = std::exchange(printOrder_, PrintOrder());
-  switch (widget.Row().kind) {
-    case WidgetKind::SSTab:
-      // It is reported before its page is filled.
-      return window_.ReadLater();
-    case WidgetKind::TextBox:
-    case WidgetKind::CheckBox:
-      return MarkEdited();
-    case WidgetKind::ComboBox:
-      // This one only picks what the page shows.
-      if (name != u"cmbAttrChar") MarkEdited();
-      return;
-    default:
-      // The structures pick a list, the others order it.
-      if (name != u"lstStrStructures" && before != printOrder_) MarkEdited();
+  // What a drag leads to is told with its end.
+  if (IsDragging()) return;
+  PageContent content = ContentOf(GetDialog());
+  const PageContent& former = *now_.page;
+  const bool isSameList = former.page != content.page || former.owner == content.owner;
+  if (isSameList && PrintOrder(former.page) != printOrder_) {
+    BeginStep(&widget, NameOf(widget));
+    EndStep(std::move(content));
+    if (Read()) steps_.Last().after = now_;
+  } else if (IsField(widget) && IsSamePlace(former, content) && !HaveSameFields(former, content)) {
+    OnEdited(widget, std::move(content));
+  } else {
+    OnLooked(std::move(content));
   }
+  printOrder_ = PrintOrder(now_.page->page);
+  ShowState();
 }
 
-/// A drag is reported before its order is stored.
-void Editor::ORXOrderChanged() {
-  MarkEdited();
-  window_.ReadLater();
+void Editor::OnEdited(const Widget& widget, PageContent content) {
+  content.before = now_.page->before;
+  content.isEdited = true;
+  const bool goesOn = &widget == typing_;
+  if (goesOn && HaveSameFields(*steps_.Last().before.page, content)) {
+    now_ = steps_.Last().before;
+    steps_.Drop();
+    typing_ = nullptr;
+    return;
+  }
+  if (!goesOn) BeginStep(&widget, NameOf(widget));
+  EndStep(std::move(content));
+  if (widget.Row().kind == WidgetKind::TextBox) typing_ = &widget;
 }
 
-/// What stands in the print lists.
-std::vector<std::int32_t> Editor::PrintOrder() const {
+void Editor::OnLooked(PageContent content) {
+  const PageContentRef former = now_.page;
+  const bool isSamePlace = IsSamePlace(*former, content);
+  content.before = former->isEdited && !isSamePlace ? former : former->before;
+  content.isEdited = former->isEdited && isSamePlace;
+  now_.page = std::make_shared<PageContent>(std::move(content));
+  typing_ = nullptr;
+  if (now_.page->page != former->page) Read();
+}
+
+void Editor::BeginStep(const Widget* widget, std::string name) {
+  steps_.Add({.before = now_, .after = {}, .widget = widget, .name = std::move(name)});
+}
+
+void Editor::EndStep(PageContent content) {
+  now_.host = settings_.Host();
+  now_.page = std::make_shared<PageContent>(std::move(content));
+  now_.number = ++lastNumber_;
+  steps_.Last().after = now_;
+  typing_ = nullptr;
+}
+
+std::string Editor::NameOf(const Widget& widget) const {
+  return ToUtf8(views::SpokenName(GetDialog(), widget).Spoken());
+}
+
+void Editor::Undo() {
+  const Step* const step = steps_.ToUndo();
+  if (!step || !GoTo(step->before)) return;
+  if (step->widget) window_.Focus(*step->widget);
+  steps_.Undone();
+  ShowState();
+}
+
+void Editor::Redo() {
+  const Step* const step = steps_.ToRedo();
+  if (!step || !GoTo(step->after)) return;
+  if (step->widget) window_.Focus(*step->widget);
+  steps_.Redone();
+  ShowState();
+}
+
+void Editor::Revert() {
+  if (!IsModified()) return;
+  PageContent place = *now_.page;
+  place.before = nullptr;
+  place.isEdited = false;
+  place.fields.clear();
+  const Moment before = now_;
+  Moment target = saved_;
+  target.page = std::make_shared<PageContent>(std::move(place));
+  if (!GoTo(target)) return;
+  steps_.Add({.before = before, .after = now_, .name = "Revert"});
+  ShowState();
+}
+
+/// Loads what the tables held then, unless they hold it still, and does again what the user had done since.
+bool Editor::GoTo(const Moment& moment) {
+  if (IsDragging()) return false;
+  const Dialog& dialog = GetDialog();
+  const bool loads = moment.host.tables != now_.host.tables || moment.page->before != now_.page->before ||
+                     !IsSamePlace(*moment.page, *now_.page) || moment.page->fields.empty();
+  if (loads) {
+    try {
+      EditedSettings::CheckRestorable(*moment.host.tables);
+    } catch (const RunTimeError& error) {
+      Tell("That can't be undone.", ToUtf8(error.Message()));
+      return false;
+    }
+    // Ahead of the load: the page that is left is stored.
+    dialog.TabStrip().UserPick(moment.page->page);
+    settings_.Restore(moment.host);
+  } else {
+    settings_.SetLayouts(moment.host.layouts);
+  }
+  ShowAgain(*moment.page, loads);
+  PageContent content = ContentOf(dialog);
+  content.before = moment.page->before;
+  content.isEdited = moment.page->isEdited;
+  now_ = moment;
+  now_.page = std::make_shared<PageContent>(std::move(content));
+  typing_ = nullptr;
+  printOrder_ = PrintOrder(moment.page->page);
+  if (loads) window_.ShowMeaning(settings_.File(), settings_.Now());
+  return true;
+}
+
+void Editor::ShowAgain(const PageContent& content, bool withAllBefore) {
+  if (withAllBefore && content.before) {
+    ShowAgain(*content.before, true);
+    // What it has changed is stored, though it may be what is shown next.
+    PageContent none = *content.before;
+    none.print.selected.clear();
+    none.fields.clear();
+    host::Show(GetDialog(), none);
+  }
+  host::Show(GetDialog(), content);
+}
+
+bool Editor::IsDragging() const {
+  const ListBox* const list = PrintListOf(GetDialog(), GetDialog().TabStrip().Tab());
+  return list && list->IsHeld();
+}
+
+/// What stands in the print list of the page.
+std::vector<std::int32_t> Editor::PrintOrder(std::int16_t page) const {
   std::vector<std::int32_t> order;
-  for (const std::int16_t page : {kCharTab, kAttrTab, kStrTab}) {
-    const auto& list = settings_.Control().GetDialog().Get<ListBox>(u"lstPrint", page);
-    for (std::int16_t i = 0; i < list.ListCount(); ++i) order.push_back(list.ItemData(i));
-    order.push_back(-1);
+  if (const ListBox* const list = PrintListOf(GetDialog(), page)) {
+    for (std::int16_t i = 0; i < list->ListCount(); ++i) order.push_back(list->ItemData(i));
   }
   return order;
-}
-
-void Editor::MarkEdited() {
-  if (settings_.IsReadOnly()) return;
-  isEdited_ = isTouched_ = true;
-  ShowState();
 }
 
 bool Editor::Read() {
@@ -89,16 +203,25 @@ bool Editor::Read() {
     Tell("The settings can't be read back.", ToUtf8(error.Message()));
     return false;
   }
-  isEdited_ = false;
-  printOrder_ = PrintOrder();
-  if (!isTouched_) settings_.SetUnchanged();
+  now_.host = settings_.Host();
+  now_.page = std::make_shared<PageContent>(ContentOf(GetDialog()));
+  now_.readNumber = now_.number;
+  typing_ = nullptr;
+  if (now_.number == saved_.number) {
+    settings_.SetUnchanged();
+    saved_ = now_;
+  }
   Show();
   return true;
 }
 
+bool Editor::IsModified() const {
+  return now_.number != saved_.number && (now_.number != now_.readNumber || settings_.IsChanged());
+}
+
 /// The dialog leaves a setting as it was when its field holds what it can't take.
 std::vector<std::string> Editor::NotStored() const {
-  const Dialog& dialog = settings_.Control().GetDialog();
+  const Dialog& dialog = GetDialog();
   std::vector<std::string> fields;
   for (const auto& widget : dialog.Controls()) {
     const auto* const box = dynamic_cast<const TextBox*>(widget.get());
@@ -114,9 +237,16 @@ std::vector<std::string> Editor::NotStored() const {
 
 void Editor::ShowState() {
   const auto fields = NotStored();
-  window_.ShowState({.isModified = isEdited_ || settings_.IsChanged(),
-                     .canApply = isEdited_ || settings_.IsToBeSaved(),
-                     .isStale = isEdited_,
+  const Step* const undo = steps_.ToUndo();
+  const Step* const redo = steps_.ToRedo();
+  window_.ShowState({.isModified = IsModified(),
+                     .canApply = IsModified() || settings_.IsTargetBehind(),
+                     .isStale = now_.number != now_.readNumber,
+                     .canUndo = undo != nullptr,
+                     .canRedo = redo != nullptr,
+                     .canRevert = IsModified(),
+                     .undo = undo ? undo->name : "",
+                     .redo = redo ? redo->name : "",
                      .note = fields.empty() ? "" : kNoNumber + " " + Joined(fields, "; ")});
 }
 
@@ -137,7 +267,8 @@ bool Editor::Save() {
     Tell(kFailed, ToUtf8(error.Message()));
     return false;
   }
-  isTouched_ = false;
+  now_.host = settings_.Host();
+  saved_ = now_;
   Show();
   return true;
 }
@@ -196,12 +327,15 @@ bool Editor::MayClose() {
 
 void Editor::ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) {
   const LayoutKey key{.buttonId = ButtonID, .characteristic = CharIObjName};
-  Text name = settings_.Control().GetDialog().Get<CommandButton>(u"cmdPrintLayout", ButtonID).Caption();
+  const auto& button = GetDialog().Get<CommandButton>(u"cmdPrintLayout", ButtonID);
+  Text name = button.Caption();
   if (!CharIObjName.empty()) name += u" " + CharIObjName;
   const auto layout = window_.EditLayout(name, settings_.LayoutOf(key), settings_.IsReadOnly());
-  if (!layout) return;
+  if (!layout || settings_.IsReadOnly()) return;
+  BeginStep(&button, ToUtf8(button.Caption()));
   settings_.SetLayout(key, *layout);
-  MarkEdited();
+  EndStep(*now_.page);
+  ShowState();
 }
 
 void Editor::Tell(const std::string& what, const std::string& why) { window_.Ask({.text = what, .further = why}); }

@@ -8,6 +8,7 @@
 
 #include "control/ORXQueryPrnProp.h"
 #include "host/editor/EditedSettings.h"
+#include "host/editor/Steps.h"
 
 namespace ORXKMPrintProp::host {
 
@@ -30,7 +31,12 @@ struct EditorState {
   bool isModified = false;  ///< there is, or may be, something that the target does not hold
   bool canApply = false;    ///< a save may write something
   bool isStale = false;     ///< the meaning was read before the user's last change
-  std::string note = {};    ///< what is to be told beside it; empty for nothing
+  bool canUndo = false;
+  bool canRedo = false;
+  bool canRevert = false;
+  std::string undo = {};  ///< what would be undone, in the words of the dialog
+  std::string redo = {};
+  std::string note = {};  ///< what is to be told beside it; empty for nothing
 };
 
 /// The window of an editor, in whatever toolkit. Each call is answered at once.
@@ -43,17 +49,20 @@ class EditorWindow {
   virtual Choice Ask(const Question& question) = 0;
   /// Lets the user edit a layout, or only look at it. @return what it is now, none when it was left as it was.
   virtual std::optional<Text> EditLayout(const Text& name, const Text& layout, bool readOnly) = 0;
-  /// Is to call `Editor::Read` when the user's action has come to its end; not while a message of the dialog, which
-  /// stands in the middle of an action, is open.
-  virtual void ReadLater() = 0;
+  /// The focus is to go to a widget of the dialog, which is on the page on top.
+  virtual void Focus(const Widget& widget) = 0;
 };
 
-/// The rules of an editor: what counts as changed, when the tables are read, and what is asked before they are saved.
+/// The rules of an editor: what counts as changed, when the tables are read, what is asked before they are saved, and
+/// what is undone.
 ///
 /// Whether something has changed, only a read of the tables can tell, and a read commits the page on top. So the
-/// editor reads where a commit is due anyway: after a change of the tab, after ORXOrderChanged, at OK, Apply, Cancel
-/// and close, and when the user asks for it by Refresh. In between, any input that can change a setting counts as a
-/// change, until the next read knows better.
+/// editor reads where a commit is due anyway: after a change of the tab or of an order, at OK, Apply, Cancel and close,
+/// and when the user asks for it by Refresh. In between, any other content of a field counts as a change, until the
+/// next read knows better.
+///
+/// A step that can be undone is what the user does to settings at one go: what he types into one field, a transfer, a
+/// drag, a layout. What he looks at is no step, but comes back with them.
 class Editor : private ORXQueryPrnPropEvents {
  public:
   /// Both must outlive the editor. The window is called by `Show` first.
@@ -63,10 +72,18 @@ class Editor : private ORXQueryPrnPropEvents {
   /// The window's title. @param modified what stands behind the name of a file that has changed.
   std::string Title(std::string_view modified) const;
   void Show();
-  /// The user has done something with a widget, and all that it led to is done.
+  /// The user has done something with a widget, and all that it led to is done. May be told as often as the buttons of
+  /// the mouse are, and read the tables.
   void OnUsed(const Widget& widget);
   /// An operation of the user has failed. @param why one line
   void OnFailed(const std::string& why) { Tell("That could not be done.", why); }
+
+  // Where there is nothing to undo, to do again, or to go back from, and while an entry is dragged, nothing happens.
+
+  void Undo();
+  void Redo();
+  /// Back to what was opened or saved last, which is a step like others.
+  void Revert();
 
   /// @return whether the tables could be read; else the user has been told.
   bool Read();
@@ -79,10 +96,20 @@ class Editor : private ORXQueryPrnPropEvents {
 
  private:
   void ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) override;
-  void ORXOrderChanged() override;
+  void ORXOrderChanged() override {}
 
-  std::vector<std::int32_t> PrintOrder() const;
-  void MarkEdited();
+  Dialog& GetDialog() const { return settings_.Control().GetDialog(); }
+  std::vector<std::int32_t> PrintOrder(std::int16_t page) const;
+  std::string NameOf(const Widget& widget) const;
+  void BeginStep(const Widget* widget, std::string name);
+  /// The step that has begun has led to what the control holds.
+  void EndStep(PageContent content);
+  void OnEdited(const Widget& widget, PageContent content);
+  void OnLooked(PageContent content);
+  bool GoTo(const Moment& moment);
+  void ShowAgain(const PageContent& content, bool withAllBefore);
+  bool IsModified() const;
+  bool IsDragging() const;
   void ShowState();
   /// A line for each field of the dialog whose text can't be stored.
   std::vector<std::string> NotStored() const;
@@ -94,9 +121,12 @@ class Editor : private ORXQueryPrnPropEvents {
 
   EditedSettings& settings_;
   EditorWindow& window_;
-  std::vector<std::int32_t> printOrder_;  ///< as the user has left it
-  bool isEdited_ = false;                 ///< by the user, since the last read
-  bool isTouched_ = false;                ///< the same since the last save
+  Moment now_;
+  Moment saved_;  ///< what was opened or saved last
+  Steps steps_;
+  int lastNumber_ = 0;
+  const Widget* typing_ = nullptr;        ///< the box in which a step may go on
+  std::vector<std::int32_t> printOrder_;  ///< of the page on top, as the user has left it
   bool isDone_ = false;
 };
 

@@ -28,6 +28,7 @@ Layouts LayoutsIn(const Snapshot& file);
 /// The rows of the dimension table, by number, whose layouts these are.
 std::set<std::int32_t> RowsWithLayout(const Snapshot& file);
 
-void HandBack(const Layouts& layouts, ORXQueryPrnProp& control);
+/// Hands the control those that are others than the former ones, which it has.
+void HandBack(const Layouts& layouts, ORXQueryPrnProp& control, const Layouts& former = {});
 
 }  // namespace ORXKMPrintProp::host

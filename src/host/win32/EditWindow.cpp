@@ -15,7 +15,6 @@ namespace {
 
 constexpr const wchar_t* kClass = L"prnprop.Editor";
 constexpr int kApply = 3;
-constexpr UINT kRead = WM_APP;  ///< posted: the settings are to be read back
 
 std::wstring Wide(const std::string& utf8) { return win32::ToWide(FromUtf8(utf8)); }
 
@@ -129,9 +128,6 @@ LRESULT CALLBACK EditWindow::OnMessageOf(HWND window, UINT message, WPARAM wPara
 
 LRESULT EditWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
-    case kRead:
-      if (!IsWaiting()) editor_.Read();
-      return 0;
     case WM_COMMAND:
       if (HIWORD(wParam) == BN_CLICKED) OnButton(LOWORD(wParam));
       if (HIWORD(wParam) == BN_SETFOCUS) buttons_.ShowDefault();
@@ -237,6 +233,15 @@ bool EditWindow::TakePlainKey(const MSG& message) {
       if (!press.control || press.shift) return false;
       if (!isRepeated) editor_.Save();
       return true;
+    case 'Y':
+    case 'Z':
+      if (!press.control || (press.shift && message.wParam == 'Y')) return false;
+      if (message.wParam == 'Z' && !press.shift) {
+        editor_.Undo();
+      } else {
+        editor_.Redo();
+      }
+      return true;
     default:
       return false;
   }
@@ -308,7 +313,5 @@ Choice EditWindow::Ask(const Question& question) { return AskIn(window_, questio
 std::optional<Text> EditWindow::EditLayout(const Text& name, const Text& layout, bool readOnly) {
   return EditLayoutIn(window_, name, layout, readOnly);
 }
-
-void EditWindow::ReadLater() { ::PostMessageW(window_, kRead, 0, 0); }
 
 }  // namespace ORXKMPrintProp::host

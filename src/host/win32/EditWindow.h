@@ -38,7 +38,7 @@ class EditWindow : private EditorWindow {
   void ShowState(const EditorState& state) override;
   Choice Ask(const Question& question) override;
   std::optional<Text> EditLayout(const Text& name, const Text& layout, bool readOnly) override;
-  void ReadLater() override;
+  void Focus(const Widget& widget) override { view_->Focus(widget); }
 
   static LRESULT CALLBACK OnMessageOf(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
   LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);

@@ -188,11 +188,8 @@ std::optional<Text> SettingsWindow::EditLayout(const Text& name, const Text& lay
   return qt::ToText(*edited);
 }
 
-void SettingsWindow::ReadLater() {
-  const auto read = [this] {
-    if (!QApplication::activeModalWidget()) editor_.Read();
-  };
-  QMetaObject::invokeMethod(this, read, Qt::QueuedConnection);
+void SettingsWindow::Focus(const Widget& widget) {
+  view_->findChild<QWidget*>(ToQString(widget.Row().name.Spelled()))->setFocus();
 }
 
 }  // namespace ORXKMPrintProp::host

@@ -35,7 +35,7 @@ class SettingsWindow : public QWidget, private EditorWindow {
   void ShowState(const EditorState& state) override;
   Choice Ask(const Question& question) override;
   std::optional<Text> EditLayout(const Text& name, const Text& layout, bool readOnly) override;
-  void ReadLater() override;
+  void Focus(const Widget& widget) override;
 
   QWidget* MakeButtons();
   void Fold(bool unfold);

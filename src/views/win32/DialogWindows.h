@@ -28,6 +28,7 @@ class DialogWindows final : public Surface, public std::enable_shared_from_this<
   HWND Window() const { return window_; }
   bool TakeKey(const MSG& message);
   void TakeFocus(int step);
+  void Focus(const Widget& widget) { ::SetFocus(ViewFor(widget).Window()); }
   bool HasFocus() const { return window_ && (::GetFocus() == window_ || ::IsChild(window_, ::GetFocus())); }
 
  private:

@@ -11,6 +11,7 @@ PrnPropView::~PrnPropView() { windows_->End(); }
 HWND PrnPropView::Window() const { return windows_->Window(); }
 bool PrnPropView::TakeKey(const MSG& message) { return windows_->TakeKey(message); }
 void PrnPropView::TakeFocus(int step) { windows_->TakeFocus(step); }
+void PrnPropView::Focus(const Widget& widget) { windows_->Focus(widget); }
 bool PrnPropView::HasFocus() const { return windows_->HasFocus(); }
 
 SIZE PrnPropView::NaturalSize(UINT dpi) {

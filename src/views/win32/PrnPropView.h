@@ -51,6 +51,8 @@ class PrnPropView {
   bool TakeKey(const MSG& message);
   /// Gives the focus to the first widget in tab order (1), the last one (-1), or the one that had it last (0).
   void TakeFocus(int step);
+  /// Gives it to the widget, which can have it.
+  void Focus(const Widget& widget);
   bool HasFocus() const;
 
  private:
