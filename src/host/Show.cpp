@@ -206,21 +206,23 @@ void ShowHidden(TextView what, const std::vector<std::pair<Text, Rows>>& owners,
   }
 }
 
-void Show(const SettingsDocument& document, bool color, std::ostream& out) {
+}  // namespace
+
+void Show(const Snapshot& readBack, bool color, std::ostream& out) {
   Rows printed;
   Rows hidden;
   Rows structureRows;
-  for (const RowRef& row : AllRows(*document.dimension)) {
+  for (const RowRef& row : readBack.Dimension().rows) {
     (IsStructure(*row) ? structureRows : IsPrinted(*row) ? printed : hidden).push_back(row);
   }
   SortByPosition(printed);
   Rows all = printed;
   all.insert(all.end(), hidden.begin(), hidden.end());
-  const auto owners = OwnersOf(all, AllRows(*document.attribute));
-  const auto structures = OwnersOf(structureRows, AllRows(*document.member));
+  const auto owners = OwnersOf(all, readBack.Attribute().rows);
+  const auto structures = OwnersOf(structureRows, readBack.Member().rows);
 
   Grid page(color, out);
-  ShowPage(*document.general->Rows(1), page);
+  ShowPage(*readBack.General().rows.at(0), page);
   page.Print();
 
   out << "\n";
@@ -254,12 +256,10 @@ void Show(const SettingsDocument& document, bool color, std::ostream& out) {
   rest.PrintBelow(u"Not printed");
 }
 
-}  // namespace
-
 void Show(const std::string& path, bool color, std::ostream& out) {
   const SettingsDocument document = ReadSettings(path);
   LoadAndReadBack(document);
-  Show(document, color, out);
+  Show(SnapshotOf(document), color, out);
 }
 
 }  // namespace ORXKMPrintProp::host

@@ -1,13 +1,16 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <sstream>
 
+#include "control/SharedValues.h"
 #include "host/Differences.h"
 #include "host/Files.h"
-#include "host/Load.h"
+#include "host/Show.h"
 #include "host/Terminal.h"
 #include "host/Utf8.h"
 #include "host/editor/ComparedTable.h"
+#include "host/editor/EditedSettings.h"
 #include "host/editor/PageSketch.h"
 
 namespace ORXKMPrintProp::host::test {
@@ -20,6 +23,12 @@ std::string TextOf(const PageSketch& sketch) {
   std::string text = ToUtf8(sketch.title) + "\nmargins";
   for (const int margin : sketch.margins) text += " " + std::to_string(margin);
   text += std::string(sketch.colored ? ", colored" : "") + (sketch.ruled ? ", ruled" : "") + "\n";
+  for (std::size_t id = 0; id < sketch.layouts.size(); ++id) {
+    if (sketch.layouts[id].empty()) continue;
+    text += ToUtf8(kPageLayoutNames[id]) + ":";
+    for (const Text& line : sketch.layouts[id]) text += "|" + ToUtf8(line);
+    text += "\n";
+  }
   for (const SketchColumn& column : sketch.columns) {
     text += ToUtf8(column.title) + ": " + ToUtf8(column.what) + " " + alignments[column.align] + " " +
             std::to_string(column.width) + (column.everyPage ? " each page" : "") + (column.isNumber ? " #" : "") +
@@ -28,6 +37,7 @@ std::string TextOf(const PageSketch& sketch) {
   for (const SketchLine& line : sketch.lines) {
     if (line.cells.empty()) text += breaks[static_cast<int>(line.kind)];
     if (line.kind == SketchLineKind::Totals) text += "=";
+    if (line.kind == SketchLineKind::TotalsLayout) text += "~";
     for (const Text& cell : line.cells) text += "|" + ToUtf8(cell);
     text += "\n";
   }
@@ -40,14 +50,21 @@ TEST(PageSketchTest, DrawsWhatTheSettingsSay) {
   const std::pair<const char*, std::string> rows[] = {
       {"small", PRNPROP_EXAMPLES "/small.json"},  // columns, breaks, totals on top
       {"repeated", folder + "repeated.json"},     // numbers and repeated texts as the settings say, in print order
-      {"below", folder + "below.json"},           // totals below close their groups from the inside
+      {"below", folder + "below.json"},           // totals below close their groups from the inside; layouts
       {"many", folder + "many.json"},             // more breaks than are drawn
       {"nothing", folder + "nothing.json"},
   };
   for (const auto& [name, file] : rows) {
-    const SettingsDocument document = ReadSettings(file);
-    LoadAndReadBack(document);
-    EXPECT_EQ(TextOf(SketchOf(SnapshotOf(document))), ReadFile(folder + name + ".txt")) << name;
+    ReleaseSharedValues();
+    const EditedSettings settings(ReadSettings(file), {.file = file}, nullptr, Platform::Plain());
+    EXPECT_EQ(TextOf(SketchOf(settings.Now())), ReadFile(folder + name + ".txt")) << name;
+    std::ostringstream shown;
+    Show(file, false, shown);
+    const std::string layouts =
+        "\nLayouts\n  Top page: <top>  one two…\n  Head part: \n  Foot part: " + std::string(199, 'x') +
+        "…\n"
+        "  End page: end 1 2\n  Totals row of B: sum of B\n  Totals row of C: sum of C\n";
+    EXPECT_EQ(WordsOf(settings.Now()), shown.str() + (name == std::string("below") ? layouts : "")) << name;
   }
 }
 

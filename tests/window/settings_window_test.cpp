@@ -4,21 +4,27 @@
 
 #include <QAbstractButton>
 #include <QAbstractItemModel>
+#include <QAccessible>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QFile>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSettings>
 #include <QTabWidget>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextEdit>
 #include <QTimer>
+#include <QWheelEvent>
 #include <algorithm>
 #include <deque>
 #include <functional>
@@ -27,10 +33,20 @@
 #include "host/Files.h"
 #include "host/Load.h"
 #include "host/editor/EditedSettings.h"
+#include "host/editor/PageSketch.h"
+#include "host/window/PagePrinting.h"
+#include "host/window/Remembered.h"
 #include "views/qt/QtPlatform.h"
 
 namespace ORXKMPrintProp::host::test {
 namespace {
+
+/// How many sheets a PDF file has, and whether they lie across.
+std::string SheetsIn(const std::string& file) {
+  const QByteArray pdf = QByteArray::fromStdString(file);
+  EXPECT_TRUE(pdf.startsWith("%PDF-") && pdf.trimmed().endsWith("%%EOF"));
+  return std::to_string(pdf.count("/Type /Page\n")) + (pdf.contains("/MediaBox [0 0 842") ? " across" : "");
+}
 
 class SettingsWindowTest : public testing::Test {
  protected:
@@ -52,7 +68,10 @@ class SettingsWindowTest : public testing::Test {
     });
     timer.start(5);
   }
-  ~SettingsWindowTest() override { EXPECT_TRUE(answers.empty()) << "a question was expected that did not come"; }
+  ~SettingsWindowTest() override {
+    EXPECT_TRUE(answers.empty()) << "a question was expected that did not come";
+    QCoreApplication::setOrganizationName({});
+  }
 
   std::string Path(const char* name) const { return folder.filePath(QLatin1String(name)).toStdString(); }
 
@@ -63,6 +82,14 @@ class SettingsWindowTest : public testing::Test {
     window = std::make_unique<SettingsWindow>(*settings);
     window->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+  }
+
+  /// What is remembered comes back when it is opened again.
+  void OpenWithPage() {
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+    BeginToRemember();
+    Open();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window->findChild<QTabWidget*>(); }));
   }
 
   template <class W>
@@ -156,6 +183,8 @@ TEST_F(SettingsWindowTest, ALayoutIsEditedAsPlainText) {
   EXPECT_EQ(State(), "open");
   edit({}, QStringLiteral("<b>&head\u00a0\u00fc"), QDialogButtonBox::Ok);
   EXPECT_EQ(State(), "open modified apply older");
+  QCoreApplication::processEvents();
+  EXPECT_EQ(State(), "open modified apply");
   Press(QDialogButtonBox::Apply);
   EXPECT_EQ(std::get<Text>(ReadSettings(file).general->Rows(1)->Value(u"HEADER_LAYOUT")), u"<b>&head\u00a0\u00fc");
   edit(QStringLiteral("<b>&head \u00fc"), {}, QDialogButtonBox::Cancel);
@@ -264,9 +293,172 @@ TEST_F(SettingsWindowTest, TheTabKeyGoesRoundTheWholeWindow) {
     return round.mid(round.indexOf(QStringLiteral("cmdPrintLayout(3)"))).join(u' ').toStdString();
   };
   EXPECT_EQ(behindTheDialog(),
-            "cmdPrintLayout(3) refresh qt_tabwidget_tabbar QScrollArea &Whole page preview OK Cancel QTabBar");
+            "cmdPrintLayout(3) refresh qt_tabwidget_tabbar sketch smaller zoom larger follow pdf print preview OK "
+            "Cancel QTabBar");
   Press("preview");
   EXPECT_EQ(behindTheDialog(), "cmdPrintLayout(3) preview OK Cancel QTabBar");
+}
+
+TEST_F(SettingsWindowTest, ThePageFollowsByChoiceWhenTheUserPauses) {
+  OpenWithPage();
+  const auto isOlder = [&] { return State().find("older") != std::string::npos; };
+  const auto staysOlder = [&] {
+    QTest::qWait(900);
+    return isOlder();
+  };
+  const auto follows = [&] { return QTest::qWaitFor([&] { return !isOlder(); }); };
+  Type("!");
+  EXPECT_TRUE(staysOlder()) << "nobody has asked for it";
+  QTest::mouseClick(&Find<QCheckBox>("follow"), Qt::LeftButton, {}, {8, 8});
+  EXPECT_TRUE(follows());
+  Type("!");
+  Press("preview");
+  EXPECT_TRUE(staysOlder()) << "nobody sees it";
+  Press("preview");
+  EXPECT_TRUE(follows());
+
+  QWindow& handle = *window->windowHandle();
+  auto& title = Find<QLineEdit>("txtGenPrnTitle");
+  const QPoint inside = title.mapTo(window.get(), title.rect().center());
+  Type("!");
+  QTest::mousePress(&handle, Qt::LeftButton, {}, inside);
+  EXPECT_TRUE(staysOlder()) << "a button of the mouse is held";
+  QTest::mouseRelease(&handle, Qt::LeftButton, {}, inside);
+  EXPECT_TRUE(follows());
+  Type("!");
+  Find<QComboBox>("cmbGenPrnDirection").showPopup();
+  EXPECT_TRUE(staysOlder()) << "a list is open";
+  Find<QComboBox>("cmbGenPrnDirection").hidePopup();
+  EXPECT_TRUE(follows());
+  for (int i = 0; i < 9; ++i) {
+    QTest::keyClick(&title, Qt::Key_X);
+    QTest::qWait(100);
+  }
+  EXPECT_TRUE(isOlder()) << "there was no pause";
+
+  OpenWithPage();
+  Type("!");
+  EXPECT_TRUE(follows()) << "the choice is remembered";
+}
+
+TEST_F(SettingsWindowTest, ThePageIsSeenInEverySizeAndToldInWords) {
+  OpenWithPage();
+  const auto sketch = [&]() -> QWidget& { return Find<QWidget>("sketch"); };
+  sketch().setFocus();
+  const auto size = [&] {
+    std::string text = Find<QComboBox>("zoom").currentText().toStdString();
+    if (sketch().width() > sketch().parentWidget()->width()) text += " wide";
+    if (!Find<QPushButton>("smaller").isEnabled()) text += " least";
+    if (!Find<QPushButton>("larger").isEnabled()) text += " most";
+    return text;
+  };
+  const auto wheel = [&](int angle) {
+    QWheelEvent event({}, sketch().mapToGlobal(QPointF()), {}, {0, angle}, Qt::NoButton, Qt::ControlModifier,
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(sketch().parentWidget(), &event);
+  };
+  const auto key = [&](Qt::Key key) { return [&, key] { QTest::keyClick(&sketch(), key, Qt::ControlModifier); }; };
+  EXPECT_EQ(size(), "Fit width");
+  const std::pair<std::function<void()>, std::string> steps[] = {
+      {key(Qt::Key_Plus), "100 % wide"},        {key(Qt::Key_Equal), "125 % wide"},
+      {[&] { Press("larger"); }, "150 % wide"}, {[&] { wheel(240); }, "200 % wide most"},
+      {key(Qt::Key_Plus), "200 % wide most"},   {[&] { wheel(-60); }, "200 % wide most"},
+      {[&] { wheel(-60); }, "150 % wide"},      {key(Qt::Key_0), "Fit width"},
+      {key(Qt::Key_Minus), "75 % wide"},        {[&] { Press("smaller"); }, "50 % least"},
+      {key(Qt::Key_Minus), "50 % least"},       {key(Qt::Key_Plus), "75 % wide"},
+  };
+  for (const auto& [step, expected] : steps) {
+    step();
+    EXPECT_EQ(size(), expected);
+  }
+  Find<QComboBox>("zoom").setCurrentIndex(6);
+  sketch().setFocus();
+  const QPoint before = sketch().pos();
+  for (const Qt::Key arrow : {Qt::Key_Right, Qt::Key_Down}) QTest::keyClick(&sketch(), arrow);
+  EXPECT_TRUE(sketch().x() < before.x() && sketch().y() < before.y()) << "the arrow keys scroll";
+
+  Type("!");
+  Press("refresh");
+  const QAccessibleInterface& spoken = *QAccessible::queryAccessibleInterface(&sketch());
+  EXPECT_EQ(spoken.role(), QAccessible::Graphic);
+  EXPECT_EQ(spoken.text(QAccessible::Name), QStringLiteral("Sketch of the printed page"));
+  EXPECT_EQ(spoken.text(QAccessible::Description).toStdString(), WordsOf(settings->Now()));
+  EXPECT_NE(WordsOf(settings->Now()).find("Orders by region!\n"), std::string::npos);
+
+  OpenWithPage();
+  EXPECT_EQ(size(), "200 % wide most");
+  Remember(QStringLiteral("page/zoom"), QStringLiteral("huge"));
+  OpenWithPage();
+  EXPECT_EQ(size(), "Fit width");
+}
+
+TEST_F(SettingsWindowTest, ThePageGoesToAFileOrAPrinterOrTheUserIsTold) {
+  qputenv("CUPS_SERVER", "/nowhere");
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  const auto pick = [this](const char* name) {
+    answers.push_back([this, name](QDialog& dialog) {
+      auto& files = dynamic_cast<QFileDialog&>(dialog);
+      EXPECT_EQ(files.selectedFiles().front().toStdString(), Path("a.pdf"));
+      files.setOption(QFileDialog::DontConfirmOverwrite);
+      files.selectFile(QLatin1String(name));
+      dialog.accept();
+    });
+  };
+  OpenWithPage();
+  Type("!");
+  pick("a");
+  Press("pdf");
+  EXPECT_EQ(State(), "open modified apply") << "the page is that of the settings as they are";
+  EXPECT_EQ(SheetsIn(ReadFile(Path("a.pdf"))), "1 across");
+  settings->SetLayout({.buttonId = 0}, u"top");
+  settings->SetLayout({.buttonId = 1}, u"head");
+  settings->SetLayout({.buttonId = 3}, u"end");
+  pick("three.pdf");
+  Press("pdf");
+  EXPECT_EQ(SheetsIn(ReadFile(Path("three.pdf"))), "3 across");
+
+  const auto isTold = [this](const std::string& words) {
+    answers.push_back([words](QDialog& dialog) {
+      const auto& box = dynamic_cast<QMessageBox&>(dialog);
+      EXPECT_EQ(box.text().toStdString(), words);
+      EXPECT_EQ(box.textFormat(), Qt::PlainText);
+      dialog.accept();
+    });
+  };
+  ASSERT_TRUE(QFile::link(QStringLiteral("/dev/full"), folder.filePath(QStringLiteral("full.pdf"))));
+  pick("full.pdf");
+  isTold("The page could not be saved.\n" + Path("full.pdf") + ": No space left on device");
+  Press("pdf");
+  isTold("There is no printer.\nThe page can be saved as a PDF file.");
+  Press("print");
+}
+
+TEST(PagePrinting, PutsAllOfThePageOnSheetsAndDividesNoPartWithoutNeed) {
+  struct {
+    const char* page;
+    std::size_t head, foot, notes, end, columns;  // how many lines there are of each
+    const char* sheets;
+  } const rows[] = {
+      {"all fits", 20, 20, 0, 0, 0, "1"},
+      {"each part fits", 40, 40, 40, 0, 0, "3"},
+      {"one part is larger than a sheet", 150, 0, 0, 0, 0, "3"},
+      {"a sheet of its own", 20, 0, 0, 1, 0, "2"},
+      {"columns beside each other", 0, 0, 0, 0, 2, "1"},
+      {"columns for which the paper is turned", 0, 0, 0, 0, 3, "1 across"},
+      {"columns that go on below", 0, 0, 0, 0, 9, "1 across"},
+      {"columns that go on on a further sheet", 0, 0, 0, 0, 59, "2 across"},
+  };
+  for (const auto& row : rows) {
+    PageSketch sketch;
+    sketch.layouts[kHeadPart].resize(row.head, u"head");
+    sketch.layouts[kFootPart].resize(row.foot, u"foot");
+    sketch.layouts[kEndPage].resize(row.end, u"end");
+    sketch.notes.resize(row.notes, u"note");
+    sketch.columns.resize(row.columns, {.title = u"title", .width = 40});
+    if (row.columns > 0) sketch.lines = {{.cells = std::vector<Text>(row.columns, u"cell")}};
+    const QByteArray pdf = PdfOf(sketch, QFont(QStringLiteral("DejaVu Sans"), 8));
+    EXPECT_EQ(SheetsIn(pdf.toStdString()), row.sheets) << row.page;
+  }
 }
 
 }  // namespace

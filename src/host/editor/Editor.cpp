@@ -335,7 +335,7 @@ void Editor::ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) 
   BeginStep(&button, ToUtf8(button.Caption()));
   settings_.SetLayout(key, *layout);
   EndStep(*now_.page);
-  ShowState();
+  if (Read()) steps_.Last().after = now_;
 }
 
 void Editor::Tell(const std::string& what, const std::string& why) { window_.Ask({.text = what, .further = why}); }

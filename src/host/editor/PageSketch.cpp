@@ -5,9 +5,14 @@
 #include <cstdlib>
 #include <optional>
 #include <set>
+#include <sstream>
 #include <utility>
 
 #include "host/PrintRows.h"
+#include "host/SettingsColumns.h"
+#include "host/Show.h"
+#include "host/Terminal.h"
+#include "host/Utf8.h"
 #include "tables/CellCodecs.h"
 
 namespace ORXKMPrintProp::host {
@@ -15,8 +20,36 @@ namespace {
 
 using namespace ModPrnGen;
 
-/// The dialog sets no more; a document may, and each brings lines of its own.
-constexpr std::size_t kMostBreaks = 3;
+/// The dialog sets no more breaks; a document may, and each brings lines of its own.
+constexpr std::size_t kMostGroups = 3;
+
+constexpr std::size_t kMostLayoutLines = 3;
+constexpr std::size_t kMostLayoutWidth = 200;
+constexpr char16_t kCut = u'\u2026';
+
+/// The first lines of a layout that say something, none for an empty one.
+std::vector<Text> LayoutLines(const Text& layout, std::size_t most) {
+  std::vector<Text> lines;
+  bool isCut = false;
+  for (std::size_t begin = 0; begin < layout.size() && !isCut;) {
+    const std::size_t end = std::min(layout.find_first_of(u"\r\n", begin), layout.size());
+    const Text line = OneLine(TextView(layout).substr(begin, end - begin));
+    begin = end + (layout.compare(end, 2, u"\r\n") == 0 ? 2 : 1);
+    const bool isBlank = line.find_first_not_of(u' ') == Text::npos;
+    if (isBlank && lines.empty()) continue;
+    isCut = lines.size() == most;
+    if (!isCut) lines.push_back(line);
+  }
+  if (lines.empty() && !layout.empty()) lines.emplace_back();
+  for (Text& line : lines) {
+    if (line.size() <= kMostLayoutWidth) continue;
+    const bool isHalf = (line[kMostLayoutWidth - 1] & 0xFC00) == 0xD800;
+    line.resize(kMostLayoutWidth - (isHalf ? 1 : 0));
+    line += kCut;
+  }
+  if (isCut) lines.back() += kCut;
+  return lines;
+}
 
 /// Where a column has its made-up content from.
 struct Source {
@@ -43,6 +76,7 @@ class Sketcher {
     NoteSums(PP_PRN_NOSUMS_ALWAYS, u"No totals of: ");
     NoteSums(PP_PRN_NOSUMS_CONDITION, u"Totals on condition of: ");
     Lines();
+    NoteLayouts();
     return std::move(sketch_);
   }
 
@@ -53,6 +87,9 @@ class Sketcher {
                        Number(general_, u"MARGIN_LEFT"), Number(general_, u"MARGIN_RIGHT")};
     sketch_.colored = Flag(general_, u"USE_COLORS");
     sketch_.ruled = !Flag(general_, u"NO_LINES");
+    for (std::size_t id = 0; id < sketch_.layouts.size(); ++id) {
+      sketch_.layouts[id] = LayoutLines(RawText(general_, kPageLayouts[id]), kMostLayoutLines);
+    }
     if (const Text limit = PageLimit(general_); !limit.empty()) sketch_.notes.push_back(u"At most " + limit);
     NoteMargins();
     const bool isAcross = DirectionFromCell(RawText(general_, u"PRINT_DIRECTION")) == PP_PRN_DIR_HORIZONTAL;
@@ -131,9 +168,20 @@ class Sketcher {
 
   /// The lines show the totals of a few characteristics only.
   void NoteSums(PP_NoSums noSums, TextView words) {
+    NoteNames(words, [&](std::size_t level) { return NoSumsFromCell(RawText(*levels_[level], u"NOSUMS")) == noSums; });
+  }
+
+  /// The lines have the totals rows of a few characteristics only.
+  void NoteLayouts() {
+    NoteNames(u"Layouts of further totals rows: ",
+              [&](std::size_t level) { return HasLayout(level) && !drawnLayouts_.contains(level); });
+  }
+
+  template <class IsNamed>
+  void NoteNames(TextView words, IsNamed isNamed) {
     std::vector<Text> names;
-    for (const RowRef& row : levels_) {
-      if (NoSumsFromCell(RawText(*row, u"NOSUMS")) == noSums) names.push_back(OwnerName(*row));
+    for (std::size_t level = 0; level < levels_.size(); ++level) {
+      if (isNamed(level)) names.push_back(OwnerName(*levels_[level]));
     }
     if (const Text list = Joined(names, u"; "); !list.empty()) sketch_.notes.push_back(Text(words) + list);
   }
@@ -145,27 +193,32 @@ class Sketcher {
 
   PP_CurUnitPosition CurrencyPosition() const { return CurUnitPositionFromCell(RawText(general_, u"CURUNITPOSITION")); }
 
-  /// Enough rows for the break of every characteristic that has one to be seen, and the totals that it closes.
+  /// Enough rows for the break of every characteristic that has one to be seen, the totals that it closes, and the
+  /// layouts of totals rows.
   void Lines() {
     if (sources_.empty()) return;
     const std::size_t count = levels_.size();
-    std::set<std::size_t> breaking;
-    for (std::size_t level = 0; level + 1 < count; ++level) {
-      if (!BreakBy(level)) continue;
-      if (breaking.size() == kMostBreaks) {
-        sketch_.notes.push_back(u"There are more breaks than these");
-        break;
+    std::set<std::size_t> groups;
+    const auto add = [&](auto isAdded) {
+      for (std::size_t level = 0; level + 1 < count; ++level) {
+        if (!isAdded(level) || groups.contains(level)) continue;
+        if (groups.size() == kMostGroups) return false;
+        groups.insert(level);
       }
-      breaking.insert(level);
+      return true;
+    };
+    if (!add([&](std::size_t level) { return BreakBy(level).has_value(); })) {
+      sketch_.notes.push_back(u"There are more breaks than these");
     }
-    if (breaking.empty() && count > 1) breaking.insert(0);
+    add([&](std::size_t level) { return HasLayout(level); });
+    if (groups.empty() && count > 1) groups.insert(0);
 
     std::vector<std::size_t> changes;
     const auto again = [&] {
       if (count > 0) changes.push_back(count - 1);
     };
     again();
-    for (auto level = breaking.rbegin(); level != breaking.rend(); ++level) {
+    for (auto level = groups.rbegin(); level != groups.rend(); ++level) {
       changes.push_back(*level);
       again();
     }
@@ -182,14 +235,14 @@ class Sketcher {
     for (std::size_t row = 0; row < rows_.size(); ++row) {
       const std::size_t changed = rows_[row].changed;
       if (row > 0) {
-        if (!totalsFirst) AddTotals(breaking, changed, row - 1, false);
+        if (!totalsFirst) AddTotals(groups, changed, row - 1, false);
         AddBreak(changed);
       }
-      if (totalsFirst) AddTotals(breaking, changed, row, true);
+      if (totalsFirst) AddTotals(groups, changed, row, true);
       AddValues(row);
     }
     if (!totalsFirst) {
-      AddTotals(breaking, 0, rows_.size() - 1, false);
+      AddTotals(groups, 0, rows_.size() - 1, false);
       AddOverall();
     }
   }
@@ -245,8 +298,8 @@ class Sketcher {
   }
 
   /// The totals of the groups that begin, or end, with that row.
-  void AddTotals(const std::set<std::size_t>& breaking, std::size_t changed, std::size_t row, bool begin) {
-    std::vector<std::size_t> levels(breaking.lower_bound(changed), breaking.end());
+  void AddTotals(const std::set<std::size_t>& groups, std::size_t changed, std::size_t row, bool begin) {
+    std::vector<std::size_t> levels(groups.lower_bound(changed), groups.end());
     if (!begin) std::reverse(levels.begin(), levels.end());
     for (const std::size_t level : levels) {
       const auto noSums = NoSumsFromCell(RawText(*levels_[level], u"NOSUMS"));
@@ -256,30 +309,44 @@ class Sketcher {
       while (!begin && first > 0 && rows_[first].changed > level) --first;
       while (begin && last + 1 < rows_.size() && rows_[last + 1].changed > level) ++last;
       AddSums(Text(noSums == PP_PRN_NOSUMS_CONDITION ? u"Total, on condition" : u"Total"), level, first, last);
+      AddLayout(level);
     }
+  }
+
+  bool HasLayout(std::size_t level) const { return !RawText(*levels_[level], kTotalsLayout).empty(); }
+
+  void AddLayout(std::size_t level) {
+    if (!HasLayout(level) || !HasNumbers()) return;
+    drawnLayouts_.insert(level);
+    SketchLine line{.kind = SketchLineKind::TotalsLayout, .cells = std::vector<Text>(sources_.size())};
+    line.cells[FirstColumnOf(level)] = LayoutLines(RawText(*levels_[level], kTotalsLayout), 1).front();
+    sketch_.lines.push_back(std::move(line));
+  }
+
+  bool HasNumbers() const {
+    return std::any_of(sketch_.columns.begin(), sketch_.columns.end(),
+                       [](const SketchColumn& column) { return column.isNumber; });
+  }
+
+  std::size_t FirstColumnOf(std::size_t level) const {
+    const auto first =
+        std::find_if(sources_.begin(), sources_.end(), [&](const Source& source) { return source.level == level; });
+    return static_cast<std::size_t>(first - sources_.begin());
   }
 
   void AddOverall() { AddSums(u"Overall total", 0, 0, rows_.size() - 1); }
 
   /// The words stand in the first column of the characteristic.
   void AddSums(const Text& words, std::size_t level, std::size_t first, std::size_t last) {
-    const auto numbers = std::count_if(sketch_.columns.begin(), sketch_.columns.end(),
-                                       [](const SketchColumn& column) { return column.isNumber; });
-    if (numbers == 0) return;
-    SketchLine line{.kind = SketchLineKind::Totals};
-    bool isNamed = false;
+    if (!HasNumbers()) return;
+    SketchLine line{.kind = SketchLineKind::Totals, .cells = std::vector<Text>(sources_.size())};
     for (std::size_t i = 0; i < sources_.size(); ++i) {
-      Text cell;
-      if (sketch_.columns[i].isNumber) {
-        int sum = 0;
-        for (std::size_t row = first; row <= last; ++row) sum += NumberAt(row, sources_[i].level);
-        cell = NumberText(sum);
-      } else if (!isNamed && sources_[i].level == level) {
-        cell = words;
-        isNamed = true;
-      }
-      line.cells.push_back(std::move(cell));
+      if (!sketch_.columns[i].isNumber) continue;
+      int sum = 0;
+      for (std::size_t row = first; row <= last; ++row) sum += NumberAt(row, sources_[i].level);
+      line.cells[i] = NumberText(sum);
     }
+    if (!levels_.empty()) line.cells[FirstColumnOf(level)] = words;
     sketch_.lines.push_back(std::move(line));
   }
 
@@ -313,6 +380,7 @@ class Sketcher {
   const Snapshot& tables_;
   const Row& general_;
   Rows levels_;  ///< the print characteristics, in print order
+  std::set<std::size_t> drawnLayouts_;
   std::vector<Source> sources_;
   std::vector<Values> rows_;
   PageSketch sketch_;
@@ -321,5 +389,23 @@ class Sketcher {
 }  // namespace
 
 PageSketch SketchOf(const Snapshot& readBack) { return Sketcher(readBack).Draw(); }
+
+std::string WordsOf(const Snapshot& readBack) {
+  std::ostringstream words;
+  Show(readBack, false, words);
+  const char* heading = "\nLayouts\n";
+  const auto add = [&](const Text& what, const Text& layout) {
+    const Text text = Joined(LayoutLines(layout, kMostLayoutLines), u" ");
+    if (!layout.empty()) words << std::exchange(heading, "") << "  " << ToUtf8(what) << ": " << ToUtf8(text) << "\n";
+  };
+  const Row& general = *readBack.General().rows.at(0);
+  for (std::size_t id = 0; id < std::size(kPageLayoutNames); ++id) {
+    add(Text(kPageLayoutNames[id]), RawText(general, kPageLayouts[id]));
+  }
+  for (const RowRef& row : readBack.Dimension().rows) {
+    if (IsPrinted(*row)) add(u"Totals row of " + OwnerName(*row), RawText(*row, kTotalsLayout));
+  }
+  return words.str();
+}
 
 }  // namespace ORXKMPrintProp::host

@@ -10,6 +10,7 @@
 #include "host/Load.h"
 #include "host/editor/EditedSettings.h"
 #include "host/window/Display.h"
+#include "host/window/Remembered.h"
 #include "host/window/SettingsWindow.h"
 #include "views/qt/QtPlatform.h"
 
@@ -31,6 +32,7 @@ EditProgram::EditProgram(const EditOptions& options) {
   TakeQtMessages(true);
   application_ = std::make_unique<QApplication>(argc_, argv_);
   QGuiApplication::setDesktopFileName(QStringLiteral("prnprop"));
+  BeginToRemember();
   platform_ = std::make_unique<qt::QtPlatform>();
   const bool isSeen = IsTerminal(stderr) || QGuiApplication::platformName() == QStringLiteral("offscreen");
   settings_ = isSeen ? OpenToEdit(options, *platform_, {}) : OpenToEdit(options, *platform_, Tell);

@@ -1,12 +1,9 @@
 #include "host/window/MeaningPanel.h"
 
 #include <QApplication>
-#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
-#include <QScrollBar>
 #include <QShortcut>
 #include <QTabBar>
 #include <QTabWidget>
@@ -17,7 +14,7 @@
 
 #include "host/window/ChangesView.h"
 #include "host/window/ComparedView.h"
-#include "host/window/PageSketchView.h"
+#include "host/window/PagePanel.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
@@ -36,44 +33,17 @@ const std::vector<TableTab>& TableTabs() {
   return tabs;
 }
 
-/// The page at its full size, or as small as the area is wide.
-class PageArea : public QScrollArea {
- public:
-  PageArea(PageSketchView* page, QWidget* parent) : QScrollArea(parent), page_(*page) {
-    setWidget(page);
-    setAlignment(Qt::AlignCenter);
-  }
-
-  void ShowWhole(bool whole) {
-    isWhole_ = whole;
-    Fit();
-  }
-
- protected:
-  void resizeEvent(QResizeEvent* event) override {
-    QScrollArea::resizeEvent(event);
-    Fit();
-  }
-
- private:
-  void Fit() {
-    // There is always room for the bar at the side, which comes and goes with the size.
-    const int room = width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width();
-    page_.FitInto(isWhole_ ? std::max(room, 1) : 0);
-  }
-
-  PageSketchView& page_;
-  bool isWhole_ = false;
-};
-
 }  // namespace
 
-MeaningPanel::MeaningPanel(std::function<void()> refresh, QWidget* parent)
-    : QWidget(parent), state_(new QLabel(this)), refresh_(new QPushButton(QStringLiteral("&Refresh"), this)) {
+MeaningPanel::MeaningPanel(std::function<bool()> read, QWidget* parent)
+    : QWidget(parent),
+      read_(std::move(read)),
+      state_(new QLabel(this)),
+      refresh_(new QPushButton(QStringLiteral("&Refresh"), this)) {
   refresh_->setObjectName(QStringLiteral("refresh"));
   refresh_->setAutoDefault(true);
   refresh_->setToolTip(QStringLiteral("Reads the settings back"));
-  connect(refresh_, &QPushButton::clicked, this, std::move(refresh));
+  connect(refresh_, &QPushButton::clicked, this, read_);
   state_->setObjectName(QStringLiteral("state"));
   state_->setWordWrap(true);
   state_->setTextFormat(Qt::PlainText);
@@ -89,16 +59,9 @@ MeaningPanel::MeaningPanel(std::function<void()> refresh, QWidget* parent)
 
 void MeaningPanel::MakeTabs() {
   tabs_ = new QTabWidget(this);
-  auto* const page = new QWidget(this);
-  sketch_ = new PageSketchView;
-  auto* const area = new PageArea(sketch_, page);
-  auto* const isWhole = new QCheckBox(QStringLiteral("&Whole page"), page);
-  isWhole->setToolTip(QStringLiteral("Makes the page as small as the panel is wide"));
-  connect(isWhole, &QCheckBox::toggled, area, [area](bool whole) { area->ShowWhole(whole); });
-  auto* const down = new QVBoxLayout(page);
-  down->addWidget(area);
-  down->addWidget(isWhole);
-  tabs_->addTab(page, QStringLiteral("Page"));
+  page_ = new PagePanel(read_, this);
+  page_->SetStale(isStale_);
+  tabs_->addTab(page_, QStringLiteral("Page"));
   changes_ = new ChangesView(this);
   changes_->setAccessibleName(QStringLiteral("Changes"));
   tabs_->addTab(changes_, QStringLiteral("Changes"));
@@ -128,8 +91,7 @@ void MeaningPanel::MakeTabs() {
   const auto isNext = [&](QWidget* widget) { setTabOrder(std::exchange(last, widget), widget); };
   isNext(tabs_);
   isNext(tabs_->findChild<QTabBar*>());
-  isNext(area);
-  isNext(isWhole);
+  for (QWidget* const control : page_->InTabOrder()) isNext(control);
   isNext(changes_);
   for (ComparedView* const view : views_) isNext(view);
   isNext(next_);
@@ -143,6 +105,8 @@ void MeaningPanel::Show(const Snapshot& file, const Snapshot& now) {
 }
 
 void MeaningPanel::SetState(bool isStale, const QString& note) {
+  isStale_ = isStale;
+  if (page_) page_->SetStale(isStale);
   QFont bold = font();
   bold.setBold(isStale || !note.isEmpty());
   state_->setFont(bold);
@@ -174,7 +138,7 @@ void MeaningPanel::Fill() {
   if (isFilled_) return;
   isFilled_ = true;
   try {
-    sketch_->Show(SketchOf(now_));
+    page_->Show(now_);
     for (std::size_t table = 0; table < views_.size(); ++table) FillTable(table);
     next_->setEnabled(std::any_of(views_.begin(), views_.end(), [](const auto* view) { return view->HasMarks(); }));
     ShowFront();

@@ -15,15 +15,15 @@ namespace ORXKMPrintProp::host {
 
 class ChangesView;
 class ComparedView;
-class PageSketchView;
+class PagePanel;
 
 /// Shows what the settings mean: a sketch of the page, what has changed since the file in plain words, and the four
 /// tables as they are read back with the cells marked that are others than in the file. It shows what it is given and
 /// reads nothing itself.
 class MeaningPanel : public QWidget {
  public:
-  /// @param refresh what the button does
-  explicit MeaningPanel(std::function<void()> refresh, QWidget* parent = nullptr);
+  /// @param read reads the settings back, and shows here what they are now. @return whether they could be read
+  explicit MeaningPanel(std::function<bool()> read, QWidget* parent = nullptr);
 
   void Show(const Snapshot& file, const Snapshot& now);
   /// Tells whether the user has changed something since.
@@ -45,14 +45,16 @@ class MeaningPanel : public QWidget {
   /// Brings the next cell that differs to the front, or the one before, in whichever table that is.
   void GoToMark(bool forward);
 
+  std::function<bool()> read_;
   QLabel* state_;
   QPushButton* refresh_;
   QTabWidget* tabs_ = nullptr;  ///< none until the panel has been seen
-  PageSketchView* sketch_ = nullptr;
+  PagePanel* page_ = nullptr;
   ChangesView* changes_ = nullptr;
   std::vector<ComparedView*> views_;
   QPushButton* next_ = nullptr;
   bool isFilled_ = false;
+  bool isStale_ = false;
   bool areChangesTold_ = false;  ///< since the tables were shown
   Snapshot file_;
   Snapshot now_;

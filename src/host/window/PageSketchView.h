@@ -1,43 +1,41 @@
 #pragma once
 
 #include <QWidget>
+#include <memory>
 #include <vector>
 
-#include "host/editor/PageSketch.h"
-
-class QPainter;
+#include "host/Snapshot.h"
+#include "host/window/SketchPainter.h"
 
 namespace ORXKMPrintProp::host {
 
-/// Paints a page as it is described, as wide as its columns need, or made smaller.
+/// Shows a page on its paper, and tells it in words to assistive programs. Takes the focus and leaves the arrow keys
+/// to what it scrolls in.
 class PageSketchView : public QWidget {
  public:
   explicit PageSketchView(QWidget* parent = nullptr);
 
-  void Show(PageSketch sketch);
-  /// Makes the page as small as it must be for that width in pixels; 0 for its full size.
+  void Show(const Snapshot& readBack);
+  /// How much the page is made larger or smaller.
+  void Zoom(double scale);
+  /// Fits the page into that width, in pixels.
   void FitInto(int width);
+  double Scale() const { return scale_; }
+
+  /// What is shown.
+  const PageSketch& Sketch() const { return painter_->Sketch(); }
+  QString Words() const;
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  struct Measures {
-    int lineHeight;
-    QRect paper;
-    QRect body;  ///< the paper without its margins
-  };
+  void Arrange();
 
-  void Measure();
-  void Scale();
-  void PaintHeading(QPainter& painter, int top) const;
-  void PaintCells(QPainter& painter, const SketchLine& line, int top) const;
-  void PaintBreak(QPainter& painter, SketchLineKind kind, int top) const;
-
-  PageSketch sketch_;
-  std::vector<int> widths_;  ///< of the columns, in pixels
-  Measures measures_{};
-  int room_ = 0;
+  Snapshot readBack_;
+  std::unique_ptr<SketchPainter> painter_;
+  std::vector<SketchPaper> papers_;
+  int room_ = 0;  ///< 0 for a page that is not fitted into any
   double scale_ = 1;
 };
 

@@ -53,9 +53,10 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
     : QWidget(parent),
       editor_(settings, *this),
       view_(new qt::PrnPropView(settings.Control().GetDialog(), this)),
-      panel_(new MeaningPanel([this] { editor_.Read(); }, this)),
+      panel_(new MeaningPanel([this] { return editor_.Read(); }, this)),
       dialog_(new QScrollArea(this)) {
   setWindowTitle(QString::fromStdString(editor_.Title("[*]")));
+  setWindowFilePath(QString::fromStdString(settings.Target()));
   auto* const across = new QHBoxLayout;
   dialog_->setWidget(view_);
   dialog_->setFrameShape(QFrame::NoFrame);

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+#include <QVariant>
+
+namespace ORXKMPrintProp::host {
+
+// How the user likes the editor to look, kept in an ini file of the program's in his configuration folder. A program
+// that has not begun to remember forgets everything, and leaves the file alone.
+
+void BeginToRemember();
+
+/// What was remembered last under that name. The file may hold anything.
+QVariant Remembered(const QString& name);
+void Remember(const QString& name, const QVariant& value);
+
+}  // namespace ORXKMPrintProp::host
