@@ -4,10 +4,8 @@
 
 #include <array>
 #include <cctype>
-#include <cstdint>
 #include <cstring>
 #include <utility>
-#include <vector>
 
 #include "host/Utf8.h"
 #include "views/hand.h"
@@ -159,9 +157,9 @@ class WindowsHand : public Hand {
       const bool isList = kind == WidgetKind::ListBox;
       state["items"] = Json::array();
       const auto isSeen = [&](int entry, const std::wstring& text) {
-        const bool isSelected = send(LB_GETSEL, entry) > 0;
-        return (GroundOf(window, entry) == ::GetSysColor(COLOR_HIGHLIGHT)) == isSelected &&
-               IsPainted(window, entry, text, isSelected);
+        const bool isSelected = GroundOf(window, entry) == ::GetSysColor(COLOR_HIGHLIGHT);
+        const bool isBlank = text.find_first_not_of(L' ') == std::wstring::npos;
+        return isSelected == (send(LB_GETSEL, entry) > 0) && HasInk(window, entry) != isBlank;
       };
       for (int i = 0; i < send(isList ? LB_GETCOUNT : CB_GETCOUNT); ++i) {
         std::wstring text(static_cast<std::size_t>(send(isList ? LB_GETTEXTLEN : CB_GETLBTEXTLEN, i)) + 1, L'\0');
@@ -264,49 +262,18 @@ class WindowsHand : public Hand {
     ::ReleaseDC(list, seen);
     return ground;
   }
-  /// Whether on the screen the entry looks like that, but for the mark of the caret around it.
-  static bool IsPainted(HWND list, int entry, const std::wstring& text, bool isSelected) {
-    RECT row = RowOf(list, entry);
-    const int width = row.right - row.left, height = row.bottom - row.top;
+  /// Whether anything stands on the ground, but for the mark of the caret around it.
+  static bool HasInk(HWND list, int entry) {
+    const RECT row = RowOf(list, entry);
+    const COLORREF ground = GroundOf(list, entry);
     const HDC seen = ::GetDC(list);
-    const auto picture = [&](bool isExpected) {
-      const HDC context = ::CreateCompatibleDC(seen);
-      const HBITMAP bitmap = ::CreateCompatibleBitmap(seen, width, height);
-      const HGDIOBJ formerBitmap = ::SelectObject(context, bitmap);
-      const HGDIOBJ formerFont =
-          ::SelectObject(context, reinterpret_cast<HFONT>(::SendMessageW(list, WM_GETFONT, 0, 0)));
-      ::BitBlt(context, 0, 0, width, height, seen, row.left, row.top, SRCCOPY);
-      if (isExpected) {
-        const bool isEnabled = ::IsWindowEnabled(list) != FALSE;
-        RECT all{0, 0, width, height};
-        ::FillRect(context, &all, ::GetSysColorBrush(isSelected ? COLOR_HIGHLIGHT : COLOR_WINDOW));
-        ::SetBkMode(context, TRANSPARENT);
-        ::SetTextColor(context, ::GetSysColor(!isEnabled   ? COLOR_GRAYTEXT
-                                              : isSelected ? COLOR_HIGHLIGHTTEXT
-                                                           : COLOR_WINDOWTEXT));
-        all.left = 2;
-        ::DrawTextW(context, text.c_str(), -1, &all, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS | DT_VCENTER);
-      }
-      std::vector<std::uint32_t> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
-      BITMAPINFO info{};
-      info.bmiHeader = {sizeof info.bmiHeader, width, height, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-      ::SelectObject(context, formerBitmap);
-      ::GetDIBits(context, bitmap, 0, static_cast<UINT>(height), pixels.data(), &info, DIB_RGB_COLORS);
-      ::SelectObject(context, formerFont);
-      ::DeleteObject(bitmap);
-      ::DeleteDC(context);
-      return pixels;
-    };
-    const auto found = picture(false), expected = picture(true);
-    ::ReleaseDC(list, seen);
-    int others = 0;
-    for (int y = 1; y < height - 1; ++y) {
-      for (int x = 1; x < width - 1; ++x) {
-        const auto at = static_cast<std::size_t>(y * width + x);
-        others += (found[at] & 0xFFFFFF) != (expected[at] & 0xFFFFFF);
-      }
+    bool isFound = false;
+    const int middle = (row.top + row.bottom) / 2;
+    for (int y = middle - 2; !isFound && y <= middle + 2; ++y) {
+      for (int x = row.left + 1; !isFound && x < row.right - 3; ++x) isFound = ::GetPixel(seen, x, y) != ground;
     }
-    return others == 0;
+    ::ReleaseDC(list, seen);
+    return isFound;
   }
 
   /// By the scroll bar, until the entry is seen.
