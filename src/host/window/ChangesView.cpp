@@ -12,6 +12,7 @@ ChangesView::ChangesView(QWidget* parent) : QTextEdit(parent) {
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setTabChangesFocus(true);
+  document()->setIndentWidth(fontMetrics().height());
 }
 
 void ChangesView::Show(const Snapshot& before, const Snapshot& after) {

@@ -11,6 +11,13 @@ class CellDelegate : public QStyledItemDelegate {
  public:
   CellDelegate(const ComparedModel& model, QObject* parent) : QStyledItemDelegate(parent), model_(model) {}
 
+  /// For the whole text.
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    QStyleOptionViewItem wide = option;
+    wide.rect.setWidth(QWIDGETSIZE_MAX);
+    return QStyledItemDelegate::sizeHint(wide, index);
+  }
+
  protected:
   void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
     QStyledItemDelegate::initStyleOption(option, index);
