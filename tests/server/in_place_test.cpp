@@ -404,8 +404,8 @@ TEST_F(InPlace, LeavesNothingBehindHoweverOftenItIsMadeAndLoaded) {
   const char* const wanted = std::getenv("PRNPROP_ROUNDS");
   const int rounds = wanted ? std::atoi(wanted) : 20, known = rounds / 2;
   constexpr int kLoads = 5;
-  const HDC context = ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
-  const RECTL bounds{0, 0, 645, 396};
+  constexpr int kWidth = 645, kHeight = 396;
+  const RECTL bounds{0, 0, kWidth, kHeight};
   const char* const rows = "IOBJNM='A' IOBJTXT='A' AXIS='Y'\nIOBJNM='B'";
   DWORD resources = 0;
   SIZE_T memory = 0;
@@ -416,10 +416,14 @@ TEST_F(InPlace, LeavesNothingBehindHoweverOftenItIsMadeAndLoaded) {
     }
     Unmake();
     Make();
-    if (i % (rounds / 2) == 1) {
-      ASSERT_EQ(control.As<IViewObject2>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, context, &bounds,
+    if (i % 10 == 0) {
+      const HDC context = ::CreateEnhMetaFileW(nullptr, nullptr, nullptr, nullptr);
+      EXPECT_EQ(control.As<IViewObject2>()->Draw(DVASPECT_CONTENT, -1, nullptr, nullptr, nullptr, context, &bounds,
                                                  nullptr, nullptr, 0),
                 S_OK);
+      const HENHMETAFILE file = ::CloseEnhMetaFile(context);
+      EXPECT_GT(::GetEnhMetaFileBits(file, 0, nullptr), kWidth * kHeight * 4u) << "what was drawn";
+      ::DeleteEnhMetaFile(file);
     }
     ASSERT_EQ(Do(OLEIVERB_UIACTIVATE), S_OK);
     for (int load = 0; load < kLoads; ++load) Load(HostTables(Settings(rows, "IOBJNM='A' ATTRINM='a'")));
@@ -431,9 +435,6 @@ TEST_F(InPlace, LeavesNothingBehindHoweverOftenItIsMadeAndLoaded) {
     std::cout << rounds << " rounds, " << rounds * kLoads << " loads: from " << resources << " resources and "
               << memory / 1000 << " kB to " << CountResources() << " and " << PrivateBytes() / 1000 << " kB\n";
   }
-  const HENHMETAFILE file = ::CloseEnhMetaFile(context);
-  EXPECT_GT(::GetEnhMetaFileBits(file, 0, nullptr), 2u * 645 * 396 * 4) << "what was drawn";
-  ::DeleteEnhMetaFile(file);
 }
 
 TEST_F(InPlace, IsShownByTheExample) {
