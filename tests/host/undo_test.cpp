@@ -147,13 +147,20 @@ class UndoingUser {
       case WidgetKind::CheckBox:
         return "toggle" + name;
       case WidgetKind::CommandButton:
-        return "press" + name;
+        return MovesNothing(widget.Row().name) ? "" : "press" + name;
       case WidgetKind::TextBox:
         return "edit" + name + " " + random_.Of<std::string>({"", "", "99999", "1x"}) + std::to_string(++edits_);
       default:
         return random_.OneIn(4) ? "caret" + name + entry()
                                 : "click" + name + entry() + (random_.OneIn(4) ? entry() : "");
     }
+  }
+
+  /// Such a button stores the order all the same, which is not told from a look.
+  bool MovesNothing(const WidgetName& button) {
+    if (button.name == u"cmdPrintLayout") return false;
+    const TextView source = button.name == u"cmdLeftToRight" ? u"lstAvail" : u"lstPrint";
+    return GetDialog().Get<ListBox>(source, button.index).SelCount() == 0;
   }
 
   std::string Order() {

@@ -282,6 +282,50 @@ TEST_F(SettingsWindowTest, AChangeOfTheTabOrTheOrderReadsBack) {
   EXPECT_FALSE(window->isVisible());
 }
 
+TEST_F(SettingsWindowTest, StepsAreTakenBackByKeysAndButtons) {
+  Open();
+  const auto state = [this] {
+    QString state = Find<QLineEdit>("txtGenPrnTitle").text() + u' ' + window->focusWidget()->objectName();
+    for (const char* const name : {"undo", "redo", "revert"}) {
+      if (Find<QPushButton>(name).isEnabled()) state += u' ' + Find<QPushButton>(name).toolTip();
+    }
+    return state.toStdString();
+  };
+  const auto key = [this](int key, Qt::KeyboardModifiers modifiers) {
+    QTest::keyClick(window->focusWidget(), static_cast<Qt::Key>(key), modifiers);
+  };
+  Find<QLineEdit>("txtGenMarginTop").setFocus();
+  QTest::keyClicks(&Find<QLineEdit>("txtGenMarginTop"), QStringLiteral("1"));
+  Find<QLineEdit>("txtGenPrnTitle").setFocus();
+  Type("!?");
+  const std::string revert = " Goes back to what was opened or saved last";
+  EXPECT_EQ(state(), "Orders by region!? txtGenPrnTitle Undo: Print title (Ctrl+Z)" + revert);
+  key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(state(), "Orders by region txtGenPrnTitle Undo: Top (Ctrl+Z) Redo: Print title (Ctrl+Shift+Z)" + revert);
+  key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(state(), "Orders by region txtGenMarginTop Redo: Top (Ctrl+Shift+Z)");
+  key(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  key(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(state(), "Orders by region!? txtGenPrnTitle Undo: Print title (Ctrl+Z)" + revert);
+
+  // Whoever presses the button goes on with it, as long as it can be pressed.
+  Find<QPushButton>("undo").setFocus();
+  key(Qt::Key_Space, Qt::NoModifier);
+  EXPECT_EQ(state(), "Orders by region undo Undo: Top (Ctrl+Z) Redo: Print title (Ctrl+Shift+Z)" + revert);
+  key(Qt::Key_Space, Qt::NoModifier);
+  EXPECT_EQ(state(), "Orders by region txtGenMarginTop Redo: Top (Ctrl+Shift+Z)");
+  Press("redo");
+  Press("redo");
+  EXPECT_EQ(state(), "Orders by region!? txtGenPrnTitle Undo: Print title (Ctrl+Z)" + revert);
+  Press("revert");
+  EXPECT_EQ(state(), "Orders by region txtGenPrnTitle Undo: Revert (Ctrl+Z)");
+  EXPECT_EQ(State(), "open");
+  Press("undo");
+  window->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Apply)->setFocus();
+  Press(QDialogButtonBox::Apply);
+  EXPECT_EQ(state(), "Orders by region!? txtGenPrnTitle Undo: Print title (Ctrl+Z) Redo: Revert (Ctrl+Shift+Z)");
+}
+
 TEST_F(SettingsWindowTest, TheTabKeyGoesRoundTheWholeWindow) {
   Open();
   ASSERT_TRUE(QTest::qWaitFor([&] { return window->findChild<QTabWidget*>(); }));

@@ -42,7 +42,7 @@ MeaningPanel::MeaningPanel(std::function<bool()> read, QWidget* parent)
       refresh_(new QPushButton(QStringLiteral("&Refresh"), this)) {
   refresh_->setObjectName(QStringLiteral("refresh"));
   refresh_->setAutoDefault(true);
-  refresh_->setToolTip(QStringLiteral("Reads the settings back"));
+  refresh_->setToolTip(QStringLiteral("Reads the settings back, which stores the page as it is; Undo leads back"));
   connect(refresh_, &QPushButton::clicked, this, read_);
   state_->setObjectName(QStringLiteral("state"));
   state_->setWordWrap(true);

@@ -4,7 +4,9 @@
 #include <QCloseEvent>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollArea>
@@ -47,6 +49,24 @@ QMessageBox::Icon IconOf(Question::Kind kind) {
   }
 }
 
+const QList<QKeySequence> kUndoKeys{Qt::CTRL | Qt::Key_Z};
+const QList<QKeySequence> kRedoKeys{Qt::CTRL | Qt::SHIFT | Qt::Key_Z, Qt::CTRL | Qt::Key_Y};
+
+/// Not while a list is open.
+template <class Key, class Action>
+void OnKey(QWidget& window, const Key& key, Action action) {
+  new QShortcut(key, &window, [action] {
+    if (!QApplication::activePopupWidget()) action();
+  });
+}
+
+/// @param what would be done, empty for nothing
+QString StepTip(const char* verb, const std::string& what, const QList<QKeySequence>& keys) {
+  QString tip = QLatin1String(verb);
+  if (!what.empty()) tip += QStringLiteral(": ") + QString::fromStdString(what);
+  return tip + QStringLiteral(" (") + keys.front().toString(QKeySequence::NativeText) + u')';
+}
+
 }  // namespace
 
 SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
@@ -70,6 +90,10 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
 
   connect(view_, &qt::PrnPropView::failed, this, [this](const QString& why) { editor_.OnFailed(why.toStdString()); });
   connect(view_, &qt::PrnPropView::used, this, [this](const Widget& widget) { editor_.OnUsed(widget); });
+  for (QLineEdit* const field : view_->findChildren<QLineEdit*>()) field->installEventFilter(this);
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    if (view_->isAncestorOf(now)) lastFocus_ = now;
+  });
   editor_.Show();
   unfoldedWidth_ = view_->width() * 9 / 5;
   resize(sizeHint().expandedTo(QSize(unfoldedWidth_, 0)));
@@ -118,20 +142,32 @@ QWidget* SettingsWindow::MakeButtons() {
   connect(buttons, &QDialogButtonBox::accepted, this, [this] { Accept(); });
   connect(buttons, &QDialogButtonBox::rejected, this, [this] { close(); });
   connect(apply_, &QPushButton::clicked, this, [this] { editor_.Save(); });
-  const auto unlessPopup = [](auto action) {
-    return [action] {
-      if (!QApplication::activePopupWidget()) action();
-    };
-  };
-  new QShortcut(QKeySequence::Save, this, unlessPopup([this] { editor_.Save(); }));
-  new QShortcut(QKeySequence::Refresh, this, unlessPopup([this] { editor_.Read(); }));
+  OnKey(*this, QKeySequence::Save, [this] { editor_.Save(); });
+  OnKey(*this, QKeySequence::Refresh, [this] { editor_.Read(); });
+  undo_ = MakeStepButton("&Undo", kUndoKeys, &Editor::Undo);
+  redo_ = MakeStepButton("Re&do", kRedoKeys, &Editor::Redo);
+  revert_ = MakeStepButton("Re&vert", {}, &Editor::Revert);
+  revert_->setToolTip(QStringLiteral("Goes back to what was opened or saved last"));
 
   auto* const row = new QHBoxLayout(bar);
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(preview_);
+  for (QPushButton* const step : {undo_, redo_, revert_}) row->addWidget(step);
   row->addStretch();
   row->addWidget(buttons);
   return bar;
+}
+
+QPushButton* SettingsWindow::MakeStepButton(const char* caption, const QList<QKeySequence>& keys,
+                                            void (Editor::*step)()) {
+  auto* const button = new QPushButton(QLatin1String(caption), this);
+  button->setObjectName(button->text().remove(u'&').toLower());
+  button->setAutoDefault(true);
+  // A click leaves the focus where the step leads it.
+  button->setFocusPolicy(Qt::TabFocus);
+  connect(button, &QPushButton::clicked, this, [this, step] { (editor_.*step)(); });
+  for (const QKeySequence& key : keys) OnKey(*this, key, [this, step] { (editor_.*step)(); });
+  return button;
 }
 
 void SettingsWindow::Fold(bool unfold) {
@@ -154,6 +190,19 @@ void SettingsWindow::keyPressEvent(QKeyEvent* event) {
   QWidget::keyPressEvent(event);
 }
 
+/// A field's own steps give way to those of the editor.
+bool SettingsWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    const auto& key = static_cast<const QKeyEvent&>(*event);
+    const QKeySequence pressed(key.keyCombination());
+    if (kUndoKeys.contains(pressed) || kRedoKeys.contains(pressed)) {
+      event->ignore();
+      return true;
+    }
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
 void SettingsWindow::Accept() {
   if (editor_.Accept()) close();
 }
@@ -165,7 +214,18 @@ void SettingsWindow::ShowMeaning(const Snapshot& file, const Snapshot& now) { pa
 void SettingsWindow::ShowState(const EditorState& state) {
   panel_->SetState(state.isStale, QString::fromStdString(state.note));
   setWindowModified(state.isModified);
-  apply_->setEnabled(state.canApply);
+  SetEnabled(*apply_, state.canApply);
+  SetEnabled(*undo_, state.canUndo);
+  SetEnabled(*redo_, state.canRedo);
+  SetEnabled(*revert_, state.canRevert);
+  undo_->setToolTip(StepTip("Undo", state.undo, kUndoKeys));
+  redo_->setToolTip(StepTip("Redo", state.redo, kRedoKeys));
+}
+
+void SettingsWindow::SetEnabled(QPushButton& button, bool enabled) {
+  QWidget* const before = lastFocus_ ? lastFocus_.data() : view_->findChild<QWidget*>(QStringLiteral("tstPrint"));
+  if (!enabled && focusWidget() == &button) before->setFocus();
+  button.setEnabled(enabled);
 }
 
 Choice SettingsWindow::Ask(const Question& question) {
@@ -190,7 +250,9 @@ std::optional<Text> SettingsWindow::EditLayout(const Text& name, const Text& lay
 }
 
 void SettingsWindow::Focus(const Widget& widget) {
-  view_->findChild<QWidget*>(ToQString(widget.Row().name.Spelled()))->setFocus();
+  lastFocus_ = view_->findChild<QWidget*>(ToQString(widget.Row().name.Spelled()));
+  // Whoever goes back by pressing the button with the keyboard is to go on with it.
+  if (focusWidget() != undo_ && focusWidget() != redo_) lastFocus_->setFocus();
 }
 
 }  // namespace ORXKMPrintProp::host

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <QKeySequence>
+#include <QList>
+#include <QPointer>
 #include <QWidget>
 
 #include "host/editor/Editor.h"
@@ -15,8 +18,8 @@ namespace ORXKMPrintProp::host {
 
 class MeaningPanel;
 
-/// The dialog with what a host adds to it: OK, Cancel and Apply, the editor of layouts, and a panel that shows what
-/// the settings mean.
+/// The dialog with what a host adds to it: OK, Cancel and Apply, Undo, Redo and Revert, the editor of layouts, and a
+/// panel that shows what the settings mean.
 class SettingsWindow : public QWidget, private EditorWindow {
  public:
   /// @param settings must outlive the window.
@@ -29,6 +32,7 @@ class SettingsWindow : public QWidget, private EditorWindow {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void ShowMeaning(const Snapshot& file, const Snapshot& now) override;
@@ -38,6 +42,9 @@ class SettingsWindow : public QWidget, private EditorWindow {
   void Focus(const Widget& widget) override;
 
   QWidget* MakeButtons();
+  QPushButton* MakeStepButton(const char* caption, const QList<QKeySequence>& keys, void (Editor::*step)());
+  /// A button that is disabled under the focus gives it back to the dialog.
+  void SetEnabled(QPushButton& button, bool enabled);
   void Fold(bool unfold);
   void BoundDialog();
   void Accept();
@@ -48,6 +55,10 @@ class SettingsWindow : public QWidget, private EditorWindow {
   QScrollArea* dialog_;  ///< the view in it
   QPushButton* preview_ = nullptr;
   QPushButton* apply_ = nullptr;
+  QPushButton* undo_ = nullptr;
+  QPushButton* redo_ = nullptr;
+  QPushButton* revert_ = nullptr;
+  QPointer<QWidget> lastFocus_;  ///< in the dialog
   int unfoldedWidth_ = 0;
   QSize room_{QWIDGETSIZE_MAX, QWIDGETSIZE_MAX};
 };
