@@ -6,6 +6,7 @@
 #include "control/SharedValues.h"
 #include "host/Differences.h"
 #include "host/Files.h"
+#include "host/Load.h"
 #include "host/Show.h"
 #include "host/Terminal.h"
 #include "host/Utf8.h"
@@ -56,7 +57,7 @@ TEST(PageSketchTest, DrawsWhatTheSettingsSay) {
   };
   for (const auto& [name, file] : rows) {
     ReleaseSharedValues();
-    const EditedSettings settings(ReadSettings(file), {.file = file}, nullptr, Platform::Plain());
+    const EditedSettings settings({.file = file}, Platform::Plain());
     EXPECT_EQ(TextOf(SketchOf(settings.Now())), ReadFile(folder + name + ".txt")) << name;
     std::ostringstream shown;
     Show(file, false, shown);

@@ -55,7 +55,7 @@ class EditWindowTest : public testing::Test {
   HWND Find(const char* name) const {
     for (const auto& widget : GetDialog().Controls()) {
       if (ToUtf8(widget->Row().name.Spelled()) == name) {
-        return win32::test::WindowOf(window->DialogWindow(), GetDialog(), *widget);
+        return win32::test::WindowsOf(window->DialogWindow(), GetDialog()).at(widget.get());
       }
     }
     throw std::runtime_error(name);
