@@ -99,6 +99,9 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
   resize(sizeHint().expandedTo(QSize(unfoldedWidth_, 0)));
 }
 
+/// The focus goes on while the window ends.
+SettingsWindow::~SettingsWindow() { qApp->disconnect(this); }
+
 void SettingsWindow::FitInto(const QSize& room) {
   const bool isTooWide = minimumSizeHint().width() > room.width();
   room_ = room;
@@ -144,9 +147,9 @@ QWidget* SettingsWindow::MakeButtons() {
   connect(apply_, &QPushButton::clicked, this, [this] { editor_.Save(); });
   OnKey(*this, QKeySequence::Save, [this] { editor_.Save(); });
   OnKey(*this, QKeySequence::Refresh, [this] { editor_.Read(); });
-  undo_ = MakeStepButton("&Undo", kUndoKeys, &Editor::Undo);
-  redo_ = MakeStepButton("Re&do", kRedoKeys, &Editor::Redo);
-  revert_ = MakeStepButton("Re&vert", {}, &Editor::Revert);
+  undo_ = MakeStepButton("Undo", u'\u21B6', kUndoKeys, &Editor::Undo);
+  redo_ = MakeStepButton("Redo", u'\u21B7', kRedoKeys, &Editor::Redo);
+  revert_ = MakeStepButton("Revert", u'\u27F2', {}, &Editor::Revert);
   revert_->setToolTip(QStringLiteral("Goes back to what was opened or saved last"));
 
   auto* const row = new QHBoxLayout(bar);
@@ -158,10 +161,13 @@ QWidget* SettingsWindow::MakeButtons() {
   return bar;
 }
 
-QPushButton* SettingsWindow::MakeStepButton(const char* caption, const QList<QKeySequence>& keys,
+QPushButton* SettingsWindow::MakeStepButton(const char* name, char16_t sign, const QList<QKeySequence>& keys,
                                             void (Editor::*step)()) {
-  auto* const button = new QPushButton(QLatin1String(caption), this);
-  button->setObjectName(button->text().remove(u'&').toLower());
+  auto* const button = new QPushButton(QString(QChar(sign)), this);
+  button->setAccessibleName(QLatin1String(name));
+  button->setObjectName(button->accessibleName().toLower());
+  // The window is to be as narrow as a small screen is.
+  button->setFixedWidth(button->sizeHint().height() * 5 / 4);
   button->setAutoDefault(true);
   // A click leaves the focus where the step leads it.
   button->setFocusPolicy(Qt::TabFocus);

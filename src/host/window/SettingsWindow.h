@@ -24,6 +24,7 @@ class SettingsWindow : public QWidget, private EditorWindow {
  public:
   /// @param settings must outlive the window.
   explicit SettingsWindow(EditedSettings& settings, QWidget* parent = nullptr);
+  ~SettingsWindow() override;
 
   /// Keeps the window within that, also when the panel unfolds. Where there is room for the dialog alone, the panel
   /// folds; where there is none for the whole dialog, it scrolls.
@@ -42,7 +43,7 @@ class SettingsWindow : public QWidget, private EditorWindow {
   void Focus(const Widget& widget) override;
 
   QWidget* MakeButtons();
-  QPushButton* MakeStepButton(const char* caption, const QList<QKeySequence>& keys, void (Editor::*step)());
+  QPushButton* MakeStepButton(const char* name, char16_t sign, const QList<QKeySequence>& keys, void (Editor::*step)());
   /// A button that is disabled under the focus gives it back to the dialog.
   void SetEnabled(QPushButton& button, bool enabled);
   void Fold(bool unfold);
