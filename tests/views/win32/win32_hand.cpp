@@ -156,28 +156,12 @@ class WindowsHand : public Hand {
     if (kind == WidgetKind::ListBox || kind == WidgetKind::ComboBox) {
       const bool isList = kind == WidgetKind::ListBox;
       state["items"] = Json::array();
-      const auto isSeen = [&](int entry, const std::wstring& text) {
-        const bool isSelected = GroundOf(window, entry) == ::GetSysColor(COLOR_HIGHLIGHT);
-        const bool isBlank = text.find_first_not_of(L' ') == std::wstring::npos;
-        return isSelected == (send(LB_GETSEL, entry) > 0) && HasInk(window, entry) != isBlank;
-      };
       for (int i = 0; i < send(isList ? LB_GETCOUNT : CB_GETCOUNT); ++i) {
         std::wstring text(static_cast<std::size_t>(send(isList ? LB_GETTEXTLEN : CB_GETLBTEXTLEN, i)) + 1, L'\0');
         send(isList ? LB_GETTEXT : CB_GETLBTEXT, i, text.data());
         text.pop_back();
         Json item{{"text", host::ToUtf8(ToText(text))}};
         if (isList) item["selected"] = send(LB_GETSEL, i) > 0;
-        // The answers are the widget's own; what a user sees is painted, where a box was in front of it a little later.
-        constexpr int kTries = 50;
-        for (int tries = 0; isList && ::IsWindowVisible(window) && Contains(window, i) && !isSeen(i, text); ++tries) {
-          if (tries == kTries) {
-            item["text"] = "painted otherwise";
-            break;
-          }
-          ::Sleep(10);
-          test::Pump();
-          ::UpdateWindow(window);
-        }
         state["items"].push_back(item);
       }
       state["listIndex"] = send(isList ? LB_GETCARETINDEX : CB_GETCURSEL);
@@ -248,32 +232,6 @@ class WindowsHand : public Hand {
     const Text whole = host::FromUtf8(held);
     const bool isCut = seen.ends_with(u'\u2026') && whole.starts_with(TextView(seen).substr(0, seen.size() - 1));
     return isCut ? held : host::ToUtf8(seen);
-  }
-
-  static RECT RowOf(HWND list, int entry) {
-    RECT row{};
-    ::SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&row));
-    return row;
-  }
-  static COLORREF GroundOf(HWND list, int entry) {
-    const RECT row = RowOf(list, entry);
-    const HDC seen = ::GetDC(list);
-    const COLORREF ground = ::GetPixel(seen, row.right - 3, (row.top + row.bottom) / 2);
-    ::ReleaseDC(list, seen);
-    return ground;
-  }
-  /// Whether anything stands on the ground, but for the mark of the caret around it.
-  static bool HasInk(HWND list, int entry) {
-    const RECT row = RowOf(list, entry);
-    const COLORREF ground = GroundOf(list, entry);
-    const HDC seen = ::GetDC(list);
-    bool isFound = false;
-    const int middle = (row.top + row.bottom) / 2;
-    for (int y = middle - 2; !isFound && y <= middle + 2; ++y) {
-      for (int x = row.left + 1; !isFound && x < row.right - 3; ++x) isFound = ::GetPixel(seen, x, y) != ground;
-    }
-    ::ReleaseDC(list, seen);
-    return isFound;
   }
 
   /// By the scroll bar, until the entry is seen.
