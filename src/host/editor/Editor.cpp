@@ -40,8 +40,8 @@ Editor::Editor(EditedSettings& settings, EditorWindow& window)
 Editor::~Editor() { settings_.Control().Disconnect(*this); }
 
 std::string Editor::Title(std::string_view modified) const {
-  return std::filesystem::path(settings_.Target()).filename().string() + std::string(modified) +
-         (settings_.IsReadOnly() ? " (read-only)" : "") + " - Print settings";
+  const Text name = std::filesystem::path(FromUtf8(settings_.Target())).filename().u16string();
+  return ToUtf8(name) + std::string(modified) + (settings_.IsReadOnly() ? " (read-only)" : "") + " - Print settings";
 }
 
 void Editor::Show() {

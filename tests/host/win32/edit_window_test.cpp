@@ -40,7 +40,7 @@ class EditWindowTest : public testing::Test {
     test_ = nullptr;
     EXPECT_TRUE(answers.empty()) << "a question was expected that did not come";
     window.reset();
-    std::filesystem::remove(file);
+    std::filesystem::remove(std::filesystem::path(FromUtf8(file)));
   }
 
   void Open(bool readOnly = false) {
@@ -111,7 +111,7 @@ class EditWindowTest : public testing::Test {
     return names;
   }
 
-  const std::string file = (std::filesystem::temp_directory_path() / "edited.json").string();
+  const std::string file = ToUtf8((std::filesystem::temp_directory_path() / u"edited-\u00fc.json").u16string());
   const std::string before = ReadFile(PRNPROP_EXAMPLES "/sales.json");
   const std::string sales = "Sales by region and customer, fiscal year 2025";
   std::unique_ptr<EditedSettings> settings;
@@ -158,6 +158,7 @@ TEST_F(EditWindowTest, WhatIsTypedIsSaved) {
     Open();
     TypeTitle();
     EXPECT_EQ(State() + Title(), "open modified apply" + sales) << row.how;
+    EXPECT_EQ(win32::TextOf(window->Window()), u"edited-\u00fc.json* - Print settings");
     row.save();
     EXPECT_EQ(State() + Title(), row.state + ("7" + sales)) << row.how;
   }
