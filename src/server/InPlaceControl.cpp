@@ -406,6 +406,7 @@ STDMETHODIMP InPlaceControl::SetObjectRects(LPCRECT position, LPCRECT clip) {
     ::SetWindowRgn(window_, region, TRUE);
     ::MoveWindow(window_, position->left, position->top, position->right - position->left,
                  position->bottom - position->top, TRUE);
+    if (view_) view_->FollowMonitor();
     return S_OK;
   });
 }

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "server/container.h"
+#include "views/win32/PrnPropView.h"
 #include "views/win32/windows_of.h"
 
 namespace ORXKMPrintProp::test {
@@ -19,6 +20,12 @@ namespace {
 
 using automation::ComRef;
 using win32::test::Pump;
+
+/// What is not as the layout has it in the control's window.
+std::string Misplaced(HWND window) {
+  const HWND view = ::GetWindow(window, GW_CHILD);
+  return win32::test::Misplaced(view, Dialog(), win32::PrnPropView::DpiOf(view));
+}
 
 MSG KeyOf(WPARAM key) { return {::GetFocus(), WM_KEYDOWN, key, 1, 0, {}}; }
 
@@ -37,6 +44,7 @@ TEST_F(InPlace, IsShownHiddenAndClosed) {
   EXPECT_EQ(seen.right, 100);
   ::GetClientRect(::GetWindow(Window(), GW_CHILD), &place);
   EXPECT_EQ(place.right, 645) << "the dialog has its own size";
+  EXPECT_EQ(Misplaced(Window()), "");
   EXPECT_EQ(Do(OLEIVERB_UIACTIVATE), S_OK);
   EXPECT_TRUE(::IsChild(Window(), ::GetFocus()));
   EXPECT_EQ(Do(OLEIVERB_HIDE), S_OK);
@@ -368,6 +376,7 @@ TEST_F(InPlace, IsShownByTheContainerOfTheSystem) {
   RECT place{};
   ::GetClientRect(window, &place);
   EXPECT_EQ(place.right, 200);
+  EXPECT_EQ(Misplaced(window), "");
   container = nullptr;
   ::DestroyWindow(holder);
   EXPECT_FALSE(::IsWindow(window));

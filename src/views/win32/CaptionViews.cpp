@@ -29,7 +29,7 @@ void ButtonView::Refresh() {
 
 void CheckBoxView::Refresh() {
   WidgetView::Refresh();
-  ShowCaption(Size().cx - ::GetSystemMetrics(SM_CXMENUCHECK) - kBoxBlank);
+  ShowCaption(Size().cx - surface_.MetricOf(SM_CXMENUCHECK) - kBoxBlank);
   const WPARAM shown = widget_.Value() != 0 ? BST_CHECKED : BST_UNCHECKED;
   if (static_cast<WPARAM>(Send(BM_GETCHECK)) != shown) Send(BM_SETCHECK, shown);
 }

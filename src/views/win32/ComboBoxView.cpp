@@ -15,10 +15,9 @@ constexpr WPARAM kShowPicked = static_cast<WPARAM>(-1);
 constexpr WPARAM kShowEntries = static_cast<WPARAM>(-2);
 constexpr int kOpenEntries = 10;  ///< that are seen of an open list at most
 
-/// What lies beside the text in the field, with the button.
-int FieldEdge() { return ::GetSystemMetrics(SM_CXVSCROLL) + 8; }
-
 }  // namespace
+
+int ComboBoxView::FieldEdge() const { return surface_.MetricOf(SM_CXVSCROLL) + 8; }
 
 void ComboBoxView::MoveTo(const views::Place& place) {
   SetFont();

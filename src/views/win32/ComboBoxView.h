@@ -30,6 +30,8 @@ class ComboBoxView : public ViewOf<ComboBox> {
   bool IsOpen() const { return Send(CB_GETDROPPEDSTATE) != 0; }
   std::optional<LRESULT> TakeKeyPress(const views::KeyPress& press);
   void ShowEntriesLater();
+  /// What lies beside the text in the field, with the button.
+  int FieldEdge() const;
   void ShowEntries();
   void ShowPicked();
 

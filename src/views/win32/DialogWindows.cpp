@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <system_error>
 
@@ -193,9 +194,6 @@ HWND DialogWindows::PanelOf(const LayoutRow& row) const {
 void DialogWindows::MakeToolTips() {
   toolTip_ = ::CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr, WS_POPUP | TTS_NOPREFIX | TTS_ALWAYSTIP, 0, 0,
                                0, 0, window_, nullptr, nullptr, nullptr);
-  // So wide that a line of any tooltip has its place, and that lines break where they say.
-  constexpr LPARAM kWidth = 600;
-  ::SendMessageW(toolTip_, TTM_SETMAXTIPWIDTH, 0, kWidth);
 }
 
 views::Place DialogWindows::PlaceOf(const LayoutRow& row) const {
@@ -211,6 +209,9 @@ views::Place DialogWindows::PlaceOf(const LayoutRow& row) const {
 }
 
 void DialogWindows::Arrange() {
+  // So wide that a line of any tooltip has its place, and that lines break where they say.
+  constexpr double kToolTipInches = 6.25;
+  ::SendMessageW(toolTip_, TTM_SETMAXTIPWIDTH, 0, std::lround(kToolTipInches * Resolution().x));
   const views::Place all = views::PlaceOf(kClientArea, Resolution());
   ::SetWindowPos(window_, nullptr, 0, 0, all.width, all.height, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
   const views::Place strip = PlaceOf(dialog_.TabStrip().Row());
@@ -228,6 +229,16 @@ void DialogWindows::Arrange() {
     place.top -= strip.top + inside.top;
     ViewFor(*widget).MoveTo(place);
   }
+}
+
+void DialogWindows::FollowMonitor() {
+  if (!IsOpen()) return;
+  const auto dpi = static_cast<double>(PrnPropView::DpiOf(window_));
+  if (Resolution().y == dpi) return;
+  Resolution({dpi, dpi});
+  Arrange();
+  toolTips_.clear();
+  for (const auto& [widget, view] : views_) view->Refresh();
 }
 
 void DialogWindows::SpeakNames(const Widget* changed) {
@@ -323,16 +334,9 @@ LRESULT DialogWindows::OnMessage(HWND window, UINT message, WPARAM wParam, LPARA
       }
       ::RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
       return 0;
-    case kResolutionChanged: {
-      if (window != window_) return 0;
-      const auto dpi = static_cast<double>(PrnPropView::DpiOf(window_));
-      Resolution({dpi, dpi});
-      for (const auto& [widget, view] : views_) view->Refresh();
-      Arrange();
-      toolTips_.clear();
-      for (const auto& [widget, view] : views_) view->Refresh();
+    case kResolutionChanged:
+      if (window == window_) FollowMonitor();
       return 0;
-    }
     default:
       return ::DefWindowProcW(window, message, wParam, lParam);
   }

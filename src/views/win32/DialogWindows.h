@@ -29,6 +29,7 @@ class DialogWindows final : public Surface, public std::enable_shared_from_this<
   bool TakeKey(const MSG& message);
   void TakeFocus(int step);
   void Focus(const Widget& widget) { ::SetFocus(ViewFor(widget).Window()); }
+  void FollowMonitor();
   bool HasFocus() const { return window_ && (::GetFocus() == window_ || ::IsChild(window_, ::GetFocus())); }
 
  private:

@@ -13,6 +13,7 @@ bool PrnPropView::TakeKey(const MSG& message) { return windows_->TakeKey(message
 void PrnPropView::TakeFocus(int step) { windows_->TakeFocus(step); }
 void PrnPropView::Focus(const Widget& widget) { windows_->Focus(widget); }
 bool PrnPropView::HasFocus() const { return windows_->HasFocus(); }
+void PrnPropView::FollowMonitor() { windows_->FollowMonitor(); }
 
 SIZE PrnPropView::NaturalSize(UINT dpi) {
   const views::Place place = views::PlaceOf(kClientArea, {static_cast<double>(dpi), static_cast<double>(dpi)});

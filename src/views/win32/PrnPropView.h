@@ -55,6 +55,10 @@ class PrnPropView {
   void Focus(const Widget& widget);
   bool HasFocus() const;
 
+  /// Takes on the resolution of the monitor that the window is on now. The system tells the window of a change itself,
+  /// but not in every kind of program.
+  void FollowMonitor();
+
  private:
   std::shared_ptr<DialogWindows> windows_;
 };

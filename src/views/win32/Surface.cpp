@@ -57,6 +57,11 @@ views::Measure Surface::MeasureOf(const Font& font) {
   return [this, &font](TextView text, int percent) { return Ruler(FontOf(font, percent)).WidthOf(text); };
 }
 
+int Surface::MetricOf(int metric) const {
+  return ::MulDiv(::GetSystemMetrics(metric), static_cast<int>(resolution_.y),
+                  static_cast<int>(PrnPropView::DpiOf(nullptr)));
+}
+
 int Surface::HeightOf(const Font& font) { return Ruler(FontOf(font)).Height(); }
 
 }  // namespace ORXKMPrintProp::win32

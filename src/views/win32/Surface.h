@@ -32,6 +32,8 @@ class Surface {
 
   const Reports& GetReports() const { return reports_; }
   const views::Resolution& Resolution() const { return resolution_; }
+  /// Of the system, at that resolution. @param metric SM_...
+  int MetricOf(int metric) const;
 
   /// The font in so many per cent of its size; lives as long as the windows.
   HFONT FontOf(const Font& font, int percent = 100);

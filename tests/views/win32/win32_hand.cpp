@@ -12,6 +12,7 @@
 #include "views/win32/PrnPropView.h"
 #include "views/win32/WindowsPlatform.h"
 #include "views/win32/WindowsText.h"
+#include "views/win32/painted_list.h"
 #include "views/win32/windows_of.h"
 
 namespace ORXKMPrintProp::win32::test {
@@ -156,13 +157,15 @@ class WindowsHand : public Hand {
     if (kind == WidgetKind::ListBox || kind == WidgetKind::ComboBox) {
       const bool isList = kind == WidgetKind::ListBox;
       state["items"] = Json::array();
-      for (int i = 0; i < send(isList ? LB_GETCOUNT : CB_GETCOUNT); ++i) {
-        std::wstring text(static_cast<std::size_t>(send(isList ? LB_GETTEXTLEN : CB_GETLBTEXTLEN, i)) + 1, L'\0');
-        send(isList ? LB_GETTEXT : CB_GETLBTEXT, i, text.data());
-        text.pop_back();
-        Json item{{"text", host::ToUtf8(ToText(text))}};
-        if (isList) item["selected"] = send(LB_GETSEL, i) > 0;
-        state["items"].push_back(item);
+      if (isList) {
+        for (const PaintedEntry& entry : EntriesOf(window)) {
+          state["items"].push_back({{"text", host::ToUtf8(ToText(entry.text))}, {"selected", entry.isSelected}});
+        }
+      }
+      for (int i = 0; !isList && i < send(CB_GETCOUNT); ++i) {
+        std::wstring text(static_cast<std::size_t>(send(CB_GETLBTEXTLEN, i)), L'\0');
+        send(CB_GETLBTEXT, i, text.data());
+        state["items"].push_back({{"text", host::ToUtf8(ToText(text))}});
       }
       state["listIndex"] = send(isList ? LB_GETCARETINDEX : CB_GETCURSEL);
     }
@@ -277,8 +280,8 @@ class WindowsHand : public Hand {
   static inline WindowsHand* gHand = nullptr;
 
   Dialog& dialog_;
-  HWND window_ = ::CreateWindowExW(0, L"STATIC", L"hand", WS_OVERLAPPEDWINDOW, 20, 20, 760, 460, nullptr, nullptr,
-                                   nullptr, nullptr);
+  HWND window_ = ::CreateWindowExW(0, L"STATIC", L"hand", WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, 20, 20, 760, 460,
+                                   nullptr, nullptr, nullptr, nullptr);
   HWND beside_ = ::CreateWindowExW(0, L"BUTTON", L"beside", WS_CHILD | WS_VISIBLE, 660, 10, 60, 20, window_, nullptr,
                                    nullptr, nullptr);
   std::unique_ptr<PrnPropView> view_;
