@@ -224,12 +224,15 @@ std::optional<LRESULT> ListBoxView::OnMouse(UINT message, WPARAM wParam, LPARAM 
   const int y = GET_Y_LPARAM(lParam);
   if (message == WM_MOUSEMOVE) {
     ShowToolTipAt(y);
+    // The system tells of moves to where the pointer is already, as when a window opens.
+    if (std::exchange(lastPoint_, lParam) == lParam) return 0;
     const bool isLeftHeld = (wParam & MK_LBUTTON) != 0;
     pointer_.Move(isLeftHeld, HeldIn(wParam) > (isLeftHeld ? 1 : 0), y);
     return 0;
   }
   for (const MouseMessage& row : kMouseMessages) {
     if (row.message != message) continue;
+    lastPoint_ = lParam;
     if (row.presses) {
       ::SetFocus(Window());
       ::SetCapture(Window());

@@ -52,6 +52,7 @@ class ListBoxView : public ViewOf<ListBox>, private views::ListGlass {
   int shownCount_ = 0;
   bool isCountBehind_ = false;
   bool isRunning_ = false;
+  LPARAM lastPoint_ = -1;  ///< where the mouse was last
   bool isReleasing_ = false;  ///< the mouse, by the list itself
   views::ListKeys keys_;
   views::ListPointer pointer_{widget_, *this};

@@ -2,10 +2,12 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <cstring>
 #include <utility>
+#include <vector>
 
 #include "host/Utf8.h"
 #include "views/hand.h"
@@ -23,14 +25,17 @@ using namespace ORXKMPrintProp::test;
 /// A key by the name that scenarios have for it; a letter by itself.
 struct NamedKey {
   const char* name;
-  WPARAM virtualKey;
+  WORD virtualKey;
 };
 constexpr NamedKey kModifiers[] = {{"Shift+", VK_SHIFT}, {"Ctrl+", VK_CONTROL}, {"Alt+", VK_MENU}, {"Num+", 0}};
 constexpr NamedKey kKeys[] = {
     {"Up", VK_UP},       {"Down", VK_DOWN},     {"Left", VK_LEFT},   {"Right", VK_RIGHT},    {"Home", VK_HOME},
     {"End", VK_END},     {"PgUp", VK_PRIOR},    {"PgDown", VK_NEXT}, {"Space", VK_SPACE},    {"Tab", VK_TAB},
-    {"Backtab", VK_TAB}, {"Return", VK_RETURN}, {"Del", VK_DELETE},  {"Backspace", VK_BACK},
+    {"Backtab", VK_TAB}, {"Return", VK_RETURN}, {"Del", VK_DELETE},  {"Backspace", VK_BACK}, {"F4", VK_F4},
 };
+
+/// Of the keys between letters and pad, and what the others do not care about.
+constexpr DWORD kExtended = KEYEVENTF_EXTENDEDKEY;
 
 class WindowsHand : public Hand {
  public:
@@ -55,26 +60,22 @@ class WindowsHand : public Hand {
   }
 
   void Use(Mouse mouse, const Widget& widget, int entry, Button button) override {
-    static constexpr WPARAM kFlags[] = {MK_LBUTTON, MK_RBUTTON, MK_MBUTTON};
-    static constexpr UINT kMessages[][3] = {{WM_LBUTTONDOWN, WM_LBUTTONDBLCLK, WM_LBUTTONUP},
-                                            {WM_RBUTTONDOWN, WM_RBUTTONDBLCLK, WM_RBUTTONUP},
-                                            {WM_MBUTTONDOWN, WM_MBUTTONDBLCLK, WM_MBUTTONUP}};
     const HWND list = WindowOf(widget);
+    if (!::IsWindowVisible(list)) return;
     ScrollTo(list, entry);
-    const auto which = static_cast<std::size_t>(button);
-    if (mouse != Mouse::Move) held_ = mouse == Mouse::Release ? held_ & ~kFlags[which] : held_ | kFlags[which];
-    const UINT message = mouse == Mouse::Move      ? WM_MOUSEMOVE
-                         : mouse == Mouse::Press   ? kMessages[which][0]
-                         : mouse == Mouse::Release ? kMessages[which][2]
-                                                   : kMessages[which][1];
-    if (::IsWindowEnabled(list)) ::SendMessageW(list, message, held_, PointOf(list, entry));
+    POINT at = PointOf(list, entry);
+    if (mouse == Mouse::Press) at.y = std::clamp(at.y, LONG{0}, InsideOf(list).bottom - 1);
+    // A move to the same entry is one, too.
+    if (mouse == Mouse::Move) at.x += isAside_ = !isAside_;
+    // The mouse can't get elsewhere without moving, which would drag.
+    if (held_ == 0 || mouse == Mouse::Move || mouse == Mouse::Release) PointAt(list, at);
+    if (mouse != Mouse::Move) Turn(button, mouse != Mouse::Release);
+    if (mouse != Mouse::Move) held_ += mouse == Mouse::Release ? -1 : 1;
     Pump();
   }
   void Click(const Widget& widget) override {
     const HWND window = WindowOf(widget);
-    RECT inside{};
-    ::GetClientRect(window, &inside);
-    ClickAt(window, {8, inside.bottom / 2});
+    ClickAt(window, {8, InsideOf(window).bottom / 2});
     Pump();
     read_ = {};
   }
@@ -95,38 +96,39 @@ class WindowsHand : public Hand {
     RECT place{};
     ScrollTo(parts.hwndList, entry);
     ::SendMessageW(parts.hwndList, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&place));
-    const POINT at{(place.left + place.right) / 2, (place.top + place.bottom) / 2};
-    ::SendMessageW(parts.hwndList, WM_MOUSEMOVE, 0, MAKELPARAM(at.x, at.y));
-    ClickAt(parts.hwndList, at);
+    ClickAt(parts.hwndList, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
     Pump();
   }
   void Key(const Widget& widget, const std::string& key) override {
-    const HWND window = WindowOf(widget);
-    if (!::IsWindowEnabled(window)) return;
-    std::array<BYTE, 256> state{};
+    if (!Reach(widget)) return;
+    std::vector<WORD> keys;
     std::string name = key;
+    bool isOnPad = false;
     for (bool found = true; std::exchange(found, false);) {
       for (const NamedKey& modifier : kModifiers) {
         if (!name.starts_with(modifier.name)) continue;
-        if (modifier.virtualKey) state[modifier.virtualKey] = 0x80;
+        if (modifier.virtualKey) keys.push_back(modifier.virtualKey);
+        isOnPad |= !modifier.virtualKey;
         name.erase(0, std::strlen(modifier.name));
         found = true;
       }
     }
-    const WPARAM virtualKey = VirtualKeyOf(name, state);
-    ::SetKeyboardState(state.data());
-    const bool isSystem = state[VK_MENU] != 0;
-    ::PostMessageW(window, isSystem ? WM_SYSKEYDOWN : WM_KEYDOWN, virtualKey, isSystem ? 0x20000001 : 1);
+    AddKeysOf(name, keys);
+    for (const WORD down : keys) Strike(down, isOnPad ? 0 : kExtended);
     Pump();
-    ::PostMessageW(window, isSystem ? WM_SYSKEYUP : WM_KEYUP, virtualKey, static_cast<LPARAM>(0xC0000001u));
+    for (auto up = keys.rbegin(); up != keys.rend(); ++up) Strike(*up, KEYEVENTF_KEYUP | (isOnPad ? 0 : kExtended));
     Pump();
-    state.fill(0);
-    ::SetKeyboardState(state.data());
   }
   void Type(const Widget& box, const std::string& text) override {
     Key(box, "End");
-    if (!::IsWindowEnabled(WindowOf(box))) return;
-    for (const char16_t character : host::FromUtf8(text)) ::SendMessageW(WindowOf(box), WM_CHAR, character, 1);
+    if (!Reach(box)) return;
+    for (const char16_t character : host::FromUtf8(text)) {
+      if (character == u'\b') {
+        Key(box, "Backspace");
+      } else {
+        for (const DWORD flags : {0, KEYEVENTF_KEYUP}) Strike(0, flags | KEYEVENTF_UNICODE, character);
+      }
+    }
     Pump();
   }
   void PutIntoClipboard(const std::string& text) override {
@@ -211,21 +213,48 @@ class WindowsHand : public Hand {
 
  private:
   HWND WindowOf(const Widget& widget) const { return windows_.at(&widget); }
-  static WPARAM VirtualKeyOf(const std::string& name, std::array<BYTE, 256>& state) {
+  /// A key goes to what has the focus. @return false where that can't be the widget.
+  bool Reach(const Widget& widget) const {
+    const HWND window = WindowOf(widget);
+    if (!::IsWindowEnabled(window) || !::IsWindowVisible(window)) return false;
+    if (::GetFocus() != window) ::SetFocus(window);
+    return true;
+  }
+  static void AddKeysOf(const std::string& name, std::vector<WORD>& keys) {
     for (const NamedKey& key : kKeys) {
       if (name != key.name) continue;
-      if (name == "Backtab") state[VK_SHIFT] = 0x80;
-      return key.virtualKey;
+      if (name == "Backtab") keys.push_back(VK_SHIFT);
+      return keys.push_back(key.virtualKey);
     }
-    if (name == "F4") return VK_F4;
     // Of a letter the key is meant, not what it types with Shift.
     const SHORT key = ::VkKeyScanW(static_cast<wchar_t>(std::tolower(name[0])));
-    if (key & 0x100) state[VK_SHIFT] = 0x80;
-    return static_cast<WPARAM>(key & 0xFF);
+    if (key & 0x100) keys.push_back(VK_SHIFT);
+    keys.push_back(static_cast<WORD>(key & 0xFF));
+  }
+  static void Strike(WORD virtualKey, DWORD flags, WORD character = 0) {
+    INPUT input{};
+    input.type = INPUT_KEYBOARD;
+    input.ki.wVk = virtualKey;
+    input.ki.wScan = character;
+    input.ki.dwFlags = flags;
+    ::SendInput(1, &input, sizeof input);
+  }
+  static void PointAt(HWND window, POINT at) {
+    ::ClientToScreen(window, &at);
+    ::SetCursorPos(at.x, at.y);
+  }
+  static void Turn(Button button, bool down) {
+    static constexpr DWORD kFlags[][2] = {{MOUSEEVENTF_LEFTUP, MOUSEEVENTF_LEFTDOWN},
+                                          {MOUSEEVENTF_RIGHTUP, MOUSEEVENTF_RIGHTDOWN},
+                                          {MOUSEEVENTF_MIDDLEUP, MOUSEEVENTF_MIDDLEDOWN}};
+    INPUT input{};
+    input.type = INPUT_MOUSE;
+    input.mi.dwFlags = kFlags[static_cast<std::size_t>(button)][down];
+    ::SendInput(1, &input, sizeof input);
   }
   static bool Contains(HWND list, int entry) {
-    RECT inside{}, place{};
-    ::GetClientRect(list, &inside);
+    const RECT inside = InsideOf(list);
+    RECT place{};
     ::SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&place));
     return ::PtInRect(&inside, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
   }
@@ -246,18 +275,22 @@ class WindowsHand : public Hand {
       ::SendMessageW(list, WM_VSCROLL, isAbove ? SB_LINEUP : SB_LINEDOWN, 0);
     }
   }
-  static LPARAM PointOf(HWND list, int entry) {
-    RECT inside{}, place{};
-    ::GetClientRect(list, &inside);
+  static RECT InsideOf(HWND window) {
+    RECT inside{};
+    ::GetClientRect(window, &inside);
+    return inside;
+  }
+  static POINT PointOf(HWND list, int entry) {
+    RECT place{};
     const bool isThere = entry >= 0 && entry < ::SendMessageW(list, LB_GETCOUNT, 0, 0);
     ::SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&place));
-    const int y = isThere ? (place.top + place.bottom) / 2 : entry < 0 ? -30 : inside.bottom + 30;
-    return MAKELPARAM(20, y);
+    return {20, isThere ? (place.top + place.bottom) / 2 : entry < 0 ? -30 : InsideOf(list).bottom + 30};
   }
-  static void ClickAt(HWND window, POINT at) {
-    if (!::IsWindowEnabled(window)) return;
-    ::SendMessageW(window, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(at.x, at.y));
-    ::SendMessageW(window, WM_LBUTTONUP, 0, MAKELPARAM(at.x, at.y));
+  void ClickAt(HWND window, POINT at) {
+    if (!::IsWindowVisible(window)) return;
+    PointAt(window, at);
+    Pump();
+    for (const bool down : {true, false}) Turn(Button::Left, down);
   }
   void Pump() {
     if (read_) ::SetTimer(window_, 1, 20, nullptr);
@@ -286,7 +319,8 @@ class WindowsHand : public Hand {
                                    nullptr, nullptr);
   std::unique_ptr<PrnPropView> view_;
   const std::unordered_map<const Widget*, HWND> windows_ = WindowsOf(view_->Window(), dialog_);
-  WPARAM held_ = 0;
+  int held_ = 0;  ///< buttons
+  bool isAside_ = false;
   Read read_;
 };
 
