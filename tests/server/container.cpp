@@ -6,6 +6,7 @@
 
 #include "automation/Variants.h"
 #include "dialog/Dialog.h"
+#include "views/win32/input.h"
 #include "views/win32/windows_of.h"
 
 namespace ORXKMPrintProp::test {
@@ -82,11 +83,16 @@ HWND InPlace::WindowIn(HWND window, TextView widget) {
 void InPlace::Use(HWND window, int entry) {
   std::array<wchar_t, 32> kind{};
   ::GetClassNameW(window, kind.data(), static_cast<int>(kind.size()));
-  const bool isTabs = ::lstrcmpiW(kind.data(), WC_TABCONTROLW) == 0;
-  const bool isList = ::lstrcmpiW(kind.data(), WC_LISTBOXW) == 0;
-  if (isTabs) ::SendMessageW(window, TCM_SETCURFOCUS, static_cast<WPARAM>(entry), 0);
-  if (isList) ::SendMessageW(window, LB_SETSEL, TRUE, entry);
-  if (!isTabs && !isList) ::SendMessageW(window, BM_CLICK, 0, 0);
+  RECT place{};
+  ::GetClientRect(window, &place);
+  if (::lstrcmpiW(kind.data(), WC_TABCONTROLW) == 0) {
+    const LONG share = place.right / SSTab::kTabs;
+    place = {share * entry, 0, share * (entry + 1), 20};
+  }
+  if (::lstrcmpiW(kind.data(), WC_LISTBOXW) == 0) {
+    ::SendMessageW(window, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&place));
+  }
+  win32::test::ClickAt(window, {(place.left + place.right) / 2, (place.top + place.bottom) / 2});
   win32::test::Pump();
 }
 

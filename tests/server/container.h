@@ -86,7 +86,7 @@ class Site final
                                 OLEINPLACEFRAMEINFO*) override {
     *frame = hasFrame ? new Around("frame", notes_) : nullptr;
     *document = hasFrame ? new Around("document", notes_) : nullptr;
-    *position = *clip = {10, 10, 310, 210};
+    *position = *clip = {10, 10, 660, 410};
     return S_OK;
   }
   STDMETHODIMP Scroll(SIZE) override { return S_OK; }

@@ -34,7 +34,7 @@ TEST_F(InPlace, IsShownHiddenAndClosed) {
   ASSERT_NE(Window(), nullptr);
   RECT place{};
   ::GetClientRect(Window(), &place);
-  EXPECT_EQ(place.right, 300);
+  EXPECT_EQ(place.right, 650);
   const RECT moved{0, 0, 900, 700}, clip{0, 0, 100, 700};
   control.As<IOleInPlaceObject>()->SetObjectRects(&moved, &clip);
   ::GetClientRect(Window(), &place);
@@ -448,6 +448,7 @@ TEST_F(InPlace, LeavesNothingBehindHoweverOftenItIsMadeAndLoaded) {
 
 TEST_F(InPlace, IsShownByTheExample) {
   ASSERT_EQ(component.Register(), S_OK);
+  ::ShowWindow(frame, SW_HIDE);
   SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
   STARTUPINFOW start{};
   start.cb = sizeof start;
@@ -476,6 +477,8 @@ TEST_F(InPlace, IsShownByTheExample) {
   ASSERT_TRUE(await([&] { return ::IsWindowVisible(list); }));
   Use(list, 0);
   Use(WindowIn(window, u"cmdLeftToRight(1)"));
+  // Input comes behind what is posted.
+  ASSERT_TRUE(await([&] { return ::SendMessageW(list, LB_GETCOUNT, 0, 0) == 0; }));
   ::PostMessageW(window, WM_CLOSE, 0, 0);
 
   std::string printed;

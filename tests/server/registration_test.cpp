@@ -62,9 +62,9 @@ TEST(Registration, MakesTheClassesKnownAndLeavesNothingBehind) {
   EXPECT_TRUE(id == __uuidof(::ORXQueryPrnProp));
   for (const CLSID& known : {__uuidof(::ORXQueryPrnProp), __uuidof(::PrnEnums)}) {
     ComRef<IDispatch> made;
-    EXPECT_EQ(::CoCreateInstance(known, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch,
-                                 reinterpret_cast<void**>(made.Out())),
-              S_OK);
+    EXPECT_EQ(
+        ::CoCreateInstance(known, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, reinterpret_cast<void**>(made.Out())),
+        S_OK);
   }
   for (const wchar_t* key : {L"Control", L"ToolboxBitmap32", L"MiscStatus\\1",
                              L"Implemented Categories\\{40FC6ED4-2438-11CF-A3DB-080036F12502}"}) {
@@ -94,7 +94,8 @@ TEST(Registration, MakesTheClassesKnownAndLeavesNothingBehind) {
 class MachineIsRefused {
  public:
   MachineIsRefused() {
-    ::RegCreateKeyExW(HKEY_CURRENT_USER, kKey, 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr, &hive_, nullptr);
+    ::RegCreateKeyExW(HKEY_CURRENT_USER, kKey, 0, nullptr, REG_OPTION_VOLATILE, KEY_ALL_ACCESS, nullptr, &hive_,
+                      nullptr);
     ::RegOverridePredefKey(HKEY_LOCAL_MACHINE, hive_);
   }
   ~MachineIsRefused() {

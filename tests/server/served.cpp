@@ -18,7 +18,7 @@ Component::~Component() {
 ComRef<IClassFactory> Component::Factory(const CLSID& id) const {
   ComRef<IClassFactory> factory;
   Entry<HRESULT WINAPI(const CLSID&, const IID&, void**)>("DllGetClassObject")(id, IID_IClassFactory,
-                                                                        reinterpret_cast<void**>(factory.Out()));
+                                                                               reinterpret_cast<void**>(factory.Out()));
   return factory;
 }
 

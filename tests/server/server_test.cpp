@@ -69,7 +69,8 @@ TEST(Server, TellsFailuresByNumberSourceAndWords) {
       {"IOBJNM='A' POSIT='x'", "TITLE=''",
        "0x800A000D ORXKMPrintProp.ORXQueryPrnProp: it_dim, row 1, column POSIT: The text \"x\" is not a number."},
       {"", "MARGIN_TOP=70000",
-       "0x800A0006 ORXKMPrintProp.ORXQueryPrnProp: GenPropTable, row 1, column MARGIN_TOP: The number 70000 does not fit "
+       "0x800A0006 ORXKMPrintProp.ORXQueryPrnProp: GenPropTable, row 1, column MARGIN_TOP: The number 70000 does not "
+       "fit "
        "into 16 bits."},
   };
   for (const auto& row : rows) {
@@ -110,7 +111,8 @@ std::string CallLate(IDispatch* object, const wchar_t* name, std::vector<std::in
   DISPPARAMS parameters{values.data(), nullptr, static_cast<UINT>(values.size()), 0};
   OwnedVariant result;
   EXCEPINFO exception{};
-  const HRESULT called = object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, &result, &exception, nullptr);
+  const HRESULT called =
+      object->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, &result, &exception, nullptr);
   if (called == DISP_E_EXCEPTION) {
     return std::to_string(exception.scode & 0xFFFF) + " " + ToAscii(automation::ViewOf(exception.bstrDescription));
   }
@@ -203,7 +205,8 @@ TEST(Server, LetsGoOfTheHostsObjectsWithItsLastObject) {
 std::string Work(const Component& component, const std::string& name) {
   std::string found;
   for (int i = 0; i < 20; ++i) {
-    const HostTables tables(Settings("IOBJNM='" + name + "' AXIS='Y'\nIOBJNM='B'", "IOBJNM='" + name + "' ATTRINM='1'"));
+    const HostTables tables(
+        Settings("IOBJNM='" + name + "' AXIS='Y'\nIOBJNM='B'", "IOBJNM='" + name + "' ATTRINM='1'"));
     const auto control = component.NewControl();
     tables.LoadInto(control.Get());
     control->ORXSetReadOnly(VARIANT_TRUE);

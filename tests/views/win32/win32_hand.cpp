@@ -14,6 +14,7 @@
 #include "views/win32/PrnPropView.h"
 #include "views/win32/WindowsPlatform.h"
 #include "views/win32/WindowsText.h"
+#include "views/win32/input.h"
 #include "views/win32/painted_list.h"
 #include "views/win32/windows_of.h"
 
@@ -33,6 +34,8 @@ constexpr NamedKey kKeys[] = {
     {"End", VK_END},     {"PgUp", VK_PRIOR},    {"PgDown", VK_NEXT}, {"Space", VK_SPACE},    {"Tab", VK_TAB},
     {"Backtab", VK_TAB}, {"Return", VK_RETURN}, {"Del", VK_DELETE},  {"Backspace", VK_BACK}, {"F4", VK_F4},
 };
+
+constexpr MouseButton kButtons[] = {kLeftButton, kRightButton, kMiddleButton};
 
 /// Of the keys between letters and pad, and what the others do not care about.
 constexpr DWORD kExtended = KEYEVENTF_EXTENDEDKEY;
@@ -69,7 +72,7 @@ class WindowsHand : public Hand {
     if (mouse == Mouse::Move) at.x += isAside_ = !isAside_;
     // The mouse can't get elsewhere without moving, which would drag.
     if (held_ == 0 || mouse == Mouse::Move || mouse == Mouse::Release) PointAt(list, at);
-    if (mouse != Mouse::Move) Turn(button, mouse != Mouse::Release);
+    if (mouse != Mouse::Move) Press(kButtons[static_cast<std::size_t>(button)], mouse != Mouse::Release);
     if (mouse != Mouse::Move) held_ += mouse == Mouse::Release ? -1 : 1;
     Pump();
   }
@@ -231,27 +234,6 @@ class WindowsHand : public Hand {
     if (key & 0x100) keys.push_back(VK_SHIFT);
     keys.push_back(static_cast<WORD>(key & 0xFF));
   }
-  static void Strike(WORD virtualKey, DWORD flags, WORD character = 0) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = virtualKey;
-    input.ki.wScan = character;
-    input.ki.dwFlags = flags;
-    ::SendInput(1, &input, sizeof input);
-  }
-  static void PointAt(HWND window, POINT at) {
-    ::ClientToScreen(window, &at);
-    ::SetCursorPos(at.x, at.y);
-  }
-  static void Turn(Button button, bool down) {
-    static constexpr DWORD kFlags[][2] = {{MOUSEEVENTF_LEFTUP, MOUSEEVENTF_LEFTDOWN},
-                                          {MOUSEEVENTF_RIGHTUP, MOUSEEVENTF_RIGHTDOWN},
-                                          {MOUSEEVENTF_MIDDLEUP, MOUSEEVENTF_MIDDLEDOWN}};
-    INPUT input{};
-    input.type = INPUT_MOUSE;
-    input.mi.dwFlags = kFlags[static_cast<std::size_t>(button)][down];
-    ::SendInput(1, &input, sizeof input);
-  }
   static bool Contains(HWND list, int entry) {
     const RECT inside = InsideOf(list);
     RECT place{};
@@ -285,12 +267,6 @@ class WindowsHand : public Hand {
     const bool isThere = entry >= 0 && entry < ::SendMessageW(list, LB_GETCOUNT, 0, 0);
     ::SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(entry), reinterpret_cast<LPARAM>(&place));
     return {20, isThere ? (place.top + place.bottom) / 2 : entry < 0 ? -30 : InsideOf(list).bottom + 30};
-  }
-  void ClickAt(HWND window, POINT at) {
-    if (!::IsWindowVisible(window)) return;
-    PointAt(window, at);
-    Pump();
-    for (const bool down : {true, false}) Turn(Button::Left, down);
   }
   void Pump() {
     if (read_) ::SetTimer(window_, 1, 20, nullptr);
