@@ -106,6 +106,9 @@ std::unique_ptr<win32::PrnPropView> InPlaceControl::MakeView(HWND parent) {
     TellFocus(has && hasUI_);
   };
   reports.left = [this](int step) { LeaveBy(step); };
+  reports.message = [frame = frame_](bool isOpen) {
+    if (frame) frame->EnableModeless(!isOpen);
+  };
   reports.hold = [this] { return std::make_shared<ComRef<IUnknown>>(Identity()); };
   auto view = std::make_unique<win32::PrnPropView>(GetDialog(), parent, std::move(reports));
   ::ShowWindow(view->Window(), SW_SHOWNA);

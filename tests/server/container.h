@@ -56,7 +56,7 @@ class Around final : public automation::ComObject<IOleInPlaceFrame> {
   STDMETHODIMP SetMenu(HMENU, HOLEMENU, HWND) override { return E_NOTIMPL; }
   STDMETHODIMP RemoveMenus(HMENU) override { return E_NOTIMPL; }
   STDMETHODIMP SetStatusText(LPCOLESTR) override { return E_NOTIMPL; }
-  STDMETHODIMP EnableModeless(BOOL) override { return S_OK; }
+  STDMETHODIMP EnableModeless(BOOL enabled) override { return notes_.Add(enabled ? "+modeless" : "-modeless"); }
   STDMETHODIMP TranslateAccelerator(LPMSG, WORD) override { return S_FALSE; }
 
  private:

@@ -254,6 +254,30 @@ TEST_F(InPlace, MayEndInsideItsEventsAndWhileItsMessageIsOpen) {
   }
 }
 
+TEST_F(InPlace, TellsTheWindowsAroundItOfItsMessage) {
+  site->hasFrame = true;
+  std::string rows;
+  for (const char name : std::string("ABCDEFGHIJK")) {
+    rows += std::string("IOBJNM='") + name + (name < 'K' ? "' AXIS='Y'\n" : "'\n");
+  }
+  Load(HostTables(Settings(rows)));
+  ASSERT_EQ(Do(OLEIVERB_UIACTIVATE), S_OK);
+  Use(u"tstPrint", 1);
+  Use(u"lstAvail(1)", 0);
+  notes.told.clear();
+  notes.act = [](const std::string& what) {
+    if (what != "-modeless") return;
+    ::SetTimer(nullptr, 0, 20, [](HWND, UINT, UINT_PTR timer, DWORD) {
+      const HWND box = ::FindWindowW(L"#32770", L"Error");
+      if (!box) return;
+      ::KillTimer(nullptr, timer);
+      ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+    });
+  };
+  Use(u"cmdLeftToRight(1)");
+  EXPECT_EQ(notes.told, "-modeless no-focus +modeless ");
+}
+
 TEST_F(InPlace, TellsWhoLooksWhenItIsToBeDrawnAnew) {
   const auto view = control.As<IViewObject2>();
   EXPECT_EQ(view->SetAdvise(DVASPECT_ICON, 0, site.Get()), DV_E_DVASPECT);

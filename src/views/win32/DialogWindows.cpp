@@ -481,10 +481,13 @@ void DialogWindows::MousePointerChanged(std::int16_t pointer) {
 void DialogWindows::MsgBox(const Text& text, const Text& title) {
   const Held held = Hold();
   const Styled styled;
-  {
+  const auto tell = GetReports().message;
+  if (tell) tell(true);
+  if (IsOpen()) {
     const NextBox next(message_);
     ::MessageBoxW(::GetAncestor(window_, GA_ROOT), ToWide(text).c_str(), ToWide(title).c_str(), MB_OK);
   }
+  if (tell) tell(false);
   // The windows have ended with that box; so does the one below it.
   if (!IsOpen() && message_) ::EndDialog(message_, IDOK);
 }

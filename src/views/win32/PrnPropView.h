@@ -19,6 +19,8 @@ struct Reports {
   std::function<void(bool has)> focused = {};
   /// The Tab key leads out of the dialog: 1 behind its end, -1 ahead of its beginning.
   std::function<void(int step)> left = {};
+  /// A message box opens, or has been closed.
+  std::function<void(bool isOpen)> message = {};
   /// Gives what must not end while what the user does is carried out.
   std::function<std::shared_ptr<void>()> hold = {};
 };
