@@ -191,6 +191,13 @@ TEST_F(ViewScenario, ACaretBeginsAtWhatIsSelected) {
   EXPECT_EQ(stage.Play("focus cmdRightToLeft(1); key cmdRightToLeft(1) Tab"), "  lists 1: [] [a:1 >*b:2 c:3]\n");
 }
 
+TEST_F(ViewScenario, OneEntryIsShownAnewWhereNothingElseChanges) {
+  Load("a b c");
+  list.Selected(1, true);
+  list.List(2, u"other");
+  EXPECT_EQ(stage.Play("move lstPrint(1) 0"), "  lists 1: [] [*a:1 *b:2 other:3]\n");
+}
+
 TEST_F(ViewScenario, AHandlerMayEmptyTheListThatIsBeingSelected) {
   Load("a b c d");
   list.Click = [&] {
