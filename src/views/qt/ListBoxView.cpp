@@ -180,7 +180,11 @@ void ListBoxView::hideEvent(QHideEvent* event) {
 }
 
 void ListBoxView::paintEvent(QPaintEvent* event) {
-  entries_->CatchUp();
+  if (!entries_->IsCaughtUp()) {
+    entries_->CatchUp();
+    // Else the entries have their places behind this painting only.
+    executeDelayedItemsLayout();
+  }
   QListView::paintEvent(event);
   if (!hasFocus()) return;
   // There may be no caret to show it.

@@ -12,6 +12,7 @@
 #include "views/TabOrder.h"
 #include "views/qt/CaptionViews.h"
 #include "views/qt/ComboBoxView.h"
+#include "views/qt/DisabledColors.h"
 #include "views/qt/ListBoxView.h"
 #include "views/qt/QtText.h"
 #include "views/qt/TabStripView.h"
@@ -74,6 +75,7 @@ PrnPropView::PrnPropView(Dialog& dialog, QWidget* parent)
   setLayoutDirection(Qt::LeftToRight);
   // What the widgets inherit they need not be given one by one.
   setFont(ToQFont(dialog_.TabStrip().GetFont()));
+  MakeReadable();
   MakeWidgets();
   SetTabOrder();
   GiveNames();
@@ -145,9 +147,15 @@ QWidget& PrnPropView::ParentOf(const LayoutRow& row) {
   return parent.Row().kind == WidgetKind::SSTab ? tabs_->Page(row.page) : ViewFor(parent).Glass();
 }
 
+void PrnPropView::MakeReadable() {
+  const QPalette readable = WithReadableDisabled(palette());
+  if (readable != palette()) setPalette(readable);
+}
+
 /// Another style may leave another room for the captions.
 void PrnPropView::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) MakeReadable();
   if (event->type() != QEvent::StyleChange || names_.empty()) return;
   wasOnTop_ = {};
   Changed(dialog_.TabStrip(), WidgetProperty::Tab);

@@ -53,6 +53,8 @@ class PrnPropView : public QWidget, private View {
   void MousePointerChanged(std::int16_t pointer) override;
   void MsgBox(const Text& text, const Text& title) override;
 
+  /// Colours are those of the desktop, but for what is disabled.
+  void MakeReadable();
   void MakeWidgets();
   void SetTabOrder();
   void GiveNames();
