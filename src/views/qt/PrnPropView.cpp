@@ -69,7 +69,9 @@ PrnPropView::PrnPropView(Dialog& dialog, QWidget* parent)
     : QWidget(parent),
       dialog_(dialog),
       reports_{[this](const QString& message) { emit failed(message); },
-               [this](const Widget& widget) { emit used(widget); }} {
+               [this](const Widget& widget) { emit used(widget); },
+               [this](const Widget& widget) { return letters_.Of(widget); }},
+      letters_(dialog, [this](const Widget& widget) { return ViewFor(widget).NeededLetters(); }) {
   setFixedSize(PlaceOf(kClientArea).size());
   // The layout is not mirrored, so its arrows are not either.
   setLayoutDirection(Qt::LeftToRight);
@@ -158,6 +160,7 @@ void PrnPropView::changeEvent(QEvent* event) {
   if (event->type() == QEvent::PaletteChange) MakeReadable();
   if (event->type() != QEvent::StyleChange || names_.empty()) return;
   wasOnTop_ = {};
+  letters_.ChangeAll();
   Changed(dialog_.TabStrip(), WidgetProperty::Tab);
 }
 
@@ -174,7 +177,12 @@ void PrnPropView::BringUp(std::int16_t page) {
 void PrnPropView::Changed(Widget& widget, WidgetProperty what) {
   SSTab& tabStrip = dialog_.TabStrip();
   if (&widget == &tabStrip) BringUp(tabStrip.Tab());
+  const bool isFittedAnew = what == WidgetProperty::Caption || what == WidgetProperty::Font;
+  const bool areLettersOthers = isFittedAnew && letters_.Change(widget);
   ViewFor(widget).Show(what);
+  for (const auto& other : dialog_.Controls()) {
+    if (areLettersOthers && views::CaptionLetters::StandTogether(*other, widget)) ViewFor(*other).Refresh();
+  }
   if (what != WidgetProperty::Caption && what != WidgetProperty::ToolTipText) return;
   for (const auto& [named, name] : names_) {
     if (name.DependsOn(widget)) ViewFor(*named).Glass().setAccessibleName(ToQString(name.Spoken()));

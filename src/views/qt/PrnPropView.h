@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "dialog/Dialog.h"
+#include "views/Fitting.h"
 #include "views/SpokenName.h"
 #include "views/qt/WidgetView.h"
 
@@ -68,6 +69,7 @@ class PrnPropView : public QWidget, private View {
   Reports reports_;
   std::unordered_map<const Widget*, WidgetView*> views_;
   std::vector<std::pair<const Widget*, views::SpokenName>> names_;
+  views::CaptionLetters letters_;
   TabStripView* tabs_ = nullptr;
   std::array<bool, SSTab::kTabs> wasOnTop_ = {};
 };

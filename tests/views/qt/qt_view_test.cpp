@@ -237,7 +237,13 @@ TEST_F(QtViewTest, EveryCaptionIsReadableInFull) {
     if (texts) control.ORXControlTexts(texts);
     for (const auto& widget : dialog.Controls()) {
       if (widget->Caption().empty()) continue;
-      EXPECT_EQ(CaptionOf(Glass(view, ToAscii(widget->Row().name.Spelled()))), ToQString(widget->Caption()));
+      const QWidget& glass = Glass(view, ToAscii(widget->Row().name.Spelled()));
+      EXPECT_EQ(CaptionOf(glass), ToQString(widget->Caption()));
+      for (const auto& other : dialog.Controls()) {
+        if (other->Caption().empty() || !views::CaptionLetters::StandTogether(*widget, *other)) continue;
+        EXPECT_EQ(glass.font(), Glass(view, ToAscii(other->Row().name.Spelled())).font())
+            << glass.objectName().toStdString();
+      }
     }
     for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) {
       EXPECT_EQ(Unmarked(tabs.tabText(tab)), ToQString(dialog.TabStrip().TabCaption(tab)));
