@@ -17,6 +17,7 @@
 
 #include "host/window/LayoutEditor.h"
 #include "host/window/MeaningPanel.h"
+#include "host/window/SpokenWindow.h"
 #include "views/qt/PrnPropView.h"
 #include "views/qt/QtText.h"
 
@@ -75,6 +76,7 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
       view_(new qt::PrnPropView(settings.Control().GetDialog(), this)),
       panel_(new MeaningPanel([this] { return editor_.Read(); }, this)),
       dialog_(new QScrollArea(this)) {
+  SpeakAsWindow(*this);
   setWindowTitle(QString::fromStdString(editor_.Title("[*]")));
   setWindowFilePath(QString::fromStdString(settings.Target()));
   auto* const across = new QHBoxLayout;

@@ -33,7 +33,7 @@ class EntryDelegate : public QStyledItemDelegate {
     const auto entry = static_cast<std::int16_t>(index.row());
     if (entry != list_.ListIndex() || !option.widget->hasFocus()) return;
     painter->setPen(option.palette.color(list_.Selected(entry) ? QPalette::HighlightedText : QPalette::Text));
-    painter->drawRect(option.rect.adjusted(1, 0, -2, -1));
+    painter->drawRect(option.rect.adjusted(1, 1, -2, -1));
   }
 
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
@@ -100,6 +100,10 @@ ListBoxView::ListBoxView(ListBox& list, const Reports& reports, QWidget* parent)
 
 void ListBoxView::Refresh() {
   WidgetView::Refresh();
+  // Qt tells of no tooltip of a list.
+  QString description = ToQString(widget_.ToolTipText());
+  if (!description.isEmpty()) description += QStringLiteral(". ");
+  setAccessibleDescription(description + QString::fromStdString(views::KeysSpoken(widget_)));
   entries_->CatchUp();
 }
 

@@ -3,6 +3,7 @@
 #include <QCursor>
 #include <QEvent>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPixmap>
@@ -124,17 +125,30 @@ bool PrnPropView::focusNextPrevChild(bool next) {
   return true;
 }
 
+/// Programs that take the value of a combo box for its name call it by its labels. A label belongs to one widget, so
+/// what several of them are for has one of its own, which is not seen.
 void PrnPropView::GiveNames() {
   for (const auto& widget : dialog_.Controls()) {
     if (widget->Row().kind == WidgetKind::SSTab) continue;
-    const views::SpokenName name(dialog_, *widget);
-    QWidget& glass = ViewFor(*widget).Glass();
-    glass.setAccessibleName(ToQString(name.Spoken()));
-    for (const Label* const label : name.Labels()) {
-      auto& shown = dynamic_cast<QLabel&>(ViewFor(*label).Glass());
-      if (!shown.buddy() && &shown != &glass) shown.setBuddy(&glass);
+    Named named{ViewFor(*widget).Glass(), views::SpokenName(dialog_, *widget), nullptr};
+    const auto labels = named.name.Labels();
+    QWidget* label = labels.size() == 1 ? &ViewFor(*labels.front()).Glass() : nullptr;
+    if (labels.size() > 1) {
+      label = named.label = new QLabel(named.glass.parentWidget());
+      label->hide();
     }
-    names_.emplace_back(widget.get(), name);
+    if (label && label != &named.glass) static_cast<QLabel*>(label)->setBuddy(&named.glass);
+    names_.push_back(std::move(named));
+  }
+  SpeakNames(nullptr);
+}
+
+void PrnPropView::SpeakNames(const Widget* changed) {
+  for (const Named& named : names_) {
+    if (changed && !named.name.DependsOn(*changed)) continue;
+    const QString name = ToQString(named.name.Spoken());
+    named.glass.setAccessibleName(name);
+    if (named.label) named.label->setText(WithoutShortcut(name));
   }
 }
 
@@ -166,6 +180,12 @@ void PrnPropView::changeEvent(QEvent* event) {
 
 void PrnPropView::keyPressEvent(QKeyEvent* event) { tabs_->PickByKey(*event, false); }
 
+/// Styles show where the focus is once a key has led it there; it is to be seen from the beginning.
+void PrnPropView::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  window()->setAttribute(Qt::WA_KeyboardFocusChange);
+}
+
 /// A page that was never on top need not have been prepared for it.
 void PrnPropView::BringUp(std::int16_t page) {
   if (std::exchange(wasOnTop_[static_cast<std::size_t>(page)], true)) return;
@@ -183,10 +203,7 @@ void PrnPropView::Changed(Widget& widget, WidgetProperty what) {
   for (const auto& other : dialog_.Controls()) {
     if (areLettersOthers && views::CaptionLetters::StandTogether(*other, widget)) ViewFor(*other).Refresh();
   }
-  if (what != WidgetProperty::Caption && what != WidgetProperty::ToolTipText) return;
-  for (const auto& [named, name] : names_) {
-    if (name.DependsOn(widget)) ViewFor(*named).Glass().setAccessibleName(ToQString(name.Spoken()));
-  }
+  if (what == WidgetProperty::Caption || what == WidgetProperty::ToolTipText) SpeakNames(&widget);
 }
 
 void PrnPropView::EntryChanged(EntryWidget& widget, std::int16_t index, EntryProperty what) {

@@ -14,6 +14,8 @@
 #include "views/SpokenName.h"
 #include "views/qt/WidgetView.h"
 
+class QLabel;
+
 namespace ORXKMPrintProp::qt {
 
 class TabStripView;
@@ -43,6 +45,7 @@ class PrnPropView : public QWidget, private View {
  protected:
   void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   bool focusNextPrevChild(bool next) override;
 
  private:
@@ -59,6 +62,7 @@ class PrnPropView : public QWidget, private View {
   void MakeWidgets();
   void SetTabOrder();
   void GiveNames();
+  void SpeakNames(const Widget* changed);
   void BringUp(std::int16_t page);
   /// Where the widget lies, in pixels from its parent.
   QRect PlaceOf(const Geometry& geometry) const;
@@ -68,7 +72,12 @@ class PrnPropView : public QWidget, private View {
   Dialog& dialog_;
   Reports reports_;
   std::unordered_map<const Widget*, WidgetView*> views_;
-  std::vector<std::pair<const Widget*, views::SpokenName>> names_;
+  struct Named {
+    QWidget& glass;
+    views::SpokenName name;
+    QLabel* label;  ///< that has all of a name of several labels, null for another name
+  };
+  std::vector<Named> names_;
   views::CaptionLetters letters_;
   TabStripView* tabs_ = nullptr;
   std::array<bool, SSTab::kTabs> wasOnTop_ = {};

@@ -80,7 +80,10 @@ void TabStripView::BringUp() {
 void TabStripView::PickByKey(QKeyEvent& event, bool isOnTabs) {
   const auto tab = views::TabOf(widget_, ToKeyPress(event), isOnTabs);
   event.setAccepted(tab.has_value());
-  if (tab) Pick(*tab);
+  if (!tab) return;
+  // The focus that goes to the tabs is seen there.
+  window()->setAttribute(Qt::WA_KeyboardFocusChange);
+  Pick(*tab);
 }
 
 void TabStripView::Pick(int tab) {

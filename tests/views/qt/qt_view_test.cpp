@@ -132,6 +132,23 @@ TEST_F(QtViewTest, AnAssistiveProgramActsAsTheUser) {
   EXPECT_EQ(Glass(view, "txtCharColWidth2").accessibleName(), QStringLiteral("Width, Key & more"));
 }
 
+TEST_F(QtViewTest, TheFocusIsSeenOnTheTabsFromTheBeginningAndAfterAKeyOfThePages) {
+  auto& tabs = *view.findChild<QTabBar*>();
+  const auto isSeen = [&] {
+    const QImage with = tabs.grab().toImage();
+    const bool hadFocus = tabs.hasFocus();
+    tabs.clearFocus();
+    return hadFocus && tabs.grab().toImage() != with;
+  };
+  tabs.setFocus();
+  EXPECT_TRUE(isSeen());
+  auto& field = Glass<QLineEdit>(view, "txtGenPrnTitle");
+  field.setFocus(Qt::MouseFocusReason);
+  view.setAttribute(Qt::WA_KeyboardFocusChange, false);
+  QTest::keyClick(&field, Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_TRUE(isSeen());
+}
+
 TEST_F(QtViewTest, AllOfAChangeIsShownOnce) {
   Load("a b c d e f g h i j k l m n o p q r s t u v w x y z");
   const auto& list = Glass<QListView>(view, "lstPrint(1)");
