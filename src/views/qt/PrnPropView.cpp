@@ -1,15 +1,18 @@
 #include "views/qt/PrnPropView.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QEvent>
 #include <QImage>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QPointer>
 #include <algorithm>
 
+#include "views/Search.h"
 #include "views/TabOrder.h"
 #include "views/qt/CaptionViews.h"
 #include "views/qt/ComboBoxView.h"
@@ -85,10 +88,30 @@ PrnPropView::PrnPropView(Dialog& dialog, QWidget* parent)
   Changed(dialog_.TabStrip(), WidgetProperty::Tab);
   MousePointerChanged(dialog_.MousePointer());
   dialog_.SetView(this);
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    if (!qobject_cast<QListView*>(now) || !isAncestorOf(now)) return;
+    lastList_ = dynamic_cast<ListBox*>(dialog_.FindSpelled(ToText(now->objectName())));
+  });
 }
 
+/// The focus goes on while its widgets end.
 PrnPropView::~PrnPropView() {
+  qApp->disconnect(this);
   if (&dialog_.GetView() == this) dialog_.SetView(nullptr);
+}
+
+ListBox* PrnPropView::ListAtHand() const { return views::ListAtHand(dialog_, lastList_); }
+
+void PrnPropView::ShowCaretOf(const ListBox* list) {
+  for (const auto& [widget, view] : views_) {
+    if (auto* const shown = dynamic_cast<ListBoxView*>(view)) shown->ShowCaretAlways(widget == list);
+  }
+}
+
+void PrnPropView::Focus(const Widget& widget) { ViewFor(widget).Glass().setFocus(Qt::ShortcutFocusReason); }
+
+void PrnPropView::Perform(const Widget& widget, const std::function<void()>& action) {
+  ViewFor(widget).Perform(action);
 }
 
 void PrnPropView::MakeWidgets() {

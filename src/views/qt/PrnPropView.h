@@ -4,6 +4,7 @@
 #include <QWidget>
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <unordered_map>
 #include <utility>
@@ -33,6 +34,16 @@ class PrnPropView : public QWidget, private View {
   /// and text order.
   explicit PrnPropView(Dialog& dialog, QWidget* parent = nullptr);
   ~PrnPropView() override;
+
+  /// The list in which an entry is looked for: the one that had the focus last, else the first one on the page. Null
+  /// where the user can reach none.
+  ListBox* ListAtHand() const;
+  /// The caret of that list is seen though the focus is elsewhere, null for none.
+  void ShowCaretOf(const ListBox* list);
+  /// Gives the focus to a widget on the page on top.
+  void Focus(const Widget& widget);
+  /// Carries out what the user does to the widget from outside of the dialog, with the signals that go with it.
+  void Perform(const Widget& widget, const std::function<void()>& action);
 
  signals:
   /// What the user did failed in the middle, as where a table refuses an operation. The dialog stays usable.
@@ -81,6 +92,7 @@ class PrnPropView : public QWidget, private View {
   views::CaptionLetters letters_;
   TabStripView* tabs_ = nullptr;
   std::array<bool, SSTab::kTabs> wasOnTop_ = {};
+  ListBox* lastList_ = nullptr;  ///< that had the focus
 };
 
 }  // namespace ORXKMPrintProp::qt

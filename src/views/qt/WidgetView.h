@@ -42,13 +42,13 @@ class WidgetView {
   virtual void EntryRemoved(int /*index*/) {}
   virtual void EntriesCleared() {}
 
+  /// The only way in for what the user does: reports a failure, and shows the widget as it is afterwards, whether
+  /// the action was carried out, refused or failed. The view may be gone when it returns.
+  void Perform(const std::function<void()>& action);
   /// The greatest letters in which the widget's caption fits, none where it is cut.
   std::optional<views::Letters> NeededLetters() const;
 
  protected:
-  /// The only way in for what the user does: reports a failure, and shows the widget as it is afterwards, whether
-  /// the action was carried out, refused or failed. The view may be gone when it returns.
-  void Perform(const std::function<void()>& action);
   /// The same for what changes nothing.
   void Attempt(const std::function<void()>& action);
 
