@@ -2,14 +2,14 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "dialog/DialogLayout.h"
 
 namespace ORXKMPrintProp::views {
 namespace {
 
-constexpr int kFullSize = 100;
-constexpr int kSmallestSize = 70;
+constexpr Letters kSmallest{.size = 70, .width = 80};
 constexpr int kStep = 5;
 constexpr char16_t kEllipsis = u'\u2026';
 
@@ -21,7 +21,7 @@ Text Cut(TextView text, int width, const Measure& measure) {
   std::size_t tooLong = text.size();
   while (fits + 1 < tooLong) {
     const std::size_t middle = fits + (tooLong - fits) / 2;
-    (measure(Text(text.substr(0, middle)) + kEllipsis, kSmallestSize) <= width ? fits : tooLong) = middle;
+    (measure(Text(text.substr(0, middle)) + kEllipsis, kSmallest) <= width ? fits : tooLong) = middle;
   }
   if (fits < text.size() && fits > 0 && IsLowSurrogate(text[fits])) --fits;
   return Text(text.substr(0, fits)) + kEllipsis;
@@ -29,27 +29,52 @@ Text Cut(TextView text, int width, const Measure& measure) {
 
 }  // namespace
 
-std::optional<int> FittingSize(const std::function<bool(int percent)>& fits) {
-  for (int percent = kFullSize; percent >= kSmallestSize; percent -= kStep) {
-    if (fits(percent)) return percent;
+std::optional<Letters> FittingLetters(const std::function<bool(const Letters& letters)>& fits) {
+  for (Letters letters; letters >= kSmallest;
+       (letters.width > kSmallest.width ? letters.width : letters.size) -= kStep) {
+    if (fits(letters)) return letters;
   }
   return {};
 }
 
-FittedText Fit(TextView text, int width, const Measure& measure) {
-  const auto percent = FittingSize([&](int size) { return measure(text, size) <= width; });
-  if (percent) return {Text(text), *percent, false};
-  return {Cut(text, width, measure), kSmallestSize, true};
+FittedText Fit(TextView text, int width, const Measure& measure, const Letters& most) {
+  if (measure(text, most) <= width) return {Text(text), most, false};
+  const auto fitting = FittingLetters([&](const Letters& letters) { return measure(text, letters) <= width; });
+  if (fitting) return {Text(text), *fitting, false};
+  return {Cut(text, width, measure), kSmallest, true};
 }
 
-FittedTabs FitTabs(int tabs, int width, const std::function<int(int tab, int percent)>& needed) {
-  const auto fits = [&](int percent) {
+CaptionLetters::CaptionLetters(const Dialog& dialog, Needed needed) : dialog_(dialog), ask_(std::move(needed)) {}
+
+Letters CaptionLetters::Of(const Widget& widget) {
+  Letters all;
+  for (const auto& other : dialog_.Controls()) {
+    if (!StandTogether(*other, widget)) continue;
+    const auto [needed, isNew] = needed_.try_emplace(other.get());
+    if (isNew) needed->second = ask_(*other);
+    if (needed->second) all = std::min(all, *needed->second);
+  }
+  return all;
+}
+
+bool CaptionLetters::Change(const Widget& widget) {
+  const Letters before = Of(widget);
+  needed_.erase(&widget);
+  return Of(widget) != before;
+}
+
+bool CaptionLetters::StandTogether(const Widget& a, const Widget& b) {
+  return a.Row().kind == b.Row().kind && a.Row().page == b.Row().page && a.Row().parent == b.Row().parent;
+}
+
+FittedTabs FitTabs(int tabs, int width, const std::function<int(int tab, const Letters& letters)>& needed) {
+  const auto fits = [&](const Letters& letters) {
     int all = 0;
-    for (int tab = 0; tab < tabs; ++tab) all += TabWidth(width, needed(tab, percent));
+    for (int tab = 0; tab < tabs; ++tab) all += TabWidth(width, needed(tab, letters));
     return all <= width;
   };
-  const auto percent = FittingSize(fits);
-  return {percent.value_or(kSmallestSize), !percent};
+  const auto fitting = FittingLetters(fits);
+  return {fitting.value_or(kSmallest), !fitting};
 }
 
 int TabWidth(int stripWidth, int needed) { return std::max(stripWidth / kTabsPerRow, needed); }

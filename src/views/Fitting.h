@@ -1,35 +1,70 @@
 #pragma once
 
+#include <compare>
 #include <functional>
 #include <optional>
-#include <span>
+#include <unordered_map>
 
-#include "tables/Text.h"
+#include "dialog/Dialog.h"
 
-// How captions are made to fit: in smaller letters, down to 70 % of the full size, and where those do not do, cut.
+// How captions are made to fit: in narrower letters, then in smaller ones, alike for captions that stand together, and
+// where the smallest do not do, cut.
 
 namespace ORXKMPrintProp::views {
 
-/// The width of a text in pixels, in letters of that size in per cent of the full one.
-using Measure = std::function<int(TextView text, int percent)>;
+/// Letters in per cent of their full size, and in per cent of the width that they have at that size; the greater ones
+/// take more room. They get narrower down to 80 %, and then smaller down to 70 %, in steps of 5 %.
+struct Letters {
+  int size = 100;
+  int width = 100;
 
-/// The greatest size, in steps of 5 %, at which something fits; none where the smallest does not do.
-std::optional<int> FittingSize(const std::function<bool(int percent)>& fits);
+  friend auto operator<=>(const Letters&, const Letters&) = default;
+};
+
+/// The width of a text in pixels.
+using Measure = std::function<int(TextView text, const Letters& letters)>;
+
+/// The greatest letters in which something fits; none where the smallest do not do.
+std::optional<Letters> FittingLetters(const std::function<bool(const Letters& letters)>& fits);
 
 struct FittedText {
   Text text;
-  int percent = 100;
+  Letters letters;
   bool isCut = false;  ///< it ends with an ellipsis
 };
-FittedText Fit(TextView text, int width, const Measure& measure);
+/// @param most what the captions beside it have; one that does not fit is cut in the smallest letters.
+FittedText Fit(TextView text, int width, const Measure& measure, const Letters& most = {});
+
+/// The letters of a dialog's captions. Those of widgets of one kind in one frame, or on one page outside of frames, are
+/// alike.
+class CaptionLetters {
+ public:
+  /// @param needed the greatest letters in which the widget's caption fits, none where it is cut.
+  using Needed = std::function<std::optional<Letters>(const Widget& widget)>;
+
+  /// @param dialog must outlive it.
+  CaptionLetters(const Dialog& dialog, Needed needed);
+
+  Letters Of(const Widget& widget);
+  /// The widget's caption has changed. @return whether the letters of those that it stands with have.
+  bool Change(const Widget& widget);
+  /// What captions are measured with has changed.
+  void ChangeAll() { needed_.clear(); }
+  static bool StandTogether(const Widget& a, const Widget& b);
+
+ private:
+  const Dialog& dialog_;
+  Needed ask_;
+  std::unordered_map<const Widget*, std::optional<Letters>> needed_;
+};
 
 struct FittedTabs {
-  int percent = 100;
+  Letters letters;
   bool areCut = false;  ///< each tab has its share of the width, in which its caption is cut
 };
-/// All tabs in letters of one size.
-/// @param needed the width that the tab with that number needs at that size, all that is around its caption included.
-FittedTabs FitTabs(int tabs, int width, const std::function<int(int tab, int percent)>& needed);
+/// All tabs in letters of one kind.
+/// @param needed the width that the tab with that number needs in them, all that is around its caption included.
+FittedTabs FitTabs(int tabs, int width, const std::function<int(int tab, const Letters& letters)>& needed);
 
 /// A tab has its share of a full row, and more where its caption needs it.
 int TabWidth(int stripWidth, int needed);

@@ -31,6 +31,11 @@ bool Toggle(ListBox& list, int entry) {
          list.ListCount() == count;
 }
 
+void Reorder(ListBox& list, std::int16_t step) {
+  GiveCaret(list);
+  list.UserDragStep(step);
+}
+
 void SelectAll(ListBox& list, bool selected) {
   GiveCaret(list);
   const std::int16_t caret = list.ListIndex();
@@ -114,10 +119,7 @@ std::function<void()> ListKeys::SingleActionOf(ListBox& list, const KeyPress& pr
   const bool isArrow = press.key == Key::Up || press.key == Key::Down;
   if (press.alt && isArrow && !press.control && !press.shift) {
     const auto step = static_cast<std::int16_t>(press.key == Key::Up ? -1 : 1);
-    return [&list, step] {
-      GiveCaret(list);
-      list.UserDragStep(step);
-    };
+    return [&list, step] { Reorder(list, step); };
   }
   if (press.key == Key::A && press.control && !press.alt && IsOfSeveral(list)) {
     return [&list, selected = !press.shift] { SelectAll(list, selected); };
@@ -137,6 +139,13 @@ std::function<void()> ListKeys::SingleActionOf(ListBox& list, const KeyPress& pr
   const auto found = search_.Find(list, press.text);
   if (!found) return [] {};
   return moveTo(*found);
+}
+
+std::function<void()> ReorderOf(ListBox& list, std::int16_t step) {
+  if (list.Refuses() != Refusal::None || !list.MouseMove) return {};
+  const int entry = list.ListIndex() < 0 ? BeginOf(list) : list.ListIndex();
+  if (entry < 0 || entry + step < 0 || entry + step >= list.ListCount()) return {};
+  return [&list, step] { Reorder(list, step); };
 }
 
 std::function<void()> ActionOfFocus(ListBox& list) {

@@ -51,6 +51,10 @@ class ListKeys {
   TypeAhead search_;
 };
 
+/// What Alt with an arrow does: takes the entry at the caret, or where a caret begins, a step up (-1) or down (1). None
+/// where it can go no further, and in a list that can't be reordered or used now.
+std::function<void()> ReorderOf(ListBox& list, std::int16_t step);
+
 /// What the focus does to a list that gets it by keyboard: a caret goes to the first selected entry, else to the first
 /// one. None where there is a caret, or where it would select.
 std::function<void()> ActionOfFocus(ListBox& list);

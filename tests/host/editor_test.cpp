@@ -7,6 +7,7 @@
 
 #include "control/SharedValues.h"
 #include "host/Files.h"
+#include "host/editor/EditorKeys.h"
 #include "support/table_text.h"
 #include "support/transcript.h"
 #include "support/user_step.h"
@@ -14,6 +15,20 @@
 
 namespace ORXKMPrintProp::host::test {
 namespace {
+
+TEST(EditorKeys, AreThoseOfTheReadmeAndOfTheManPage) {
+  std::string table = "| Where | Keys | What they do |\n|---|---|---|\n", page = ".SH KEYS\n", where;
+  for (const EditorKey& key : EditorKeys(true)) {
+    const bool isFurther = where == key.where;
+    where = key.where;
+    table += "| " + (isFurther ? std::string() : where) + " | " + key.keys + " | " + key.does + " |\n";
+    if (!isFurther) page += ".SS " + where + "\n";
+    page += std::string(".TP\n.B ") + key.keys + "\n" + key.does + "\n";
+  }
+  for (std::size_t at = 0; (at = page.find('-', at)) != std::string::npos; at += 2) page.insert(at, 1, '\\');
+  EXPECT_NE(ReadFile(PRNPROP_ROOT "/README.md").find(table), std::string::npos) << table;
+  EXPECT_NE(ReadFile(PRNPROP_ROOT "/share/man/man1/prnprop.1").find(page), std::string::npos) << page;
+}
 
 namespace fs = std::filesystem;
 using namespace ORXKMPrintProp::test;

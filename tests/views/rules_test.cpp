@@ -32,14 +32,21 @@ TEST(ToolTips, HaveTheCutCaptionFirst) {
   EXPECT_EQ(ToolTipWith(u"cut", u"tip") + ToolTipWith(u"", u"tip") + ToolTipWith(u"cut", u""), u"cut\ntiptipcut");
 }
 
-/// Every character is as wide as the letters are high, in tenths: ten characters of full size are 100 wide.
-int TenthsOf(TextView text, int percent) { return static_cast<int>(text.size()) * percent / 10; }
+/// Ten characters of full size and width are 100 wide.
+int WidthOf(TextView text, const Letters& letters) {
+  return static_cast<int>(text.size()) * letters.size * letters.width / 1000;
+}
 
-std::string SizeOf(int percent, bool isCut) { return std::to_string(percent) + "%" + (isCut ? ", cut" : ""); }
+std::string NameOf(const Letters& letters, bool isCut) {
+  std::string name = std::to_string(letters.size) + "%";
+  if (letters.width != 100) name += " at " + std::to_string(letters.width) + "%";
+  return name + (isCut ? ", cut" : "");
+}
 
 /// What every view knows, without one. The steps:
 ///
 ///     spoken WIDGET, fit WIDTH TEXT, fit-tabs WIDTH (four of them, each wider by 100 than the one before)
+///     caption WIDGET N (characters in a room of 1000, and the widgets whose letters are not full)
 ///     type LETTERS (in a combo box), wait (longer than letters that follow each other)
 ///     press BUTTON Y, move Y, release BUTTON (in a list of five entries, of which three are seen, each ten pixels
 ///     high) press BUTTON Y another, move Y another (button is held), move Y none (is held) timer, let-go, release (the
@@ -66,9 +73,14 @@ class RulesPlayer : public Player, private ListGlass {
   void Perform(const std::function<void()>& action) override { action(); }
 
   void Type(const Text& letters);
+  void ChangeCaption(const std::string& name, std::size_t characters);
 
   Dialog dialog_;
   ComboBox& combo_ = dialog_.Get<ComboBox>(u"cmbAttrChar");
+  CaptionLetters letters_{
+      dialog_, [](const Widget& widget) {
+        return FittingLetters([&](const Letters& letters) { return WidthOf(widget.Caption(), letters) <= 1000; });
+      }};
   ListBox& list_ = dialog_.Get<ListBox>(u"lstPrint", kStrTab);
   TypeAhead search_;
   TypeAhead::Clock::time_point now_;
@@ -112,14 +124,16 @@ void RulesPlayer::DoStep(const std::string& line) {
       {"fit",
        [&] {
          const FittedText fitted =
-             Fit(host::FromUtf8(rest.substr(std::min(rest.find(' '), rest.size() - 1) + 1)), first, TenthsOf);
-         Tell("'" + host::ToUtf8(fitted.text) + "' " + SizeOf(fitted.percent, fitted.isCut));
+             Fit(host::FromUtf8(rest.substr(std::min(rest.find(' '), rest.size() - 1) + 1)), first, WidthOf);
+         Tell("'" + host::ToUtf8(fitted.text) + "' " + NameOf(fitted.letters, fitted.isCut));
        }},
       {"fit-tabs",
        [&] {
-         const FittedTabs fitted = FitTabs(4, first, [](int tab, int percent) { return (tab + 1) * percent; });
-         Tell(SizeOf(fitted.percent, fitted.areCut));
+         const FittedTabs fitted = FitTabs(
+             4, first, [](int tab, const Letters& letters) { return (tab + 1) * letters.size * letters.width / 100; });
+         Tell(NameOf(fitted.letters, fitted.areCut));
        }},
+      {"caption", [&] { ChangeCaption(rest.substr(0, rest.find(' ')), std::stoul(rest.substr(rest.find(' ')))); }},
       {"type", [&] { Type(Wide(rest)); }},
       {"wait", [&] { now_ += std::chrono::seconds(9); }},
       {"press", [&] { pointer_->Press(button, isAnother, y); }},
@@ -142,6 +156,17 @@ void RulesPlayer::Type(const Text& letters) {
     if (!found) Tell("none");
     if (found) combo_.ListIndex(*found);
   }
+}
+
+void RulesPlayer::ChangeCaption(const std::string& name, std::size_t characters) {
+  const Widget& changed = *dialog_.FindSpelled(Wide(name));
+  letters_.Of(changed);
+  dialog_.FindSpelled(Wide(name))->Caption(Text(characters, u'x'));
+  std::string told = letters_.Change(changed) ? "changed:" : "unchanged:";
+  for (const auto& widget : dialog_.Controls()) {
+    if (letters_.Of(*widget) != Letters()) told += " " + host::ToUtf8(widget->Row().name.Spelled());
+  }
+  Tell(told + " " + NameOf(letters_.Of(changed), false));
 }
 
 TEST(Views, KnowTheirRules) {

@@ -37,6 +37,7 @@
 #include "host/window/PagePrinting.h"
 #include "host/window/Remembered.h"
 #include "views/qt/QtPlatform.h"
+#include "views/qt/QtText.h"
 
 namespace ORXKMPrintProp::host::test {
 namespace {
@@ -324,6 +325,72 @@ TEST_F(SettingsWindowTest, StepsAreTakenBackByKeysAndButtons) {
   window->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Apply)->setFocus();
   Press(QDialogButtonBox::Apply);
   EXPECT_EQ(state(), "Orders by region!? txtGenPrnTitle Undo: Print title (Ctrl+Z) Redo: Revert (Ctrl+Shift+Z)");
+}
+
+TEST_F(SettingsWindowTest, AnEntryIsFoundByAnyPartOfItsTextAndMovedByButtons) {
+  before = ReadFile(PRNPROP_EXAMPLES "/sales.json");
+  SaveFile(file, before);
+  Open();
+  const auto key = [this](int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(window->focusWidget(), static_cast<Qt::Key>(key), modifiers);
+  };
+  Dialog& dialog = settings->Control().GetDialog();
+  const auto state = [&] {
+    QString state = window->focusWidget()->objectName();
+    if (dialog.TabStrip().Tab() == kCharTab) {
+      auto& print = dialog.Get<ListBox>(u"lstPrint", kCharTab);
+      state += u' ' + QString::number(print.ListIndex());
+      if (print.ListIndex() >= 0) state += u' ' + qt::ToQString(print.List(print.ListIndex()));
+    }
+    if (Find<QLabel>("found").isVisible()) state += u' ' + Find<QLabel>("found").text();
+    for (const char* const name : {"up", "down"}) {
+      if (Find<QPushButton>(name).isEnabled()) state += u' ' + QLatin1String(name);
+    }
+    return state.toStdString();
+  };
+  key(Qt::Key_F, Qt::ControlModifier);
+  EXPECT_EQ(state(), "find No list on this page");
+  key(Qt::Key_Escape);
+  EXPECT_TRUE(window->isVisible()) << "Escape closes the field alone";
+  window->findChild<QTabBar*>()->setCurrentIndex(kCharTab);
+  EXPECT_EQ(state(), " -1 down") << "the first of those that are printed is selected";
+  Find<QListView>("lstPrint(1)").setFocus(Qt::MouseFocusReason);
+  Find<QLineEdit>("txtCharColTitle").setFocus();
+  key(Qt::Key_F, Qt::ControlModifier);
+  QTest::keyClicks(window->focusWidget(), QStringLiteral("CUS"));
+  EXPECT_EQ(state(), "find 3 Customer group up down");
+  const auto hasMark = [&] {
+    const QWidget& list = *Find<QListView>("lstPrint(1)").viewport();
+    return const_cast<QWidget&>(list).grab(QRect(1, 3 * 13, 20, 14)).toImage();
+  };
+  const QImage marked = hasMark();
+  key(Qt::Key_Return);
+  EXPECT_NE(hasMark(), marked) << "the caret is seen";
+  EXPECT_EQ(state(), "find 4 Customer up down");
+  key(Qt::Key_F3);
+  EXPECT_EQ(state(), "find 3 Customer group up down") << "round and round";
+  QTest::keyClicks(window->focusWidget(), QStringLiteral("x"));
+  EXPECT_EQ(state(), "find 3 Customer group Not found up down");
+  key(Qt::Key_Escape);
+  EXPECT_EQ(state(), "lstPrint(1) 3 Customer group up down");
+
+  for (int i = 0; i < 2; ++i) Press("up");
+  EXPECT_EQ(state(), "lstPrint(1) 1 Customer group up down");
+  Find<QPushButton>("up").setFocus();
+  key(Qt::Key_Space);
+  EXPECT_EQ(state(), "lstPrint(1) 0 Customer group down") << "whoever can go no further goes on in the list";
+  key(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(state(), "lstPrint(1) 1 Customer group up down");
+  key(Qt::Key_End);
+  EXPECT_EQ(state(), "lstPrint(1) 9 Currency up");
+  Open({.readOnly = true});
+  window->findChild<QTabBar*>()->setCurrentIndex(kCharTab);
+  EXPECT_FALSE(Find<QPushButton>("down").isEnabled());
+  answers.push_back([](QDialog& dialog) {
+    EXPECT_NE(dialog.findChild<QTextEdit*>()->toPlainText().indexOf(QStringLiteral("Ctrl+F")), -1);
+    dialog.reject();
+  });
+  key(Qt::Key_F1);
 }
 
 TEST_F(SettingsWindowTest, TheTabKeyGoesRoundTheWholeWindow) {

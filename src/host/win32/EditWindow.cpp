@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "host/Utf8.h"
+#include "host/editor/EditorKeys.h"
 #include "host/win32/LayoutEditor.h"
 #include "host/win32/QuestionBox.h"
 #include "views/win32/Styled.h"
@@ -224,6 +225,10 @@ bool EditWindow::TakePlainKey(const MSG& message) {
       return true;
     case VK_ESCAPE:
       if (!isRepeated) OnButton(IDCANCEL);
+      return true;
+    case VK_F1:
+      if (!isPlain) return false;
+      ::MessageBoxW(window_, Wide(EditorKeysInLines(false)).c_str(), L"Keys", MB_OK);
       return true;
     case VK_F5:
       if (!isPlain) return false;

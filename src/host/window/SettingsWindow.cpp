@@ -15,8 +15,13 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "host/window/FindField.h"
+#include "host/window/KeysWindow.h"
 #include "host/window/LayoutEditor.h"
 #include "host/window/MeaningPanel.h"
+#include "host/window/OrderButtons.h"
+#include "host/window/SignButton.h"
+#include "host/window/SpokenWindow.h"
 #include "views/qt/PrnPropView.h"
 #include "views/qt/QtText.h"
 
@@ -74,7 +79,10 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
       editor_(settings, *this),
       view_(new qt::PrnPropView(settings.Control().GetDialog(), this)),
       panel_(new MeaningPanel([this] { return editor_.Read(); }, this)),
-      dialog_(new QScrollArea(this)) {
+      dialog_(new QScrollArea(this)),
+      order_(new OrderButtons(
+          settings.Control().GetDialog(), *view_, [&settings] { return settings.IsReadOnly(); }, this)) {
+  SpeakAsWindow(*this);
   setWindowTitle(QString::fromStdString(editor_.Title("[*]")));
   setWindowFilePath(QString::fromStdString(settings.Target()));
   auto* const across = new QHBoxLayout;
@@ -147,6 +155,10 @@ QWidget* SettingsWindow::MakeButtons() {
   connect(apply_, &QPushButton::clicked, this, [this] { editor_.Save(); });
   OnKey(*this, QKeySequence::Save, [this] { editor_.Save(); });
   OnKey(*this, QKeySequence::Refresh, [this] { editor_.Read(); });
+  auto* const find = new FindField(*view_, dialog_);
+  OnKey(*this, QKeySequence::Find, [find] { find->Open(); });
+  OnKey(*this, Qt::Key_F3, [find] { find->FindNext(); });
+  OnKey(*this, Qt::Key_F1, [this] { ShowKeys(this); });
   undo_ = MakeStepButton("Undo", u'\u21B6', kUndoKeys, &Editor::Undo);
   redo_ = MakeStepButton("Redo", u'\u21B7', kRedoKeys, &Editor::Redo);
   revert_ = MakeStepButton("Revert", u'\u27F2', {}, &Editor::Revert);
@@ -156,6 +168,7 @@ QWidget* SettingsWindow::MakeButtons() {
   row->setContentsMargins(0, 0, 0, 0);
   row->addWidget(preview_);
   for (QPushButton* const step : {undo_, redo_, revert_}) row->addWidget(step);
+  row->addWidget(order_);
   row->addStretch();
   row->addWidget(buttons);
   return bar;
@@ -163,14 +176,7 @@ QWidget* SettingsWindow::MakeButtons() {
 
 QPushButton* SettingsWindow::MakeStepButton(const char* name, char16_t sign, const QList<QKeySequence>& keys,
                                             void (Editor::*step)()) {
-  auto* const button = new QPushButton(QString(QChar(sign)), this);
-  button->setAccessibleName(QLatin1String(name));
-  button->setObjectName(button->accessibleName().toLower());
-  // The window is to be as narrow as a small screen is.
-  button->setFixedWidth(button->sizeHint().height() * 5 / 4);
-  button->setAutoDefault(true);
-  // A click leaves the focus where the step leads it.
-  button->setFocusPolicy(Qt::TabFocus);
+  auto* const button = MakeSignButton(name, sign, this);
   connect(button, &QPushButton::clicked, this, [this, step] { (editor_.*step)(); });
   for (const QKeySequence& key : keys) OnKey(*this, key, [this, step] { (editor_.*step)(); });
   return button;
@@ -224,6 +230,7 @@ void SettingsWindow::ShowState(const EditorState& state) {
   SetEnabled(*undo_, state.canUndo);
   SetEnabled(*redo_, state.canRedo);
   SetEnabled(*revert_, state.canRevert);
+  order_->Update();
   undo_->setToolTip(StepTip("Undo", state.undo, kUndoKeys));
   redo_->setToolTip(StepTip("Redo", state.redo, kRedoKeys));
 }

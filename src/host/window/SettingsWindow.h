@@ -17,6 +17,7 @@ class PrnPropView;
 namespace ORXKMPrintProp::host {
 
 class MeaningPanel;
+class OrderButtons;
 
 /// The dialog with what a host adds to it: OK, Cancel and Apply, Undo, Redo and Revert, the editor of layouts, and a
 /// panel that shows what the settings mean.
@@ -54,6 +55,7 @@ class SettingsWindow : public QWidget, private EditorWindow {
   qt::PrnPropView* view_;
   MeaningPanel* panel_;
   QScrollArea* dialog_;  ///< the view in it
+  OrderButtons* order_;
   QPushButton* preview_ = nullptr;
   QPushButton* apply_ = nullptr;
   QPushButton* undo_ = nullptr;

@@ -22,9 +22,11 @@ constexpr int kLabelBlank = 3;
 
 void FrameView::Refresh() {
   WidgetView::Refresh();
-  setTitle(WithoutShortcut(FitCaption(width() - 2 * (kCaptionIndent + kCaptionBlank))));
+  setTitle(WithoutShortcut(FitCaption()));
   update();
 }
+
+std::optional<int> FrameView::CaptionRoom() const { return width() - 2 * (kCaptionIndent + kCaptionBlank); }
 
 void FrameView::paintEvent(QPaintEvent*) {
   QPainter painter(this);
@@ -43,9 +45,11 @@ LabelView::LabelView(Label& label, const Reports& reports, QWidget* parent) : Vi
 
 void LabelView::Refresh() {
   WidgetView::Refresh();
-  const QString text = FitCaption(width() - kLabelBlank);
+  const QString text = FitCaption();
   setText(buddy() ? WithoutShortcut(text) : text);
 }
+
+std::optional<int> LabelView::CaptionRoom() const { return width() - kLabelBlank; }
 
 ButtonView::ButtonView(CommandButton& button, const Reports& reports, QWidget* parent)
     : ViewOf(button, reports, parent) {
@@ -55,10 +59,13 @@ ButtonView::ButtonView(CommandButton& button, const Reports& reports, QWidget* p
 
 void ButtonView::Refresh() {
   WidgetView::Refresh();
+  setText(WithoutShortcut(FitCaption()));
+}
+
+std::optional<int> ButtonView::CaptionRoom() const {
   QStyleOptionButton option;
   initStyleOption(&option);
-  const QRect inside = style()->subElementRect(QStyle::SE_PushButtonContents, &option, this);
-  setText(WithoutShortcut(FitCaption(inside.width())));
+  return style()->subElementRect(QStyle::SE_PushButtonContents, &option, this).width();
 }
 
 void ButtonView::keyPressEvent(QKeyEvent* event) {
@@ -76,10 +83,13 @@ CheckBoxView::CheckBoxView(CheckBox& check, const Reports& reports, QWidget* par
 
 void CheckBoxView::Refresh() {
   WidgetView::Refresh();
-  const int box = style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this) +
-                  style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, this);
-  setText(WithoutShortcut(FitCaption(width() - box)));
+  setText(WithoutShortcut(FitCaption()));
   setChecked(widget_.Value() != 0);
+}
+
+std::optional<int> CheckBoxView::CaptionRoom() const {
+  return width() - style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this) -
+         style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, this);
 }
 
 }  // namespace ORXKMPrintProp::qt

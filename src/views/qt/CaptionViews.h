@@ -19,6 +19,7 @@ class FrameView : public ViewOf<QGroupBox, Frame> {
   void Refresh() override;
 
  protected:
+  std::optional<int> CaptionRoom() const override;
   void paintEvent(QPaintEvent* event) override;
 };
 
@@ -26,6 +27,9 @@ class LabelView : public ViewOf<QLabel, Label> {
  public:
   LabelView(Label& label, const Reports& reports, QWidget* parent);
   void Refresh() override;
+
+ protected:
+  std::optional<int> CaptionRoom() const override;
 };
 
 class ButtonView : public ViewOf<QPushButton, CommandButton> {
@@ -34,6 +38,7 @@ class ButtonView : public ViewOf<QPushButton, CommandButton> {
   void Refresh() override;
 
  protected:
+  std::optional<int> CaptionRoom() const override;
   /// Enter presses the button that has the focus, once; a dialog around it never presses it by itself.
   void keyPressEvent(QKeyEvent* event) override;
 };
@@ -42,6 +47,9 @@ class CheckBoxView : public ViewOf<QCheckBox, CheckBox> {
  public:
   CheckBoxView(CheckBox& check, const Reports& reports, QWidget* parent);
   void Refresh() override;
+
+ protected:
+  std::optional<int> CaptionRoom() const override;
 };
 
 }  // namespace ORXKMPrintProp::qt

@@ -20,7 +20,7 @@ namespace {
 
 class EntryDelegate : public QStyledItemDelegate {
  public:
-  EntryDelegate(const ListBox& list, QObject* parent) : QStyledItemDelegate(parent), list_(list) {}
+  EntryDelegate(const ListBox& list, ListBoxView& view) : QStyledItemDelegate(&view), list_(list), view_(view) {}
 
   /// Rows stand close, so that two of them fit the lowest list of the layout.
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
@@ -31,9 +31,9 @@ class EntryDelegate : public QStyledItemDelegate {
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     QStyledItemDelegate::paint(painter, option, index);
     const auto entry = static_cast<std::int16_t>(index.row());
-    if (entry != list_.ListIndex() || !option.widget->hasFocus()) return;
+    if (entry != list_.ListIndex() || !view_.IsCaretShown()) return;
     painter->setPen(option.palette.color(list_.Selected(entry) ? QPalette::HighlightedText : QPalette::Text));
-    painter->drawRect(option.rect.adjusted(1, 0, -2, -1));
+    painter->drawRect(option.rect.adjusted(1, 1, -2, -1));
   }
 
   bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
@@ -55,6 +55,7 @@ class EntryDelegate : public QStyledItemDelegate {
 
  private:
   const ListBox& list_;
+  const ListBoxView& view_;
 };
 
 int HeightOf(const QMouseEvent& event) { return event.position().toPoint().y(); }
@@ -82,7 +83,7 @@ ListBoxView::ListBoxView(ListBox& list, const Reports& reports, QWidget* parent)
           },
           this)) {
   setModel(entries_);
-  setItemDelegate(new EntryDelegate(list, this));
+  setItemDelegate(new EntryDelegate(list, *this));
   setSelectionMode(list.Row().multiSelect ? MultiSelection : SingleSelection);
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);
@@ -100,7 +101,15 @@ ListBoxView::ListBoxView(ListBox& list, const Reports& reports, QWidget* parent)
 
 void ListBoxView::Refresh() {
   WidgetView::Refresh();
+  // Qt tells of no tooltip of a list.
+  QString description = ToQString(widget_.ToolTipText());
+  if (!description.isEmpty()) description += QStringLiteral(". ");
+  setAccessibleDescription(description + QString::fromStdString(views::KeysSpoken(widget_)));
   entries_->CatchUp();
+}
+
+void ListBoxView::ShowCaretAlways(bool always) {
+  if (std::exchange(isCaretShown_, always) != always) viewport()->update();
 }
 
 void ListBoxView::Show(WidgetProperty what) {
@@ -180,7 +189,11 @@ void ListBoxView::hideEvent(QHideEvent* event) {
 }
 
 void ListBoxView::paintEvent(QPaintEvent* event) {
-  entries_->CatchUp();
+  if (!entries_->IsCaughtUp()) {
+    entries_->CatchUp();
+    // Else the entries have their places behind this painting only.
+    executeDelayedItemsLayout();
+  }
   QListView::paintEvent(event);
   if (!hasFocus()) return;
   // There may be no caret to show it.

@@ -21,6 +21,9 @@ class ListBoxView : public ViewOf<QListView, ListBox>, private views::ListGlass 
   void EntryAdded(int) override { entries_->EntriesChanged(); }
   void EntryRemoved(int) override { entries_->EntriesChanged(); }
   void EntriesCleared() override { entries_->EntriesChanged(); }
+  /// The caret is seen without the focus, too.
+  void ShowCaretAlways(bool always);
+  bool IsCaretShown() const { return isCaretShown_ || hasFocus(); }
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
@@ -49,6 +52,7 @@ class ListBoxView : public ViewOf<QListView, ListBox>, private views::ListGlass 
 
   EntryModel* entries_;
   int shownCaret_ = -1;
+  bool isCaretShown_ = false;
   QTimer scrolling_;
   views::ListKeys keys_;
   views::ListPointer pointer_{widget_, *this};

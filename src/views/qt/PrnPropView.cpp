@@ -1,17 +1,22 @@
 #include "views/qt/PrnPropView.h"
 
+#include <QApplication>
 #include <QCursor>
 #include <QEvent>
 #include <QImage>
+#include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QPointer>
 #include <algorithm>
 
+#include "views/Search.h"
 #include "views/TabOrder.h"
 #include "views/qt/CaptionViews.h"
 #include "views/qt/ComboBoxView.h"
+#include "views/qt/DisabledColors.h"
 #include "views/qt/ListBoxView.h"
 #include "views/qt/QtText.h"
 #include "views/qt/TabStripView.h"
@@ -68,22 +73,45 @@ PrnPropView::PrnPropView(Dialog& dialog, QWidget* parent)
     : QWidget(parent),
       dialog_(dialog),
       reports_{[this](const QString& message) { emit failed(message); },
-               [this](const Widget& widget) { emit used(widget); }} {
+               [this](const Widget& widget) { emit used(widget); },
+               [this](const Widget& widget) { return letters_.Of(widget); }},
+      letters_(dialog, [this](const Widget& widget) { return ViewFor(widget).NeededLetters(); }) {
   setFixedSize(PlaceOf(kClientArea).size());
   // The layout is not mirrored, so its arrows are not either.
   setLayoutDirection(Qt::LeftToRight);
   // What the widgets inherit they need not be given one by one.
   setFont(ToQFont(dialog_.TabStrip().GetFont()));
+  MakeReadable();
   MakeWidgets();
   SetTabOrder();
   GiveNames();
   Changed(dialog_.TabStrip(), WidgetProperty::Tab);
   MousePointerChanged(dialog_.MousePointer());
   dialog_.SetView(this);
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    if (!qobject_cast<QListView*>(now) || !isAncestorOf(now)) return;
+    lastList_ = dynamic_cast<ListBox*>(dialog_.FindSpelled(ToText(now->objectName())));
+  });
 }
 
+/// The focus goes on while its widgets end.
 PrnPropView::~PrnPropView() {
+  qApp->disconnect(this);
   if (&dialog_.GetView() == this) dialog_.SetView(nullptr);
+}
+
+ListBox* PrnPropView::ListAtHand() const { return views::ListAtHand(dialog_, lastList_); }
+
+void PrnPropView::ShowCaretOf(const ListBox* list) {
+  for (const auto& [widget, view] : views_) {
+    if (auto* const shown = dynamic_cast<ListBoxView*>(view)) shown->ShowCaretAlways(widget == list);
+  }
+}
+
+void PrnPropView::Focus(const Widget& widget) { ViewFor(widget).Glass().setFocus(Qt::ShortcutFocusReason); }
+
+void PrnPropView::Perform(const Widget& widget, const std::function<void()>& action) {
+  ViewFor(widget).Perform(action);
 }
 
 void PrnPropView::MakeWidgets() {
@@ -120,17 +148,30 @@ bool PrnPropView::focusNextPrevChild(bool next) {
   return true;
 }
 
+/// Programs that take the value of a combo box for its name call it by its labels. A label belongs to one widget, so
+/// what several of them are for has one of its own, which is not seen.
 void PrnPropView::GiveNames() {
   for (const auto& widget : dialog_.Controls()) {
     if (widget->Row().kind == WidgetKind::SSTab) continue;
-    const views::SpokenName name(dialog_, *widget);
-    QWidget& glass = ViewFor(*widget).Glass();
-    glass.setAccessibleName(ToQString(name.Spoken()));
-    for (const Label* const label : name.Labels()) {
-      auto& shown = dynamic_cast<QLabel&>(ViewFor(*label).Glass());
-      if (!shown.buddy() && &shown != &glass) shown.setBuddy(&glass);
+    Named named{ViewFor(*widget).Glass(), views::SpokenName(dialog_, *widget), nullptr};
+    const auto labels = named.name.Labels();
+    QWidget* label = labels.size() == 1 ? &ViewFor(*labels.front()).Glass() : nullptr;
+    if (labels.size() > 1) {
+      label = named.label = new QLabel(named.glass.parentWidget());
+      label->hide();
     }
-    names_.emplace_back(widget.get(), name);
+    if (label && label != &named.glass) static_cast<QLabel*>(label)->setBuddy(&named.glass);
+    names_.push_back(std::move(named));
+  }
+  SpeakNames(nullptr);
+}
+
+void PrnPropView::SpeakNames(const Widget* changed) {
+  for (const Named& named : names_) {
+    if (changed && !named.name.DependsOn(*changed)) continue;
+    const QString name = ToQString(named.name.Spoken());
+    named.glass.setAccessibleName(name);
+    if (named.label) named.label->setText(WithoutShortcut(name));
   }
 }
 
@@ -145,15 +186,28 @@ QWidget& PrnPropView::ParentOf(const LayoutRow& row) {
   return parent.Row().kind == WidgetKind::SSTab ? tabs_->Page(row.page) : ViewFor(parent).Glass();
 }
 
+void PrnPropView::MakeReadable() {
+  const QPalette readable = WithReadableDisabled(palette());
+  if (readable != palette()) setPalette(readable);
+}
+
 /// Another style may leave another room for the captions.
 void PrnPropView::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) MakeReadable();
   if (event->type() != QEvent::StyleChange || names_.empty()) return;
   wasOnTop_ = {};
+  letters_.ChangeAll();
   Changed(dialog_.TabStrip(), WidgetProperty::Tab);
 }
 
 void PrnPropView::keyPressEvent(QKeyEvent* event) { tabs_->PickByKey(*event, false); }
+
+/// Styles show where the focus is once a key has led it there; it is to be seen from the beginning.
+void PrnPropView::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  window()->setAttribute(Qt::WA_KeyboardFocusChange);
+}
 
 /// A page that was never on top need not have been prepared for it.
 void PrnPropView::BringUp(std::int16_t page) {
@@ -166,11 +220,13 @@ void PrnPropView::BringUp(std::int16_t page) {
 void PrnPropView::Changed(Widget& widget, WidgetProperty what) {
   SSTab& tabStrip = dialog_.TabStrip();
   if (&widget == &tabStrip) BringUp(tabStrip.Tab());
+  const bool isFittedAnew = what == WidgetProperty::Caption || what == WidgetProperty::Font;
+  const bool areLettersOthers = isFittedAnew && letters_.Change(widget);
   ViewFor(widget).Show(what);
-  if (what != WidgetProperty::Caption && what != WidgetProperty::ToolTipText) return;
-  for (const auto& [named, name] : names_) {
-    if (name.DependsOn(widget)) ViewFor(*named).Glass().setAccessibleName(ToQString(name.Spoken()));
+  for (const auto& other : dialog_.Controls()) {
+    if (areLettersOthers && views::CaptionLetters::StandTogether(*other, widget)) ViewFor(*other).Refresh();
   }
+  if (what == WidgetProperty::Caption || what == WidgetProperty::ToolTipText) SpeakNames(&widget);
 }
 
 void PrnPropView::EntryChanged(EntryWidget& widget, std::int16_t index, EntryProperty what) {

@@ -4,14 +4,18 @@
 #include <QWidget>
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <unordered_map>
 #include <utility>
 #include <vector>
 
 #include "dialog/Dialog.h"
+#include "views/Fitting.h"
 #include "views/SpokenName.h"
 #include "views/qt/WidgetView.h"
+
+class QLabel;
 
 namespace ORXKMPrintProp::qt {
 
@@ -31,6 +35,16 @@ class PrnPropView : public QWidget, private View {
   explicit PrnPropView(Dialog& dialog, QWidget* parent = nullptr);
   ~PrnPropView() override;
 
+  /// The list in which an entry is looked for: the one that had the focus last, else the first one on the page. Null
+  /// where the user can reach none.
+  ListBox* ListAtHand() const;
+  /// The caret of that list is seen though the focus is elsewhere, null for none.
+  void ShowCaretOf(const ListBox* list);
+  /// Gives the focus to a widget on the page on top.
+  void Focus(const Widget& widget);
+  /// Carries out what the user does to the widget from outside of the dialog, with the signals that go with it.
+  void Perform(const Widget& widget, const std::function<void()>& action);
+
  signals:
   /// What the user did failed in the middle, as where a table refuses an operation. The dialog stays usable.
   /// @param message one line for a person
@@ -42,6 +56,7 @@ class PrnPropView : public QWidget, private View {
  protected:
   void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   bool focusNextPrevChild(bool next) override;
 
  private:
@@ -53,9 +68,12 @@ class PrnPropView : public QWidget, private View {
   void MousePointerChanged(std::int16_t pointer) override;
   void MsgBox(const Text& text, const Text& title) override;
 
+  /// Colours are those of the desktop, but for what is disabled.
+  void MakeReadable();
   void MakeWidgets();
   void SetTabOrder();
   void GiveNames();
+  void SpeakNames(const Widget* changed);
   void BringUp(std::int16_t page);
   /// Where the widget lies, in pixels from its parent.
   QRect PlaceOf(const Geometry& geometry) const;
@@ -65,9 +83,16 @@ class PrnPropView : public QWidget, private View {
   Dialog& dialog_;
   Reports reports_;
   std::unordered_map<const Widget*, WidgetView*> views_;
-  std::vector<std::pair<const Widget*, views::SpokenName>> names_;
+  struct Named {
+    QWidget& glass;
+    views::SpokenName name;
+    QLabel* label;  ///< that has all of a name of several labels, null for another name
+  };
+  std::vector<Named> names_;
+  views::CaptionLetters letters_;
   TabStripView* tabs_ = nullptr;
   std::array<bool, SSTab::kTabs> wasOnTop_ = {};
+  ListBox* lastList_ = nullptr;  ///< that had the focus
 };
 
 }  // namespace ORXKMPrintProp::qt

@@ -80,7 +80,10 @@ void TabStripView::BringUp() {
 void TabStripView::PickByKey(QKeyEvent& event, bool isOnTabs) {
   const auto tab = views::TabOf(widget_, ToKeyPress(event), isOnTabs);
   event.setAccepted(tab.has_value());
-  if (tab) Pick(*tab);
+  if (!tab) return;
+  // The focus that goes to the tabs is seen there.
+  window()->setAttribute(Qt::WA_KeyboardFocusChange);
+  Pick(*tab);
 }
 
 void TabStripView::Pick(int tab) {
@@ -90,16 +93,17 @@ void TabStripView::Pick(int tab) {
 void TabStripView::FitTabs() {
   auto& tabs = static_cast<TabBar&>(*tabs_);
   const QFont full = StoredFont();
-  const auto take = [&](int percent) {
-    const QFont font = Scaled(full, percent);
+  const auto take = [&](const views::Letters& letters) {
+    const QFont font = InLetters(full, letters);
     if (tabs.font() != font) tabs.setFont(font);
   };
   tabs.setElideMode(Qt::ElideNone);
-  const views::FittedTabs fitted = views::FitTabs(SSTab::kTabs, tabs.width(), [&](int tab, int percent) {
-    take(percent);
-    return tabs.Needed(tab);
-  });
-  take(fitted.percent);
+  const views::FittedTabs fitted =
+      views::FitTabs(SSTab::kTabs, tabs.width(), [&](int tab, const views::Letters& letters) {
+        take(letters);
+        return tabs.Needed(tab);
+      });
+  take(fitted.letters);
   tabs.areCut = fitted.areCut;
   if (fitted.areCut) tabs.setElideMode(Qt::ElideRight);
   for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) {

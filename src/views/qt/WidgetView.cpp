@@ -6,7 +6,6 @@
 #include <exception>
 
 #include "tables/RunTimeError.h"
-#include "views/Fitting.h"
 #include "views/qt/QtText.h"
 
 namespace ORXKMPrintProp::qt {
@@ -21,7 +20,7 @@ WidgetView::WidgetView(QWidget& glass, Widget& widget, const Reports& reports)
 }
 
 void WidgetView::Refresh() {
-  SetFont(StoredFont());
+  if (!CaptionRoom()) SetFont(StoredFont());
   ShowToolTip({});
   glass_.setEnabled(base_.Enabled());
   glass_.setVisible(base_.Visible());
@@ -69,8 +68,9 @@ void WidgetView::SetFont(const QFont& font) {
 
 QFont WidgetView::StoredFont() const { return ToQFont(base_.GetFont()); }
 
-QFont Scaled(QFont font, int percent) {
-  if (percent != 100) font.setPointSizeF(font.pointSizeF() * percent / 100);
+QFont InLetters(QFont font, const views::Letters& letters) {
+  if (letters.size != 100) font.setPointSizeF(font.pointSizeF() * letters.size / 100);
+  if (letters.width != 100) font.setStretch(letters.width);
   return font;
 }
 
@@ -89,13 +89,23 @@ void WidgetView::ShowToolTip(const QString& cutText) {
   glass_.setToolTip(ToolTipOf(ToQString(views::ToolTipWith(ToText(cutText), base_.ToolTipText()))));
 }
 
-QString WidgetView::FitCaption(int width) {
-  const QFont full = StoredFont();
-  const auto measure = [&full](TextView text, int percent) {
-    return QFontMetrics(Scaled(full, percent)).horizontalAdvance(ToQString(text));
+views::Measure WidgetView::MeasureOfCaption() const {
+  return [full = StoredFont()](TextView text, const views::Letters& letters) {
+    return QFontMetrics(InLetters(full, letters)).horizontalAdvance(ToQString(text));
   };
-  const views::FittedText fitted = views::Fit(base_.Caption(), width, measure);
-  SetFont(Scaled(full, fitted.percent));
+}
+
+std::optional<views::Letters> WidgetView::NeededLetters() const {
+  const auto measure = MeasureOfCaption();
+  const int room = CaptionRoom().value_or(0);
+  return views::FittingLetters(
+      [&](const views::Letters& letters) { return measure(base_.Caption(), letters) <= room; });
+}
+
+QString WidgetView::FitCaption() {
+  const views::FittedText fitted =
+      views::Fit(base_.Caption(), CaptionRoom().value_or(0), MeasureOfCaption(), reports_.letters(base_));
+  SetFont(InLetters(StoredFont(), fitted.letters));
   if (fitted.isCut) ShowToolTip(ToQString(base_.Caption()));
   return ToQString(fitted.text);
 }

@@ -4,16 +4,19 @@
 #include <QString>
 #include <QWidget>
 #include <functional>
+#include <optional>
 
 #include "dialog/Lists.h"
+#include "views/Fitting.h"
 #include "views/Places.h"
 
 namespace ORXKMPrintProp::qt {
 
-/// What is told of what the user does.
+/// What the view of a widget tells of what the user does, and asks.
 struct Reports {
   std::function<void(const QString& message)> failed;
   std::function<void(const Widget& widget)> used;
+  std::function<views::Letters(const Widget& widget)> letters;  ///< of its caption
 };
 
 /// The tooltip that shows the text as it is, also where it looks like markup.
@@ -39,10 +42,13 @@ class WidgetView {
   virtual void EntryRemoved(int /*index*/) {}
   virtual void EntriesCleared() {}
 
- protected:
   /// The only way in for what the user does: reports a failure, and shows the widget as it is afterwards, whether
   /// the action was carried out, refused or failed. The view may be gone when it returns.
   void Perform(const std::function<void()>& action);
+  /// The greatest letters in which the widget's caption fits, none where it is cut.
+  std::optional<views::Letters> NeededLetters() const;
+
+ protected:
   /// The same for what changes nothing.
   void Attempt(const std::function<void()>& action);
 
@@ -50,18 +56,22 @@ class WidgetView {
   void SetFont(const QFont& font);
   /// The widget's tooltip, and ahead of it a text that could not be shown in full.
   void ShowToolTip(const QString& cutText);
+  /// How many pixels there are for the caption; none in a widget that shows none.
+  virtual std::optional<int> CaptionRoom() const { return {}; }
   /// Sets font and tooltip for the caption to fit.
   /// @return what is to be shown of it.
-  QString FitCaption(int width);
+  QString FitCaption();
 
  private:
+  views::Measure MeasureOfCaption() const;
+
   QWidget& glass_;
   Widget& base_;
   const Reports& reports_;
 };
 
 QFont ToQFont(const Font& stored);
-QFont Scaled(QFont font, int percent);
+QFont InLetters(QFont font, const views::Letters& letters);
 views::Resolution ResolutionOf(const QWidget& widget);
 
 /// The same as a Qt widget of that class.

@@ -14,24 +14,30 @@ constexpr int kBoxBlank = 6;
 
 void FrameView::Refresh() {
   WidgetView::Refresh();
-  ShowCaption(Size().cx - 2 * kFrameIndent);
+  ShowCaption();
 }
+
+int FrameView::CaptionRoom() const { return Size().cx - 2 * kFrameIndent; }
 
 void LabelView::Refresh() {
   WidgetView::Refresh();
-  ShowCaption(Size().cx, true);
+  ShowCaption(true);
 }
 
 void ButtonView::Refresh() {
   WidgetView::Refresh();
-  ShowCaption(Size().cx - 2 * kButtonEdge);
+  ShowCaption();
 }
+
+int ButtonView::CaptionRoom() const { return Size().cx - 2 * kButtonEdge; }
 
 void CheckBoxView::Refresh() {
   WidgetView::Refresh();
-  ShowCaption(Size().cx - surface_.MetricOf(SM_CXMENUCHECK) - kBoxBlank);
+  ShowCaption();
   const WPARAM shown = widget_.Value() != 0 ? BST_CHECKED : BST_UNCHECKED;
   if (static_cast<WPARAM>(Send(BM_GETCHECK)) != shown) Send(BM_SETCHECK, shown);
 }
+
+int CheckBoxView::CaptionRoom() const { return Size().cx - surface_.MetricOf(SM_CXMENUCHECK) - kBoxBlank; }
 
 }  // namespace ORXKMPrintProp::win32

@@ -13,6 +13,7 @@ class FrameView : public ViewOf<Frame> {
 
  protected:
   WindowKind Kind() const override { return {L"BUTTON", BS_GROUPBOX}; }
+  int CaptionRoom() const override;
 };
 
 class LabelView : public ViewOf<Label> {
@@ -22,6 +23,7 @@ class LabelView : public ViewOf<Label> {
 
  protected:
   WindowKind Kind() const override { return {L"STATIC", SS_LEFTNOWORDWRAP | SS_NOPREFIX}; }
+  int CaptionRoom() const override { return Size().cx; }
 };
 
 /// What is pressed: the two are one class of window.
@@ -44,6 +46,7 @@ class ButtonView : public PressedView<CommandButton, &CommandButton::UserPress> 
 
  protected:
   WindowKind Kind() const override { return {L"BUTTON", BS_PUSHBUTTON | WS_TABSTOP}; }
+  int CaptionRoom() const override;
 };
 
 class CheckBoxView : public PressedView<CheckBox, &CheckBox::UserToggle> {
@@ -53,6 +56,7 @@ class CheckBoxView : public PressedView<CheckBox, &CheckBox::UserToggle> {
 
  protected:
   WindowKind Kind() const override { return {L"BUTTON", BS_CHECKBOX | WS_TABSTOP}; }
+  int CaptionRoom() const override;
 };
 
 }  // namespace ORXKMPrintProp::win32

@@ -73,7 +73,7 @@ void ComboBoxView::ShowPicked() {
   if (Send(CB_GETCURSEL) != picked) Send(CB_SETCURSEL, static_cast<WPARAM>(picked));
   const Text text = picked < 0 ? Text() : widget_.List(static_cast<std::int16_t>(picked));
   if (text == std::exchange(shown_, text)) return;
-  const bool isCut = surface_.MeasureOf(widget_.GetFont())(text, 100) > Size().cx - FieldEdge();
+  const bool isCut = surface_.MeasureOf(widget_.GetFont())(text, {}) > Size().cx - FieldEdge();
   surface_.SetToolTip(widget_, views::ToolTipWith(isCut ? text : Text(), widget_.ToolTipText()));
 }
 
@@ -90,7 +90,7 @@ void ComboBoxView::OnNotify(UINT notification) {
   // Entries that are wider than the field are read in the open list.
   const auto measure = surface_.MeasureOf(widget_.GetFont());
   int width = 0;
-  for (std::int16_t i = 0; i < widget_.ListCount(); ++i) width = std::max(width, measure(widget_.List(i), 100));
+  for (std::int16_t i = 0; i < widget_.ListCount(); ++i) width = std::max(width, measure(widget_.List(i), {}));
   Send(CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width + FieldEdge()));
 }
 

@@ -106,7 +106,10 @@ std::shared_ptr<DialogWindows> DialogWindows::Make(Dialog& dialog, HWND parent, 
 }
 
 DialogWindows::DialogWindows(Dialog& dialog, Reports reports)
-    : Surface(std::move(reports)), dialog_(dialog), dragPointer_(MakeDragPointer()) {}
+    : Surface(std::move(reports)),
+      dialog_(dialog),
+      dragPointer_(MakeDragPointer()),
+      letters_(dialog, [this](const Widget& widget) { return ViewFor(widget).NeededLetters(); }) {}
 
 DialogWindows::~DialogWindows() {
   ::DestroyCursor(dragPointer_);
@@ -238,6 +241,7 @@ void DialogWindows::FollowMonitor() {
   Resolution({dpi, dpi});
   Arrange();
   toolTips_.clear();
+  letters_.ChangeAll();
   for (const auto& [widget, view] : views_) view->Refresh();
 }
 
@@ -328,6 +332,7 @@ LRESULT DialogWindows::OnMessage(HWND window, UINT message, WPARAM wParam, LPARA
     case WM_SYSCOLORCHANGE:
     case WM_SETTINGCHANGE:
     case WM_THEMECHANGED:
+      letters_.ChangeAll();
       for (const auto& [widget, view] : views_) {
         ::SendMessageW(view->Window(), message, wParam, lParam);
         view->Refresh();
@@ -460,7 +465,12 @@ void DialogWindows::RelayToToolTip(HWND window, UINT message, WPARAM wParam, LPA
 
 void DialogWindows::Changed(Widget& widget, WidgetProperty what) {
   if (what == WidgetProperty::Tab) BringUp();
+  const bool isFittedAnew = what == WidgetProperty::Caption || what == WidgetProperty::Font;
+  const bool areLettersOthers = isFittedAnew && letters_.Change(widget);
   ViewFor(widget).Show(what);
+  for (const auto& other : dialog_.Controls()) {
+    if (areLettersOthers && views::CaptionLetters::StandTogether(*other, widget)) ViewFor(*other).Refresh();
+  }
   if (what == WidgetProperty::Visible) PlaceTool(widget);
   if (what == WidgetProperty::Caption || what == WidgetProperty::ToolTipText) SpeakNames(&widget);
 }

@@ -61,6 +61,7 @@ class DialogWindows final : public Surface, public std::enable_shared_from_this<
   void LostFocus(HWND to) override;
   void PassFocus(const Widget& widget) override;
   void SetToolTip(const Widget& widget, const Text& text) override;
+  views::Letters LettersOf(const Widget& widget) override { return letters_.Of(widget); }
   void RelayToToolTip(HWND window, UINT message, WPARAM wParam, LPARAM lParam) override;
 
   void Changed(Widget& widget, WidgetProperty what) override;
@@ -81,6 +82,7 @@ class DialogWindows final : public Surface, public std::enable_shared_from_this<
   std::unordered_map<const Widget*, std::unique_ptr<WidgetView>> views_;
   std::unordered_map<const Widget*, Text> toolTips_;  ///< as they have been told
   std::vector<std::pair<const Widget*, views::SpokenName>> names_;
+  views::CaptionLetters letters_;
   AccessibleNames accessible_;
   const Widget* lastFocused_ = nullptr;
 };

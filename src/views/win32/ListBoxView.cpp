@@ -317,7 +317,7 @@ void ListBoxView::ShowToolTipAt(int y) {
   RECT inside{};
   ::GetClientRect(Window(), &inside);
   const Text text = entry < 0 ? Text() : views::OnOneLine(widget_.List(static_cast<std::int16_t>(entry)));
-  const bool isCut = surface_.MeasureOf(widget_.GetFont())(text, 100) > inside.right - kTextEdge;
+  const bool isCut = surface_.MeasureOf(widget_.GetFont())(text, {}) > inside.right - kTextEdge;
   surface_.SetToolTip(widget_, isCut ? text : widget_.ToolTipText());
 }
 

@@ -22,13 +22,17 @@ class Ruler {
     ::GetTextExtentPoint32W(context_, ToWide(text).c_str(), static_cast<int>(text.size()), &size);
     return size.cx;
   }
-  int Height() const {
-    TEXTMETRICW metrics{};
-    ::GetTextMetricsW(context_, &metrics);
-    return metrics.tmHeight;
-  }
+  int Height() const { return Metrics().tmHeight; }
+  /// Of a character in the middle.
+  int Width() const { return Metrics().tmAveCharWidth; }
 
  private:
+  TEXTMETRICW Metrics() const {
+    TEXTMETRICW metrics{};
+    ::GetTextMetricsW(context_, &metrics);
+    return metrics;
+  }
+
   HDC context_ = ::GetDC(nullptr);
   HGDIOBJ former_;
 };
@@ -41,12 +45,14 @@ Surface::~Surface() {
 
 Surface::Held Surface::Hold() { return {Shared(), isOpen_ && reports_.hold ? reports_.hold() : nullptr}; }
 
-HFONT Surface::FontOf(const Font& font, int percent) {
+HFONT Surface::FontOf(const Font& font, const views::Letters& letters) {
   constexpr double kPointsPerInch = 72;
-  const long height = std::lround(font.Size * percent / 100 * resolution_.y / kPointsPerInch);
-  HFONT& made = fonts_[{font.Name, height, font.Weight}];
+  const long height = std::lround(font.Size * letters.size / 100 * resolution_.y / kPointsPerInch);
+  HFONT& made = fonts_[{font.Name, height, font.Weight, letters.width}];
   if (!made) {
-    made = ::CreateFontW(-static_cast<int>(height), 0, 0, 0, font.Weight, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+    const int width =
+        letters.width == 100 ? 0 : Ruler(FontOf(font, {.size = letters.size})).Width() * letters.width / 100;
+    made = ::CreateFontW(-static_cast<int>(height), width, 0, 0, font.Weight, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
                          OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH | FF_DONTCARE,
                          ToWide(font.Name).c_str());
   }
@@ -54,7 +60,9 @@ HFONT Surface::FontOf(const Font& font, int percent) {
 }
 
 views::Measure Surface::MeasureOf(const Font& font) {
-  return [this, &font](TextView text, int percent) { return Ruler(FontOf(font, percent)).WidthOf(text); };
+  return [this, &font](TextView text, const views::Letters& letters) {
+    return Ruler(FontOf(font, letters)).WidthOf(text);
+  };
 }
 
 int Surface::MetricOf(int metric) const {

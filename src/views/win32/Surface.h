@@ -35,10 +35,13 @@ class Surface {
   /// Of the system, at that resolution. @param metric SM_...
   int MetricOf(int metric) const;
 
-  /// The font in so many per cent of its size; lives as long as the windows.
-  HFONT FontOf(const Font& font, int percent = 100);
+  /// The font in these letters; lives as long as the windows.
+  HFONT FontOf(const Font& font, const views::Letters& letters = {});
   views::Measure MeasureOf(const Font& font);
   int HeightOf(const Font& font);
+
+  /// Those of the widget's caption.
+  virtual views::Letters LettersOf(const Widget& widget) = 0;
 
   /// The pointer that is seen now, null for that of each window.
   HCURSOR Pointer() const { return pointer_; }
@@ -66,7 +69,7 @@ class Surface {
  private:
   Reports reports_;
   views::Resolution resolution_{96, 96};
-  std::map<std::tuple<Text, long, int>, HFONT> fonts_;
+  std::map<std::tuple<Text, long, int, int>, HFONT> fonts_;
   bool isOpen_ = true;
 };
 

@@ -46,10 +46,10 @@ void TabStripView::Refresh() {
 void TabStripView::FitTabs() {
   const int width = static_cast<int>(Size().cx) - 4;
   const auto measure = surface_.MeasureOf(widget_.GetFont());
-  const views::FittedTabs fitted = views::FitTabs(SSTab::kTabs, width, [&](int tab, int percent) {
-    return measure(widget_.TabCaption(static_cast<std::int16_t>(tab)), percent) + 2 * kPadding;
+  const views::FittedTabs fitted = views::FitTabs(SSTab::kTabs, width, [&](int tab, const views::Letters& letters) {
+    return measure(widget_.TabCaption(static_cast<std::int16_t>(tab)), letters) + 2 * kPadding;
   });
-  SetFont(fitted.percent);
+  SetFont(fitted.letters);
   TabCtrl_SetPadding(Window(), kPadding, 3);
   TabCtrl_SetMinTabWidth(Window(), width / (fitted.areCut ? SSTab::kTabs : kTabsPerRow));
   TabCtrl_SetItemSize(Window(), 0, views::TabHeightAt(surface_.Resolution()) - 2);

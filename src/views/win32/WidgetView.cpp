@@ -132,14 +132,21 @@ void WidgetView::Attempt(const std::function<void()>& action) {
   }
 }
 
-void WidgetView::SetFont(int percent) {
-  const HFONT font = surface_.FontOf(base_.GetFont(), percent);
+void WidgetView::SetFont(const views::Letters& letters) {
+  const HFONT font = surface_.FontOf(base_.GetFont(), letters);
   if (reinterpret_cast<HFONT>(Send(WM_GETFONT)) != font) Send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
 }
 
-void WidgetView::ShowCaption(int width, bool asItIs) {
-  const views::FittedText fitted = views::Fit(base_.Caption(), width, surface_.MeasureOf(base_.GetFont()));
-  SetFont(fitted.percent);
+std::optional<views::Letters> WidgetView::NeededLetters() const {
+  const auto measure = surface_.MeasureOf(base_.GetFont());
+  return views::FittingLetters(
+      [&](const views::Letters& letters) { return measure(base_.Caption(), letters) <= CaptionRoom(); });
+}
+
+void WidgetView::ShowCaption(bool asItIs) {
+  const views::FittedText fitted =
+      views::Fit(base_.Caption(), CaptionRoom(), surface_.MeasureOf(base_.GetFont()), surface_.LettersOf(base_));
+  SetFont(fitted.letters);
   surface_.SetToolTip(base_, views::ToolTipWith(fitted.isCut ? base_.Caption() : Text(), base_.ToolTipText()));
   const std::wstring text = asItIs ? ToWide(fitted.text) : WithoutShortcut(fitted.text);
   if (ToWide(TextOf(window_)) != text) ::SetWindowTextW(window_, text.c_str());

@@ -41,6 +41,8 @@ class WidgetView {
   virtual void EntryAdded(int /*index*/) {}
   virtual void EntryRemoved(int /*index*/) {}
   virtual void EntriesCleared() {}
+  /// The greatest letters in which the widget's caption fits, none where it is cut.
+  std::optional<views::Letters> NeededLetters() const;
 
   /// A notification of the window to its parent. What it leads to is done by `Use`, when the window is done with it.
   virtual void OnNotify(UINT /*notification*/) {}
@@ -67,10 +69,12 @@ class WidgetView {
   /// The same for what changes nothing.
   void Attempt(const std::function<void()>& action);
   LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
-  void SetFont(int percent = 100);
+  void SetFont(const views::Letters& letters = {});
+  /// How many pixels there are for the caption; none in a widget that shows none.
+  virtual int CaptionRoom() const { return 0; }
   /// Sets the window's text, and its font and tooltip for it to fit.
   /// @param asItIs whether the window takes no character for the mark of a shortcut.
-  void ShowCaption(int width, bool asItIs = false);
+  void ShowCaption(bool asItIs = false);
   SIZE Size() const;
 
   Surface& surface_;

@@ -206,6 +206,21 @@ TEST_F(EditWindowTest, ALayoutIsEditedAsPlainText) {
   EXPECT_EQ(std::get<Text>(ReadSettings(file).general->Rows(1)->Value(u"HEADER_LAYOUT")), u"<b>\n&\u00fc");
 }
 
+TEST_F(EditWindowTest, AKeyShowsAllKeys) {
+  Open();
+  answers.push_back([](HWND box) {
+    std::string text;
+    for (HWND child = nullptr; (child = ::FindWindowExW(box, child, L"STATIC", nullptr));) {
+      text += ToUtf8(win32::TextOf(child));
+    }
+    EXPECT_NE(text.find("Ctrl+S: saves, as Apply does"), std::string::npos) << text;
+    EXPECT_EQ(text.find("Ctrl+F"), std::string::npos) << "there is no such field";
+    ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+  });
+  Key(VK_F1);
+  EXPECT_TRUE(answers.empty());
+}
+
 TEST_F(EditWindowTest, NothingIsSavedThatIsReadOnly) {
   Open(true);
   TypeTitle();

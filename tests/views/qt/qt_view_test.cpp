@@ -24,6 +24,9 @@
 #include <QTimer>
 #include <QToolTip>
 #include <QWheelEvent>
+#include <algorithm>
+#include <map>
+#include <set>
 
 #include "control/ORXQueryPrnProp.h"
 #include "control/SharedValues.h"
@@ -32,6 +35,7 @@
 #include "support/loaded.h"
 #include "support/stage.h"
 #include "support/widget_text.h"
+#include "views/qt/DisabledColors.h"
 #include "views/qt/QtPlatform.h"
 #include "views/qt/QtText.h"
 
@@ -128,6 +132,23 @@ TEST_F(QtViewTest, AnAssistiveProgramActsAsTheUser) {
   EXPECT_EQ(Glass(view, "txtCharColWidth2").accessibleName(), QStringLiteral("Width, Key & more"));
 }
 
+TEST_F(QtViewTest, TheFocusIsSeenOnTheTabsFromTheBeginningAndAfterAKeyOfThePages) {
+  auto& tabs = *view.findChild<QTabBar*>();
+  const auto isSeen = [&] {
+    const QImage with = tabs.grab().toImage();
+    const bool hadFocus = tabs.hasFocus();
+    tabs.clearFocus();
+    return hadFocus && tabs.grab().toImage() != with;
+  };
+  tabs.setFocus();
+  EXPECT_TRUE(isSeen());
+  auto& field = Glass<QLineEdit>(view, "txtGenPrnTitle");
+  field.setFocus(Qt::MouseFocusReason);
+  view.setAttribute(Qt::WA_KeyboardFocusChange, false);
+  QTest::keyClick(&field, Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_TRUE(isSeen());
+}
+
 TEST_F(QtViewTest, AllOfAChangeIsShownOnce) {
   Load("a b c d e f g h i j k l m n o p q r s t u v w x y z");
   const auto& list = Glass<QListView>(view, "lstPrint(1)");
@@ -194,7 +215,7 @@ TEST_F(QtViewTest, AViewMayGoWhileItsMessageIsOpen) {
 TEST_F(QtViewTest, ASecondViewShowsWhatTheControlHoldsAlready) {
   Load("a b x-");
   QApplication::setLayoutDirection(Qt::RightToLeft);
-  const PrnPropView second(dialog);
+  PrnPropView second(dialog);
   QApplication::setLayoutDirection(Qt::LeftToRight);
   const auto& shown = *second.findChild<QListView*>(QStringLiteral("lstPrint(1)"));
   EXPECT_EQ(shown.model()->rowCount(), 2);
@@ -202,7 +223,9 @@ TEST_F(QtViewTest, ASecondViewShowsWhatTheControlHoldsAlready) {
   EXPECT_EQ(second.size(), QSize(645, 396));
   EXPECT_EQ(shown.layoutDirection(), Qt::LeftToRight) << "the layout is not mirrored";
   dialog.Get<ListBox>(u"lstPrint", 1).AddItem(u"new");
+  const QImage atOnce = second.grab().toImage();
   QApplication::processEvents();
+  EXPECT_EQ(second.grab().toImage(), atOnce) << "a picture has all that the dialog holds";
   EXPECT_EQ(shown.model()->rowCount(), 3);
 }
 
@@ -231,7 +254,13 @@ TEST_F(QtViewTest, EveryCaptionIsReadableInFull) {
     if (texts) control.ORXControlTexts(texts);
     for (const auto& widget : dialog.Controls()) {
       if (widget->Caption().empty()) continue;
-      EXPECT_EQ(CaptionOf(Glass(view, ToAscii(widget->Row().name.Spelled()))), ToQString(widget->Caption()));
+      const QWidget& glass = Glass(view, ToAscii(widget->Row().name.Spelled()));
+      EXPECT_EQ(CaptionOf(glass), ToQString(widget->Caption()));
+      for (const auto& other : dialog.Controls()) {
+        if (other->Caption().empty() || !views::CaptionLetters::StandTogether(*widget, *other)) continue;
+        EXPECT_EQ(glass.font(), Glass(view, ToAscii(other->Row().name.Spelled())).font())
+            << glass.objectName().toStdString();
+      }
     }
     for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) {
       EXPECT_EQ(Unmarked(tabs.tabText(tab)), ToQString(dialog.TabStrip().TabCaption(tab)));
@@ -242,6 +271,58 @@ TEST_F(QtViewTest, EveryCaptionIsReadableInFull) {
   EXPECT_EQ(font.family(), QApplication::font().family());
   EXPECT_EQ(font.pointSizeF(), 8.25);
   EXPECT_EQ(font.weight(), QFont::Normal);
+}
+
+/// How well a text inside a widget is told from its ground, away from edges, a box and an arrow.
+double ContrastIn(QWidget& glass, WidgetKind kind) {
+  const int left = kind == WidgetKind::CheckBox ? 18 : 3, right = kind == WidgetKind::ComboBox ? 24 : 3;
+  const QImage image = glass.grab(glass.rect().adjusted(left, 3, -right, -3)).toImage();
+  std::map<QRgb, int> pixels;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) ++pixels[image.pixel(x, y)];
+  }
+  const auto ground =
+      std::max_element(pixels.begin(), pixels.end(), [](const auto& a, const auto& b) { return a.second < b.second; });
+  double contrast = 1;
+  for (const auto& [color, count] : pixels) contrast = std::max(contrast, ContrastOf(color, ground->first));
+  return contrast;
+}
+
+TEST_F(QtViewTest, WhatIsDisabledCanBeReadAndIsToldFromWhatIsNot) {
+  EXPECT_NEAR(ContrastOf(Qt::black, Qt::white), 21, 0.01);
+  EXPECT_NEAR(ContrastOf(QColor(0x767676), Qt::white), 4.54, 0.01);
+  const QPalette before = QApplication::palette();
+  QPalette dark(QColor(0x353535));
+  dark.setColor(QPalette::Base, 0x232323);
+  QPalette colorful(QColor(0x8899aa), QColor(0x778899));
+  const struct {
+    const char* name;
+    QPalette palette;
+    bool hasRoom;  ///< for what is fainter
+  } palettes[] = {{"light", before, true}, {"dark", dark, true}, {"of little contrast", colorful, false}};
+  const auto sales = host::ReadSettings(PRNPROP_EXAMPLES "/sales.json");
+  ASSERT_TRUE(control.ORXSetPrnTables(sales.general, sales.dimension, sales.member, sales.attribute));
+  for (const auto& row : palettes) {
+    QApplication::setPalette(row.palette);
+    std::set<WidgetKind> seen;
+    for (const auto& widget : dialog.Controls()) {
+      const LayoutRow& layout = widget->Row();
+      if (layout.page < 0 || layout.kind == WidgetKind::Frame) continue;
+      dialog.TabStrip().Tab(layout.page);
+      QWidget& glass = Glass(view, ToAscii(layout.name.Spelled()));
+      glass.setEnabled(true);
+      QApplication::processEvents();
+      const double enabled = ContrastIn(glass, layout.kind);
+      if (enabled < 2) continue;  // without a text
+      glass.setEnabled(false);
+      const double disabled = ContrastIn(glass, layout.kind);
+      EXPECT_TRUE(disabled >= 4.5 && (disabled < enabled || !row.hasRoom))
+          << row.name << ' ' << ToAscii(layout.name.Spelled()) << ": " << disabled << " of " << enabled;
+      seen.insert(layout.kind);
+    }
+    EXPECT_EQ(seen.size(), 6U);
+  }
+  QApplication::setPalette(before);
 }
 
 TEST_F(QtViewTest, WhatDoesNotFitIsReadInTheTooltip) {
