@@ -4,6 +4,9 @@
 
 #include <filesystem>
 #include <random>
+#ifndef _WIN32
+#include <unistd.h>
+#endif
 
 #include "control/SharedValues.h"
 #include "host/Files.h"
@@ -18,10 +21,36 @@ namespace {
 namespace fs = std::filesystem;
 using namespace ORXKMPrintProp::test;
 
+/// The file can't be written while it lives, not even by the superuser.
+class Protected {
+ public:
+  explicit Protected(fs::path file) : file_(std::move(file)) {
+    fs::permissions(file_, fs::perms::owner_write, fs::perm_options::remove);
+#ifndef _WIN32
+    constexpr uid_t kNobody = 65534;
+    EXPECT_TRUE(user_ != 0 || ::setresuid(kNobody, kNobody, 0) == 0);
+#endif
+  }
+  Protected(const Protected&) = delete;
+  Protected& operator=(const Protected&) = delete;
+  ~Protected() {
+#ifndef _WIN32
+    EXPECT_TRUE(user_ != 0 || ::setresuid(0, 0, 0) == 0);
+#endif
+    fs::permissions(file_, fs::perms::owner_write, fs::perm_options::add);
+  }
+
+ private:
+  const fs::path file_;
+#ifndef _WIN32
+  const uid_t user_ = ::getuid();
+#endif
+};
+
 /// An editor in a window, with a user who answers as he is told: by Cancel unless told otherwise. He edits a.json, a
 /// copy of an example. The steps are those of user_step.h and:
 ///
-///     open, open read-only, open for FILE
+///     open, open read-only, open for FILE, open protected (the file can't be written)
 ///     save, accept, close, refresh, undo, redo, revert
 ///     answer Discard (to the next question)
 ///     put OLD -> NEW (somebody else does, in the row of REGION), copy FILE (of the tests), remove (the file)
@@ -61,8 +90,8 @@ class EditorPlayer : public Player, public EditorWindow {
   void Focus(const Widget& widget) override { Tell("focus: " + ToAscii(widget.Row().name.Spelled())); }
 
   std::string Path(const std::string& name) const { return (folder_ / name).string(); }
-  /// With the folder left out.
-  void TellAll(std::string text);
+  std::string WithoutFolder(std::string text) const;
+  void TellAll(const std::string& text);
   void Open(const std::string& how);
   void Put(const std::string& change);
   void Show(const std::string& file);
@@ -103,16 +132,25 @@ void EditorPlayer::DoStep(const std::string& line) {
   editor_->OnUsed(*step.widget);
 }
 
-void EditorPlayer::TellAll(std::string text) {
+std::string EditorPlayer::WithoutFolder(std::string text) const {
   const std::string folder = Path("");
   for (auto at = text.find(folder); at != std::string::npos; at = text.find(folder)) text.erase(at, folder.size());
-  ForEach(text, "\n", [this](const std::string& line) { Tell(line); });
+  return text;
+}
+
+void EditorPlayer::TellAll(const std::string& text) {
+  ForEach(WithoutFolder(text), "\n", [this](const std::string& line) { Tell(line); });
 }
 
 void EditorPlayer::Open(const std::string& how) {
   EditOptions options{.file = Path("a.json"), .readOnly = how == "read-only"};
   if (how.starts_with("for ")) options.out = Path(how.substr(4));
   editor_.reset();
+  std::optional<Protected> isProtected;
+  if (how == "protected") {
+    isProtected.emplace(options.file);
+    options = ToEdit(options);
+  }
   settings_ = std::make_unique<EditedSettings>(options, Platform::Plain());
   editor_ = std::make_unique<Editor>(*settings_, *this);
   editor_->Show();
@@ -138,7 +176,7 @@ void EditorPlayer::Look(const std::string& widget) {
 
 Player::Lines EditorPlayer::State() {
   Lines lines{
-      {"note", window_.note.empty() ? "none" : window_.note},
+      {"note", window_.note.empty() ? "none" : WithoutFolder(window_.note)},
       {"window", std::string(window_.isModified ? "modified" : "unmodified") + (window_.canApply ? ", apply" : "") +
                      (window_.isStale ? ", older" : "")},
       {"steps", (window_.canUndo ? "undo " + window_.undo + "; " : "") +

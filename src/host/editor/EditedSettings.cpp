@@ -1,7 +1,6 @@
 #include "host/editor/EditedSettings.h"
 
 #include <set>
-#include <stdexcept>
 #include <string_view>
 #include <utility>
 
@@ -15,23 +14,10 @@
 #include "tables/RunTimeError.h"
 
 namespace ORXKMPrintProp::host {
-namespace {
-
-void CheckTarget(const EditOptions& options) {
-  try {
-    CheckReplaceable(options.out.value_or(options.file));
-  } catch (const DocumentError& error) {
-    const char* const otherwise =
-        options.out ? "" : "; it can be opened with --read-only, or with -o to save elsewhere";
-    throw std::runtime_error(error.what() + std::string(otherwise));
-  }
-}
-
-}  // namespace
-
 EditedSettings::EditedSettings(const EditOptions& options, const Platform& platform)
     : document_(ReadSettings(options.file)),
       target_(options.out.value_or(options.file)),
+      protection_(options.protection),
       targetIsBehind_(options.out && *options.out != options.file),
       targetStamp_(StampOf(target_)),
       file_(SnapshotOf(document_)),
@@ -140,15 +126,19 @@ void EditedSettings::Restore(const HostSettings& settings) {
   FindChange();
 }
 
-std::unique_ptr<EditedSettings> OpenToEdit(const EditOptions& options, const Platform& platform,
-                                           const std::function<void(const std::string& words)>& tell) {
-  try {
-    if (!options.readOnly || options.out) CheckTarget(options);
-    return std::make_unique<EditedSettings>(options, platform);
-  } catch (const std::exception& error) {
-    if (tell) tell(error.what());
-    throw;
+EditOptions ToEdit(EditOptions options) {
+  for (const std::string& file : {options.file, options.out.value_or("")}) {
+    if (IsFolder(file)) throw DocumentError({.file = file}, "It is a folder; name a settings document in it");
   }
+  if (options.readOnly && !options.out) return options;
+  try {
+    CheckReplaceable(options.out.value_or(options.file));
+  } catch (const DocumentError& error) {
+    if (options.out) throw;
+    options.readOnly = true;
+    options.protection = error.what();
+  }
+  return options;
 }
 
 }  // namespace ORXKMPrintProp::host

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -19,6 +18,7 @@ struct EditOptions {
   std::optional<std::string> texts = {};  ///< a document whose text table is used in the place of the file's
   std::optional<std::string> out = {};    ///< where to save, instead of the file itself
   bool readOnly = false;
+  std::string protection = {};  ///< why the file can't be written, where that makes it read-only
 };
 
 /// What a host has of settings, apart from what stands in the dialog: enough to load them again.
@@ -39,6 +39,8 @@ class EditedSettings {
   const std::string& Source() const { return document_.file; }
   const std::string& Target() const { return target_; }
   bool IsReadOnly() const { return control_.IsReadOnly(); }
+  /// Why it is read-only though nobody has asked for it; else empty.
+  const std::string& Protection() const { return protection_; }
 
   /// One line for each row or cell of the file that a save does not bring back.
   const std::vector<std::string>& Losses() const { return losses_; }
@@ -87,6 +89,7 @@ class EditedSettings {
 
   SettingsDocument document_;
   std::string target_;
+  std::string protection_;
   bool targetIsBehind_;
   FileStamp targetStamp_;
   Snapshot file_;
@@ -97,10 +100,8 @@ class EditedSettings {
   bool isChanged_ = false;
 };
 
-/// Opens a document for a window in which it is edited.
-/// @param tell shows the words of what is thrown to a person, in a window; empty where standard error is seen.
-/// @throws what the constructor throws, also for a file that could not be saved.
-std::unique_ptr<EditedSettings> OpenToEdit(const EditOptions& options, const Platform& platform,
-                                           const std::function<void(const std::string& words)>& tell);
+/// The same for a document that is to be edited: read-only where the file could not be saved.
+/// @throws DocumentError for a folder, and where `out` could not be saved.
+EditOptions ToEdit(EditOptions options);
 
 }  // namespace ORXKMPrintProp::host

@@ -247,7 +247,12 @@ void Editor::ShowState() {
                      .canRevert = IsModified(),
                      .undo = undo ? undo->name : "",
                      .redo = redo ? redo->name : "",
-                     .note = fields.empty() ? "" : kNoNumber + " " + Joined(fields, "; ")});
+                     .note = !fields.empty() ? kNoNumber + " " + Joined(fields, "; ") : ProtectionNote()});
+}
+
+std::string Editor::ProtectionNote() const {
+  const std::string& why = settings_.Protection();
+  return why.empty() ? "" : "Opened read-only, since it could not be saved. " + why;
 }
 
 bool Editor::Accept() { return isDone_ = Save(); }
