@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <deque>
 #include <filesystem>
+#include <map>
 #include <random>
 #ifndef _WIN32
 #include <unistd.h>
@@ -20,6 +23,14 @@ namespace {
 
 namespace fs = std::filesystem;
 using namespace ORXKMPrintProp::test;
+
+const std::map<std::string, Choice> kAnswers{{"Ok", Choice::Ok},
+                                             {"Save", Choice::Save},
+                                             {"Discard", Choice::Discard},
+                                             {"Reload", Choice::Reload},
+                                             {"SaveAs", Choice::SaveAs},
+                                             {"ShowDifferences", Choice::ShowDifferences},
+                                             {"SaveAllTheSame", Choice::SaveAllTheSame}};
 
 /// The file can't be written while it lives, not even by the superuser.
 class Protected {
@@ -51,8 +62,8 @@ class Protected {
 /// copy of an example. The steps are those of user_step.h and:
 ///
 ///     open, open read-only, open for FILE, open protected (the file can't be written)
-///     save, accept, close, refresh, undo, redo, revert
-///     answer Discard (to the next question)
+///     save, save as, accept, close, refresh, undo, redo, revert
+///     answer Discard, answer ShowDifferences Reload (to the next questions), name FILE (in the next dialog of files)
 ///     put OLD -> NEW (somebody else does, in the row of REGION), copy FILE (of the tests), remove (the file)
 ///     show FILE, look WIDGET WIDGET (and so on, what they hold)
 ///
@@ -80,12 +91,20 @@ class EditorPlayer : public Player, public EditorWindow {
   void ShowMeaning(const Snapshot&, const Snapshot&) override {}
   void ShowState(const EditorState& shown) override { window_ = shown; }
   Choice Ask(const Question& question) override {
-    TellAll(question.text + "\n" + question.further);
-    return std::exchange(answer_, Choice::Cancel);
+    TellAll(question.text + (question.further.empty() ? "" : "\n") + question.further);
+    if (answers_.empty()) return Choice::Cancel;
+    const Choice answer = answers_.front();
+    answers_.pop_front();
+    EXPECT_TRUE(std::ranges::count(question.choices, answer) == 1);
+    return answer;
   }
   std::optional<Text> EditLayout(const Text&, const Text& layout, bool) override {
     Tell("layout: '" + ToAscii(layout) + "'");
     return u"<head>";
+  }
+  std::optional<std::string> PickFile(FileUse, const std::string& proposed) override {
+    TellAll("proposed: " + proposed);
+    return std::exchange(picked_, std::nullopt);
   }
   void Focus(const Widget& widget) override { Tell("focus: " + ToAscii(widget.Row().name.Spelled())); }
 
@@ -100,7 +119,8 @@ class EditorPlayer : public Player, public EditorWindow {
   const fs::path folder_ = fs::path(testing::TempDir()) / ("editor_test-" + std::to_string(std::random_device{}()));
   std::map<std::string, std::pair<std::string, int>> contents_;  ///< of the files, and how often they were written
   EditorState window_;
-  Choice answer_ = Choice::Cancel;
+  std::deque<Choice> answers_;
+  std::optional<std::string> picked_;
   std::unique_ptr<EditedSettings> settings_;
   std::unique_ptr<Editor> editor_;
 };
@@ -111,14 +131,16 @@ void EditorPlayer::DoStep(const std::string& line) {
   const auto answer = [this](bool yes) { Tell(yes ? "yes" : "no"); };
   const Steps steps{
       {"open", [&] { Open(rest); }},
-      {"save", [&] { answer(editor_->Save()); }},
+      {"save", [&] { answer(rest == "as" ? editor_->SaveAs() : editor_->Save()); }},
       {"accept", [&] { answer(editor_->Accept()); }},
       {"close", [&] { answer(editor_->MayClose()); }},
       {"refresh", [&] { answer(editor_->Read()); }},
       {"undo", [&] { editor_->Undo(); }},
       {"redo", [&] { editor_->Redo(); }},
       {"revert", [&] { editor_->Revert(); }},
-      {"answer", [&] { answer_ = rest == "Save" ? Choice::Save : Choice::Discard; }},
+      {"answer",
+       [&] { ForEach(rest, " ", [this](const std::string& name) { answers_.push_back(kAnswers.at(name)); }); }},
+      {"name", [&] { picked_ = Path(rest); }},
       {"put", [&] { Put(rest); }},
       {"copy", [&] { SaveFile(Path("a.json"), ReadFile(PRNPROP_HOST_TESTS "/" + rest)); }},
       {"remove", [&] { fs::remove(Path("a.json")); }},

@@ -167,6 +167,36 @@ TEST_F(SettingsWindowTest, TheUserIsAskedBeforeItCloses) {
   EXPECT_NE(ReadFile(file).find("Orders by region!"), std::string::npos);
 }
 
+TEST_F(SettingsWindowTest, AnOvertakenFileIsComparedReloadedOrLeft) {
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  const std::string question =
+      "The file has changed since it was opened.\nTo save replaces what stands in " + file + " now.";
+  Open();
+  Type("!");
+  SaveFile(file, ReadFile(PRNPROP_EXAMPLES "/small.json") + "\n");
+  Answer(QMessageBox::Open, question);
+  Answer(QMessageBox::Ok,
+         "A save changes this in the file:\nGeneral\n  Print title: 'Orders by region' is now 'Orders by region!'");
+  Answer(QMessageBox::Retry, question);
+  Press(QDialogButtonBox::Ok);
+  EXPECT_EQ(State() + Find<QLineEdit>("txtGenPrnTitle").text().toStdString(), "openOrders by region");
+  Press("undo");
+  EXPECT_EQ(State() + Find<QLineEdit>("txtGenPrnTitle").text().toStdString(), "open modified applyOrders by region!");
+  SaveFile(file, before);
+  Answer(QMessageBox::SaveAll, question);
+  answers.push_back([this](QDialog& dialog) {
+    auto& files = dynamic_cast<QFileDialog&>(dialog);
+    EXPECT_EQ(files.selectedFiles().front().toStdString(), file);
+    files.selectFile(QStringLiteral("b"));
+    dialog.accept();
+  });
+  Press(QDialogButtonBox::Apply);
+  EXPECT_EQ(State() + window->windowTitle().toStdString() + window->windowFilePath().toStdString(),
+            "openb.json[*] - Print settings" + Path("b.json"));
+  EXPECT_EQ(ReadFile(file), before);
+  EXPECT_NE(ReadFile(Path("b.json")).find("Orders by region!"), std::string::npos);
+}
+
 TEST_F(SettingsWindowTest, ALayoutIsEditedAsPlainText) {
   Open();
   const auto edit = [this](const QString& expected, const QString& typed, QDialogButtonBox::StandardButton end) {

@@ -68,8 +68,13 @@ class EditedSettings {
   bool IsTargetOvertaken() const { return StampOf(target_) != targetStamp_; }
   bool IsTargetThere() const { return StampOf(target_) != FileStamp{}; }
 
-  /// Reads the tables and replaces the target. @throws RunTimeError, DocumentError; the target is untouched then.
-  void Save();
+  /// Reads the tables and replaces the file, which is the target from then on. What was read-only since it could not be
+  /// saved can be changed then.
+  /// @throws RunTimeError, DocumentError; the file is untouched then.
+  void SaveIn(const std::string& file);
+  /// Loads what stands in the target now, which counts as unchanged. @throws DocumentError, LoadError; nothing is
+  /// changed then.
+  void Reload();
 
   /// The layout that the host knows, empty when there is none.
   Text LayoutOf(const LayoutKey& key) const;
@@ -83,11 +88,15 @@ class EditedSettings {
   void Restore(const HostSettings& settings);
 
  private:
+  /// @throws LoadError; nothing is changed then that was loaded before.
+  void Take(SettingsDocument document, bool readOnly);
+  /// @throws LoadError; the former ones are used then.
+  void UseTextsOf(const SettingsDocument& document);
   void Load();
-  void FindLosses();
   void FindChange();
 
   SettingsDocument document_;
+  std::optional<MemoryTableRef> texts_;  ///< used in the place of those of a document
   std::string target_;
   std::string protection_;
   bool targetIsBehind_;

@@ -5,7 +5,9 @@
 #include <span>
 #include <utility>
 
+#include "host/Differences.h"
 #include "host/DocumentError.h"
+#include "host/Load.h"
 #include "host/Utf8.h"
 #include "tables/RunTimeError.h"
 #include "views/SpokenName.h"
@@ -258,13 +260,34 @@ std::string Editor::ProtectionNote() const {
 bool Editor::Accept() { return isDone_ = Save(); }
 
 bool Editor::Save() {
-  if (!Read()) return false;
-  if (!AcceptsFields()) return false;
+  if (!Read() || !AcceptsFields()) return false;
   if (!settings_.IsToBeSaved()) return true;
-  if (!AcceptsLosses() || !AcceptsOvertaking()) return false;
+  if (!AcceptsLosses()) return false;
+  switch (ChoiceOnOvertaking()) {
+    case Choice::Save:
+    case Choice::SaveAllTheSame:
+      return SaveIn(settings_.Target());
+    case Choice::SaveAs:
+      return SaveElsewhere();
+    case Choice::Reload:
+      Reload();
+      return false;
+    default:
+      return false;
+  }
+}
+
+bool Editor::SaveAs() { return Read() && AcceptsFields() && AcceptsLosses() && SaveElsewhere(); }
+
+bool Editor::SaveElsewhere() {
+  const auto file = window_.PickFile(FileUse::Save, settings_.Target());
+  return file && SaveIn(*file);
+}
+
+bool Editor::SaveIn(const std::string& file) {
   static constexpr const char* kFailed = "The settings could not be saved.";
   try {
-    settings_.Save();
+    settings_.SaveIn(file);
   } catch (const DocumentError& error) {
     Tell(kFailed, error.what());
     return false;
@@ -276,6 +299,20 @@ bool Editor::Save() {
   saved_ = now_;
   Show();
   return true;
+}
+
+void Editor::Reload() {
+  try {
+    settings_.Reload();
+  } catch (const std::exception& error) {
+    return Tell("The file could not be loaded again.", error.what());
+  }
+  BeginStep(nullptr, "Reload");
+  EndStep(ContentOf(GetDialog()));
+  now_.readNumber = now_.number;
+  steps_.Last().after = saved_ = now_;
+  printOrder_ = PrintOrder(now_.page->page);
+  Show();
 }
 
 bool Editor::AcceptsFields() {
@@ -297,12 +334,43 @@ bool Editor::AcceptsLosses() {
   return AcceptsSave(count, Joined(std::span(lines).first(kShown), "\n") + "\n\u2026", all);
 }
 
-bool Editor::AcceptsOvertaking() {
-  if (!settings_.IsTargetOvertaken()) return true;
-  const std::string& target = settings_.Target();
-  return settings_.IsTargetThere()
-             ? AcceptsSave("The file has changed since it was opened.", "Replace " + target + " all the same?")
-             : AcceptsSave("The file is gone since it was opened.", "Save in " + target + " all the same?");
+Choice Editor::ChoiceOnOvertaking() {
+  while (settings_.IsTargetOvertaken()) {
+    Question question{
+        .kind = Question::Kind::Warning,
+        .text = "The file has changed since it was opened.",
+        .further = "To save replaces what stands in " + settings_.Target() + " now.",
+        .choices = {Choice::Reload, Choice::SaveAs, Choice::ShowDifferences, Choice::SaveAllTheSame, Choice::Cancel},
+        .preset = Choice::Cancel};
+    if (!settings_.IsTargetThere()) {
+      question.text = "The file is gone since it was opened.";
+      question.further = "To save makes " + settings_.Target() + " anew.";
+      question.choices = {Choice::SaveAs, Choice::SaveAllTheSame, Choice::Cancel};
+    }
+    const Choice choice = window_.Ask(question);
+    if (choice != Choice::ShowDifferences) return choice;
+    ShowDifferences();
+  }
+  return Choice::Save;
+}
+
+void Editor::ShowDifferences() {
+  std::vector<std::string> lines;
+  try {
+    const auto file = SettingsOf(ReadSettings(settings_.Target()));
+    const auto now = SettingsOf(DocumentOf(settings_.Now()));
+    lines = LinesOf(DifferencesOf(*file, *now, WordsBesideCaptions(UserLanguage())));
+  } catch (const std::exception& error) {
+    return Tell("The file can't be compared.", error.what());
+  }
+  constexpr std::size_t kShown = 15;
+  Question told{.kind = Question::Kind::Information,
+                .text = lines.empty() ? "The settings say the same as the file." : "A save changes this in the file:",
+                .further = Joined(lines, "\n")};
+  if (lines.size() > kShown) {
+    told.details = std::exchange(told.further, Joined(std::span(lines).first(kShown), "\n") + "\n\u2026");
+  }
+  window_.Ask(told);
 }
 
 bool Editor::AcceptsSave(std::string text, std::string further, std::string details) {

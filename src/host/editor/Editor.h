@@ -12,11 +12,11 @@
 
 namespace ORXKMPrintProp::host {
 
-enum class Choice { Ok, Save, Discard, Cancel };
+enum class Choice { Ok, Save, Discard, Reload, SaveAs, ShowDifferences, SaveAllTheSame, Cancel };
 
 /// What a message box tells or asks; all of it is plain text in UTF-8.
 struct Question {
-  enum class Kind { Failure, Warning, Question };
+  enum class Kind { Failure, Warning, Question, Information };
 
   Kind kind = Kind::Failure;
   std::string text;
@@ -25,6 +25,9 @@ struct Question {
   std::vector<Choice> choices{Choice::Ok};
   Choice preset = Choice::Ok;  ///< what Enter takes; closing the box is Cancel
 };
+
+/// What a file is picked for.
+enum class FileUse { Open, Save };
 
 /// What a window shows of an editor's state.
 struct EditorState {
@@ -49,6 +52,9 @@ class EditorWindow {
   virtual Choice Ask(const Question& question) = 0;
   /// Lets the user edit a layout, or only look at it. @return what it is now, none when it was left as it was.
   virtual std::optional<Text> EditLayout(const Text& name, const Text& layout, bool readOnly) = 0;
+  /// Lets the user pick a settings document, and asks him before a save replaces one that is there.
+  /// @param proposed that is shown at first, or empty. @return its path, none where he has picked none
+  virtual std::optional<std::string> PickFile(FileUse use, const std::string& proposed) = 0;
   /// The focus is to go to a widget of the dialog, which is on the page on top.
   virtual void Focus(const Widget& widget) = 0;
 };
@@ -69,6 +75,8 @@ class Editor : private ORXQueryPrnPropEvents {
   Editor(EditedSettings& settings, EditorWindow& window);
   ~Editor() override;
 
+  /// What is edited, and saved to.
+  const std::string& File() const { return settings_.Target(); }
   /// The window's title. @param modified what stands behind the name of a file that has changed.
   std::string Title(std::string_view modified) const;
   void Show();
@@ -89,7 +97,9 @@ class Editor : private ORXQueryPrnPropEvents {
   bool Read();
   /// Both may ask the user first, and tell him when it fails. @return whether the target holds the settings now.
   bool Save();
-  /// The same, and the window is to close when it is done.
+  /// The same in a file that the user names, which is the one that is edited from then on.
+  bool SaveAs();
+  /// Like `Save`, and the window is to close when it is done.
   bool Accept();
   /// Whether the window may close; may ask the user whether to save.
   bool MayClose();
@@ -117,7 +127,13 @@ class Editor : private ORXQueryPrnPropEvents {
   std::string ProtectionNote() const;
   bool AcceptsFields();
   bool AcceptsLosses();
-  bool AcceptsOvertaking();
+  /// What is to be done where somebody else has written the target: Save where nobody has.
+  Choice ChoiceOnOvertaking();
+  void ShowDifferences();
+  /// What stands in the target takes the place of the user's settings, which is a step.
+  void Reload();
+  bool SaveElsewhere();
+  bool SaveIn(const std::string& file);
   bool AcceptsSave(std::string text, std::string further, std::string details = {});
   void Tell(const std::string& what, const std::string& why);
 

@@ -6,6 +6,7 @@
 
 #include "host/editor/Editor.h"
 #include "host/win32/ButtonRow.h"
+#include "host/win32/FilePicker.h"
 #include "host/win32/Metrics.h"
 #include "host/win32/Viewport.h"
 #include "views/win32/PrnPropView.h"
@@ -38,6 +39,9 @@ class EditWindow : private EditorWindow {
   void ShowState(const EditorState& state) override;
   Choice Ask(const Question& question) override;
   std::optional<Text> EditLayout(const Text& name, const Text& layout, bool readOnly) override;
+  std::optional<std::string> PickFile(FileUse use, const std::string& proposed) override {
+    return PickFileIn(window_, use, proposed);
+  }
   void Focus(const Widget& widget) override { view_->Focus(widget); }
 
   static LRESULT CALLBACK OnMessageOf(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

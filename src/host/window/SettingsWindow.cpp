@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "host/window/FilePicker.h"
 #include "host/window/LayoutEditor.h"
 #include "host/window/MeaningPanel.h"
 #include "views/qt/PrnPropView.h"
@@ -25,17 +26,25 @@ namespace {
 
 using qt::ToQString;
 
-QMessageBox::StandardButton ButtonOf(Choice choice) {
-  switch (choice) {
-    case Choice::Ok:
-      return QMessageBox::Ok;
-    case Choice::Save:
-      return QMessageBox::Save;
-    case Choice::Discard:
-      return QMessageBox::Discard;
-    default:
-      return QMessageBox::Cancel;
-  }
+struct ChoiceButton {
+  Choice choice;
+  QMessageBox::StandardButton button;
+  const char* caption = nullptr;  ///< instead of the button's own
+};
+constexpr ChoiceButton kChoices[] = {
+    {Choice::Ok, QMessageBox::Ok},
+    {Choice::Save, QMessageBox::Save},
+    {Choice::Discard, QMessageBox::Discard},
+    {Choice::Reload, QMessageBox::Retry, "&Reload"},
+    {Choice::SaveAs, QMessageBox::SaveAll, "Save &as..."},
+    {Choice::ShowDifferences, QMessageBox::Open, "Show &what differs"},
+    {Choice::SaveAllTheSame, QMessageBox::Ignore, "&Save all the same"},
+    {Choice::Cancel, QMessageBox::Cancel},
+};
+
+const ChoiceButton& RowOf(Choice choice) {
+  return *std::find_if(std::begin(kChoices), std::end(kChoices),
+                       [&](const ChoiceButton& row) { return row.choice == choice; });
 }
 
 QMessageBox::Icon IconOf(Question::Kind kind) {
@@ -44,6 +53,8 @@ QMessageBox::Icon IconOf(Question::Kind kind) {
       return QMessageBox::Warning;
     case Question::Kind::Question:
       return QMessageBox::Question;
+    case Question::Kind::Information:
+      return QMessageBox::Information;
     default:
       return QMessageBox::Critical;
   }
@@ -75,8 +86,6 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
       view_(new qt::PrnPropView(settings.Control().GetDialog(), this)),
       panel_(new MeaningPanel([this] { return editor_.Read(); }, this)),
       dialog_(new QScrollArea(this)) {
-  setWindowTitle(QString::fromStdString(editor_.Title("[*]")));
-  setWindowFilePath(QString::fromStdString(settings.Target()));
   auto* const across = new QHBoxLayout;
   dialog_->setWidget(view_);
   dialog_->setFrameShape(QFrame::NoFrame);
@@ -218,6 +227,8 @@ void SettingsWindow::closeEvent(QCloseEvent* event) { event->setAccepted(editor_
 void SettingsWindow::ShowMeaning(const Snapshot& file, const Snapshot& now) { panel_->Show(file, now); }
 
 void SettingsWindow::ShowState(const EditorState& state) {
+  setWindowTitle(QString::fromStdString(editor_.Title("[*]")));
+  setWindowFilePath(QString::fromStdString(editor_.File()));
   panel_->SetState(state.isStale, QString::fromStdString(state.note));
   setWindowModified(state.isModified);
   SetEnabled(*apply_, state.canApply);
@@ -237,15 +248,19 @@ void SettingsWindow::SetEnabled(QPushButton& button, bool enabled) {
 Choice SettingsWindow::Ask(const Question& question) {
   QMessageBox box(IconOf(question.kind), QStringLiteral("Print settings"), QString::fromStdString(question.text), {},
                   this);
-  for (const Choice choice : question.choices) box.addButton(ButtonOf(choice));
+  for (const Choice choice : question.choices) {
+    const ChoiceButton& row = RowOf(choice);
+    QPushButton* const button = box.addButton(row.button);
+    if (row.caption) button->setText(QLatin1String(row.caption));
+  }
   box.setInformativeText(QString::fromStdString(question.further));
   // The box has no say over the format of that one.
   for (auto* const label : box.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
   if (!question.details.empty()) box.setDetailedText(QString::fromStdString(question.details));
-  box.setDefaultButton(ButtonOf(question.preset));
+  box.setDefaultButton(RowOf(question.preset).button);
   const int pressed = box.exec();
   const auto chosen = std::find_if(question.choices.begin(), question.choices.end(),
-                                   [&](Choice choice) { return ButtonOf(choice) == pressed; });
+                                   [&](Choice choice) { return RowOf(choice).button == pressed; });
   return chosen == question.choices.end() ? Choice::Cancel : *chosen;
 }
 
@@ -253,6 +268,10 @@ std::optional<Text> SettingsWindow::EditLayout(const Text& name, const Text& lay
   const auto edited = host::EditLayout(ToQString(name), ToQString(layout), readOnly, this);
   if (!edited) return {};
   return qt::ToText(*edited);
+}
+
+std::optional<std::string> SettingsWindow::PickFile(FileUse use, const std::string& proposed) {
+  return PickFileIn(this, use, proposed);
 }
 
 void SettingsWindow::Focus(const Widget& widget) {

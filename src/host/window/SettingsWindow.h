@@ -40,6 +40,7 @@ class SettingsWindow : public QWidget, private EditorWindow {
   void ShowState(const EditorState& state) override;
   Choice Ask(const Question& question) override;
   std::optional<Text> EditLayout(const Text& name, const Text& layout, bool readOnly) override;
+  std::optional<std::string> PickFile(FileUse use, const std::string& proposed) override;
   void Focus(const Widget& widget) override;
 
   QWidget* MakeButtons();

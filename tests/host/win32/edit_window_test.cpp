@@ -178,6 +178,25 @@ TEST_F(EditWindowTest, EscapeAsksAndEachAnswerDoesWhatItSays) {
   }
 }
 
+TEST_F(EditWindowTest, AnOvertakenFileIsComparedReloadedOrReplaced) {
+  const std::string question =
+      "The file has changed since it was opened.\r\n\r\nTo save replaces what stands in " + file + " now.";
+  Open();
+  TypeTitle();
+  SaveFile(file, before + "\n");
+  Answer(IDHELP, question);
+  Answer(IDOK,
+         "A save changes this in the file:\r\n\r\nGeneral\r\n  Print title: '" + sales + "' is now '7" + sales + "'");
+  Answer(IDRETRY, question);
+  Press(IDOK);
+  EXPECT_EQ(State() + ToUtf8(win32::TextOf(Find("txtGenPrnTitle"))), "open" + sales);
+  Key('Z', VK_CONTROL);
+  SaveFile(file, before);
+  Answer(IDIGNORE, question);
+  Press(IDOK);
+  EXPECT_EQ(State() + Title(), "closed7" + sales);
+}
+
 TEST_F(EditWindowTest, TheTabKeyGoesRoundTheWholeWindow) {
   Open();
   const std::vector<std::string> round = Round(0);
