@@ -7,7 +7,11 @@
 #include <filesystem>
 #include <map>
 #include <random>
-#ifndef _WIN32
+#ifdef _WIN32
+#include <share.h>
+
+#include <cstdio>
+#else
 #include <unistd.h>
 #endif
 
@@ -35,25 +39,27 @@ const std::map<std::string, Choice> kAnswers{{"Ok", Choice::Ok},
 /// The file can't be written while it lives, not even by the superuser.
 class Protected {
  public:
-  explicit Protected(fs::path file) : file_(std::move(file)) {
-    fs::permissions(file_, fs::perms::owner_write, fs::perm_options::remove);
-#ifndef _WIN32
-    constexpr uid_t kNobody = 65534;
-    EXPECT_TRUE(user_ != 0 || ::setresuid(kNobody, kNobody, 0) == 0);
-#endif
-  }
   Protected(const Protected&) = delete;
   Protected& operator=(const Protected&) = delete;
+#ifdef _WIN32
+  explicit Protected(const std::string& file) : held_(::_fsopen(file.c_str(), "r", _SH_DENYWR)) {}
+  ~Protected() { std::fclose(held_); }
+
+ private:
+  std::FILE* const held_;
+#else
+  explicit Protected(const std::string& file) : file_(file) {
+    fs::permissions(file_, fs::perms::owner_write, fs::perm_options::remove);
+    constexpr uid_t kNobody = 65534;
+    EXPECT_TRUE(user_ != 0 || ::setresuid(kNobody, kNobody, 0) == 0);
+  }
   ~Protected() {
-#ifndef _WIN32
     EXPECT_TRUE(user_ != 0 || ::setresuid(0, 0, 0) == 0);
-#endif
     fs::permissions(file_, fs::perms::owner_write, fs::perm_options::add);
   }
 
  private:
   const fs::path file_;
-#ifndef _WIN32
   const uid_t user_ = ::getuid();
 #endif
 };
@@ -61,7 +67,8 @@ class Protected {
 /// An editor in a window, with a user who answers as he is told: by Cancel unless told otherwise. He edits a.json, a
 /// copy of an example. The steps are those of user_step.h and:
 ///
-///     open, open read-only, open for FILE, open protected (the file can't be written)
+///     open, open read-only, open for FILE, open protected (the file can't be written), open new (no file)
+///     new, load FILE, load (the file that is named), recent FILE, title
 ///     save, save as, accept, close, refresh, undo, redo, revert
 ///     answer Discard, answer ShowDifferences Reload (to the next questions), name FILE (in the next dialog of files)
 ///     put OLD -> NEW (somebody else does, in the row of REGION), copy FILE (of the tests), remove (the file)
@@ -69,10 +76,10 @@ class Protected {
 ///
 /// The state: "window", what is seen of it: modified, Apply can be pressed, the panel is older than a change; "note";
 /// of each file how often it has been written, with its general row; and aside "steps", what can be undone, done again
-/// and gone back from.
+/// and gone back from, and "recent", the files used last.
 class EditorPlayer : public Player, public EditorWindow {
  public:
-  EditorPlayer() : Player({"steps"}) {
+  EditorPlayer() : Player({"steps", "recent"}) {
     ReleaseSharedValues();
     fs::create_directory(folder_);
     SaveFile(Path("a.json"), ReadFile(PRNPROP_EXAMPLES "/small.json"));
@@ -106,6 +113,8 @@ class EditorPlayer : public Player, public EditorWindow {
     TellAll("proposed: " + proposed);
     return std::exchange(picked_, std::nullopt);
   }
+  RecentFiles Remembered() override { return recent_; }
+  void Remember(const RecentFiles& files) override { recent_ = files; }
   void Focus(const Widget& widget) override { Tell("focus: " + ToAscii(widget.Row().name.Spelled())); }
 
   std::string Path(const std::string& name) const { return (folder_ / name).string(); }
@@ -121,6 +130,7 @@ class EditorPlayer : public Player, public EditorWindow {
   EditorState window_;
   std::deque<Choice> answers_;
   std::optional<std::string> picked_;
+  RecentFiles recent_;
   std::unique_ptr<EditedSettings> settings_;
   std::unique_ptr<Editor> editor_;
 };
@@ -131,6 +141,10 @@ void EditorPlayer::DoStep(const std::string& line) {
   const auto answer = [this](bool yes) { Tell(yes ? "yes" : "no"); };
   const Steps steps{
       {"open", [&] { Open(rest); }},
+      {"new", [&] { answer(editor_->New()); }},
+      {"load", [&] { answer(rest.empty() ? editor_->Open() : editor_->Open(Path(rest))); }},
+      {"recent", [&] { answer(editor_->OpenRecent(Path(rest))); }},
+      {"title", [&] { Tell(editor_->Title("*")); }},
       {"save", [&] { answer(rest == "as" ? editor_->SaveAs() : editor_->Save()); }},
       {"accept", [&] { answer(editor_->Accept()); }},
       {"close", [&] { answer(editor_->MayClose()); }},
@@ -165,7 +179,7 @@ void EditorPlayer::TellAll(const std::string& text) {
 }
 
 void EditorPlayer::Open(const std::string& how) {
-  EditOptions options{.file = Path("a.json"), .readOnly = how == "read-only"};
+  EditOptions options{.file = how == "new" ? "" : Path("a.json"), .readOnly = how == "read-only"};
   if (how.starts_with("for ")) options.out = Path(how.substr(4));
   editor_.reset();
   std::optional<Protected> isProtected;
@@ -197,12 +211,17 @@ void EditorPlayer::Look(const std::string& widget) {
 }
 
 Player::Lines EditorPlayer::State() {
+  // Each system has other words for why a file can't be written.
+  const std::size_t reason = window_.note.find(".json: ");
+  const std::string note =
+      WithoutFolder(window_.note.substr(0, reason)) + (reason < window_.note.size() ? ".json" : "");
   Lines lines{
-      {"note", window_.note.empty() ? "none" : WithoutFolder(window_.note)},
+      {"note", note.empty() ? "none" : note},
       {"window", std::string(window_.isModified ? "modified" : "unmodified") + (window_.canApply ? ", apply" : "") +
                      (window_.isStale ? ", older" : "")},
       {"steps", (window_.canUndo ? "undo " + window_.undo + "; " : "") +
                     (window_.canRedo ? "redo " + window_.redo + "; " : "") + (window_.canRevert ? "revert" : "")}};
+  for (const std::string& file : recent_) lines["recent"] += WithoutFolder(file) + " ";
   for (const auto& entry : fs::directory_iterator(folder_)) {
     const std::string path = entry.path().string();
     auto& [content, times] = contents_[path];
@@ -212,6 +231,14 @@ Player::Lines EditorPlayer::State() {
         "written " + std::to_string(times) + ", " + general.substr(0, general.find('\n'));
   }
   return lines;
+}
+
+TEST(RecentFiles, AreTheLastTen) {
+  RecentFiles files;
+  for (char name = 'a'; name < 'm'; ++name) files = WithNewest(files, std::string(1, name));
+  std::string names;
+  for (const std::string& file : files) names += file.back();
+  EXPECT_EQ(names, "lkjihgfedc");
 }
 
 TEST(Editor, KeepsItsRules) {

@@ -11,6 +11,7 @@
 #include "host/Load.h"
 #include "host/Terminal.h"
 #include "host/Utf8.h"
+#include "host/editor/NewSettings.h"
 #include "tables/RunTimeError.h"
 
 namespace ORXKMPrintProp::host {
@@ -36,15 +37,20 @@ std::vector<std::string> LossesOf(const SettingsDocument& document) {
 
 }  // namespace
 
-EditedSettings::EditedSettings(const EditOptions& options, const Platform& platform)
-    : target_(options.out.value_or(options.file)),
-      protection_(options.protection),
-      targetIsBehind_(options.out && *options.out != options.file),
-      targetStamp_(StampOf(target_)),
-      control_(platform) {
-  SettingsDocument document = ReadSettings(options.file);
+EditedSettings::EditedSettings(const EditOptions& options, const Platform& platform) : control_(platform) {
+  Open(options);
+}
+
+void EditedSettings::Open(const EditOptions& options) {
+  const std::string target = options.out.value_or(options.file);
+  const FileStamp stamp = StampOf(target);
+  SettingsDocument document = options.file.empty() ? NewSettings() : ReadSettings(options.file);
   if (options.texts) texts_ = ReadSettings(*options.texts).texts;
   Take(std::move(document), options.readOnly);
+  target_ = target;
+  targetStamp_ = stamp;
+  targetIsBehind_ = target.empty() || target != options.file;
+  protection_ = options.protection;
 }
 
 void EditedSettings::Take(SettingsDocument document, bool readOnly) {
@@ -167,7 +173,7 @@ EditOptions ToEdit(EditOptions options) {
   for (const std::string& file : {options.file, options.out.value_or("")}) {
     if (IsFolder(file)) throw DocumentError({.file = file}, "It is a folder; name a settings document in it");
   }
-  if (options.readOnly && !options.out) return options;
+  if (!options.out && (options.readOnly || options.file.empty())) return options;
   try {
     CheckReplaceable(options.out.value_or(options.file));
   } catch (const DocumentError& error) {

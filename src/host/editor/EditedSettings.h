@@ -14,7 +14,7 @@
 namespace ORXKMPrintProp::host {
 
 struct EditOptions {
-  std::string file = {};
+  std::string file = {};                  ///< none for new settings
   std::optional<std::string> texts = {};  ///< a document whose text table is used in the place of the file's
   std::optional<std::string> out = {};    ///< where to save, instead of the file itself
   bool readOnly = false;
@@ -37,6 +37,7 @@ class EditedSettings {
 
   ORXQueryPrnProp& Control() { return control_; }
   const std::string& Source() const { return document_.file; }
+  /// Empty until new settings have been saved.
   const std::string& Target() const { return target_; }
   bool IsReadOnly() const { return control_.IsReadOnly(); }
   /// Why it is read-only though nobody has asked for it; else empty.
@@ -44,6 +45,11 @@ class EditedSettings {
 
   /// One line for each row or cell of the file that a save does not bring back.
   const std::vector<std::string>& Losses() const { return losses_; }
+
+  /// Loads another document in the place of this one.
+  /// @param options a text table that was named once is used for all that are opened
+  /// @throws DocumentError, LoadError; nothing is changed then.
+  void Open(const EditOptions& options);
 
   /// What the file said when it was loaded, or was given by the last save.
   const Snapshot& File() const { return file_; }
@@ -99,7 +105,7 @@ class EditedSettings {
   std::optional<MemoryTableRef> texts_;  ///< used in the place of those of a document
   std::string target_;
   std::string protection_;
-  bool targetIsBehind_;
+  bool targetIsBehind_ = false;
   FileStamp targetStamp_;
   Snapshot file_;
   ORXQueryPrnProp control_;

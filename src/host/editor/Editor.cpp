@@ -7,6 +7,7 @@
 
 #include "host/Differences.h"
 #include "host/DocumentError.h"
+#include "host/Files.h"
 #include "host/Load.h"
 #include "host/Utf8.h"
 #include "tables/RunTimeError.h"
@@ -30,23 +31,66 @@ bool IsField(const Widget& widget) {
 
 }  // namespace
 
-Editor::Editor(EditedSettings& settings, EditorWindow& window)
-    : settings_(settings),
-      window_(window),
-      now_{.host = settings.Host(), .page = std::make_shared<PageContent>(ContentOf(settings.Control().GetDialog()))},
-      saved_(now_),
-      printOrder_(PrintOrder(now_.page->page)) {
+Editor::Editor(EditedSettings& settings, EditorWindow& window) : settings_(settings), window_(window) {
+  Begin();
   settings.Control().Connect(*this);
 }
 
 Editor::~Editor() { settings_.Control().Disconnect(*this); }
 
+void Editor::Begin() {
+  now_ = {.host = settings_.Host(), .page = std::make_shared<PageContent>(ContentOf(GetDialog()))};
+  saved_ = now_;
+  steps_ = {};
+  typing_ = nullptr;
+  printOrder_ = PrintOrder(now_.page->page);
+}
+
+bool Editor::New() { return MayClose() && OpenInPlace({}); }
+
+bool Editor::Open(const std::string& file) { return MayClose() && OpenInPlace({.file = file}); }
+
+bool Editor::Open() {
+  if (!MayClose()) return false;
+  const auto file = window_.PickFile(FileUse::Open, settings_.Target());
+  return file && OpenInPlace({.file = *file});
+}
+
+bool Editor::OpenRecent(const std::string& file) {
+  if (StampOf(file) != FileStamp{}) return Open(file);
+  Tell("The file is no longer there.", file);
+  window_.Remember(Without(window_.Remembered(), file));
+  return false;
+}
+
+bool Editor::OpenInPlace(const EditOptions& options) {
+  try {
+    settings_.Open(ToEdit(options));
+  } catch (const std::exception& error) {
+    Tell("The file could not be opened.", error.what());
+    return false;
+  }
+  Begin();
+  Show();
+  return true;
+}
+
+void Editor::RememberFile() {
+  if (settings_.Target() == remembered_ || !settings_.IsTargetThere()) return;
+  remembered_ = settings_.Target();
+  const RecentFiles former = window_.Remembered();
+  const RecentFiles files = WithNewest(former, remembered_);
+  if (files != former) window_.Remember(files);
+}
+
 std::string Editor::Title(std::string_view modified) const {
   const Text name = std::filesystem::path(FromUtf8(settings_.Target())).filename().u16string();
-  return ToUtf8(name) + std::string(modified) + (settings_.IsReadOnly() ? " (read-only)" : "") + " - Print settings";
+  return (name.empty() ? "Untitled" : ToUtf8(name)) + std::string(modified) +
+         (settings_.IsReadOnly() ? " (read-only)" : "") + " - Print settings";
 }
 
 void Editor::Show() {
+  RememberFile();
   window_.ShowMeaning(settings_.File(), settings_.Now());
   ShowState();
 }
@@ -263,6 +307,7 @@ bool Editor::Save() {
   if (!Read() || !AcceptsFields()) return false;
   if (!settings_.IsToBeSaved()) return true;
   if (!AcceptsLosses()) return false;
+  if (settings_.Target().empty()) return SaveElsewhere();
   switch (ChoiceOnOvertaking()) {
     case Choice::Save:
     case Choice::SaveAllTheSame:
@@ -384,11 +429,12 @@ bool Editor::AcceptsSave(std::string text, std::string further, std::string deta
 
 bool Editor::MayClose() {
   if (isDone_ || (Read() && !settings_.IsChanged())) return true;
-  switch (window_.Ask({.kind = Question::Kind::Question,
-                       .text = "The settings have changed.",
-                       .further = "Save them in " + settings_.Target() + "?",
-                       .choices = {Choice::Save, Choice::Discard, Choice::Cancel},
-                       .preset = Choice::Save})) {
+  switch (
+      window_.Ask({.kind = Question::Kind::Question,
+                   .text = "The settings have changed.",
+                   .further = settings_.Target().empty() ? "Save them?" : "Save them in " + settings_.Target() + "?",
+                   .choices = {Choice::Save, Choice::Discard, Choice::Cancel},
+                   .preset = Choice::Save})) {
     case Choice::Save:
       return Save();
     case Choice::Discard:

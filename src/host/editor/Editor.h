@@ -8,6 +8,7 @@
 
 #include "control/ORXQueryPrnProp.h"
 #include "host/editor/EditedSettings.h"
+#include "host/editor/RecentFiles.h"
 #include "host/editor/Steps.h"
 
 namespace ORXKMPrintProp::host {
@@ -55,6 +56,9 @@ class EditorWindow {
   /// Lets the user pick a settings document, and asks him before a save replaces one that is there.
   /// @param proposed that is shown at first, or empty. @return its path, none where he has picked none
   virtual std::optional<std::string> PickFile(FileUse use, const std::string& proposed) = 0;
+  /// What was remembered last; none where nothing is.
+  virtual RecentFiles Remembered() = 0;
+  virtual void Remember(const RecentFiles& files) = 0;
   /// The focus is to go to a widget of the dialog, which is on the page on top.
   virtual void Focus(const Widget& widget) = 0;
 };
@@ -75,7 +79,16 @@ class Editor : private ORXQueryPrnPropEvents {
   Editor(EditedSettings& settings, EditorWindow& window);
   ~Editor() override;
 
-  /// What is edited, and saved to.
+  // Each takes the place of what is edited, after the question whether to save that. @return whether it has.
+
+  bool New();
+  bool Open(const std::string& file);
+  /// The user picks the file.
+  bool Open();
+  /// A file that is gone is remembered no longer.
+  bool OpenRecent(const std::string& file);
+
+  /// What is edited, and saved to; empty for new settings.
   const std::string& File() const { return settings_.Target(); }
   /// The window's title. @param modified what stands behind the name of a file that has changed.
   std::string Title(std::string_view modified) const;
@@ -108,6 +121,10 @@ class Editor : private ORXQueryPrnPropEvents {
   void ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) override;
   void ORXOrderChanged() override {}
 
+  void Begin();
+  bool OpenInPlace(const EditOptions& options);
+  /// Puts what is edited among the recent files once it is there.
+  void RememberFile();
   Dialog& GetDialog() const { return settings_.Control().GetDialog(); }
   std::vector<std::int32_t> PrintOrder(std::int16_t page) const;
   std::string NameOf(const Widget& widget) const;
@@ -145,6 +162,7 @@ class Editor : private ORXQueryPrnPropEvents {
   int lastNumber_ = 0;
   const Widget* typing_ = nullptr;        ///< the box in which a step may go on
   std::vector<std::int32_t> printOrder_;  ///< of the page on top, as the user has left it
+  std::string remembered_;
   bool isDone_ = false;
 };
 

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <shellapi.h>
+
 #include <memory>
 
 #include "host/editor/Editor.h"
@@ -42,6 +44,8 @@ class EditWindow : private EditorWindow {
   std::optional<std::string> PickFile(FileUse use, const std::string& proposed) override {
     return PickFileIn(window_, use, proposed);
   }
+  RecentFiles Remembered() override { return {}; }
+  void Remember(const RecentFiles&) override {}
   void Focus(const Widget& widget) override { view_->Focus(widget); }
 
   static LRESULT CALLBACK OnMessageOf(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -51,6 +55,8 @@ class EditWindow : private EditorWindow {
   SIZE WholeSize() const;
   void FitFonts();
   void Place();
+  /// The first of them.
+  void OpenDropped(HDROP files);
   void DrawNote(const DRAWITEMSTRUCT& item) const;
   /// Does what a key does to the window as a whole, ahead of the widget that it was pressed in. @return false for all
   /// other messages.

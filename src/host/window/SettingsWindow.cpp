@@ -3,21 +3,27 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialogButtonBox>
+#include <QDropEvent>
+#include <QFile>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStyle>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "host/window/FileMenu.h"
 #include "host/window/FilePicker.h"
 #include "host/window/LayoutEditor.h"
 #include "host/window/MeaningPanel.h"
+#include "host/window/Remembered.h"
 #include "views/qt/PrnPropView.h"
 #include "views/qt/QtText.h"
 
@@ -71,6 +77,16 @@ void OnKey(QWidget& window, const Key& key, Action action) {
   });
 }
 
+const QString kSize = QStringLiteral("window/size");
+const QString kMaximized = QStringLiteral("window/maximized");
+const QString kPreview = QStringLiteral("window/preview");
+
+/// The path of the first file that is dropped, empty for none.
+QString DroppedFile(const QDropEvent& event) {
+  const QList<QUrl> urls = event.mimeData()->urls();
+  return urls.isEmpty() ? QString() : urls.front().toLocalFile();
+}
+
 /// @param what would be done, empty for nothing
 QString StepTip(const char* verb, const std::string& what, const QList<QKeySequence>& keys) {
   QString tip = QLatin1String(verb);
@@ -97,6 +113,7 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
   down->addWidget(MakeButtons());
   BoundDialog();
 
+  setAcceptDrops(true);
   connect(view_, &qt::PrnPropView::failed, this, [this](const QString& why) { editor_.OnFailed(why.toStdString()); });
   connect(view_, &qt::PrnPropView::used, this, [this](const Widget& widget) { editor_.OnUsed(widget); });
   for (QLineEdit* const field : view_->findChildren<QLineEdit*>()) field->installEventFilter(this);
@@ -106,10 +123,18 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
   editor_.Show();
   unfoldedWidth_ = view_->width() * 9 / 5;
   resize(sizeHint().expandedTo(QSize(unfoldedWidth_, 0)));
+  TakeRememberedSize();
 }
 
 /// The focus goes on while the window ends.
 SettingsWindow::~SettingsWindow() { qApp->disconnect(this); }
+
+void SettingsWindow::TakeRememberedSize() {
+  const QSize size = host::Remembered(kSize).toSize();
+  if (size.isValid()) resize(size);
+  if (!host::Remembered(kPreview, true).toBool()) preview_->setChecked(false);
+  if (host::Remembered(kMaximized).toBool()) setWindowState(Qt::WindowMaximized);
+}
 
 void SettingsWindow::FitInto(const QSize& room) {
   const bool isTooWide = minimumSizeHint().width() > room.width();
@@ -139,6 +164,10 @@ void SettingsWindow::BoundDialog() {
 
 QWidget* SettingsWindow::MakeButtons() {
   auto* const bar = new QWidget(this);
+  auto* const file = new QPushButton(QStringLiteral("Fi&le"), bar);
+  file->setObjectName(QStringLiteral("file"));
+  file->setAutoDefault(true);
+  file->setMenu(new FileMenu(editor_, file));
   preview_ = new QPushButton(QStringLiteral("&Preview"), bar);
   preview_->setObjectName(QStringLiteral("preview"));
   preview_->setCheckable(true);
@@ -146,6 +175,7 @@ QWidget* SettingsWindow::MakeButtons() {
   preview_->setAutoDefault(true);
   preview_->setToolTip(QStringLiteral("Shows beside the dialog what the settings mean"));
   connect(preview_, &QPushButton::toggled, this, &SettingsWindow::Fold);
+  connect(preview_, &QPushButton::clicked, this, [](bool unfolds) { host::Remember(kPreview, unfolds); });
 
   auto* const buttons =
       new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, bar);
@@ -154,6 +184,9 @@ QWidget* SettingsWindow::MakeButtons() {
   connect(buttons, &QDialogButtonBox::accepted, this, [this] { Accept(); });
   connect(buttons, &QDialogButtonBox::rejected, this, [this] { close(); });
   connect(apply_, &QPushButton::clicked, this, [this] { editor_.Save(); });
+  OnKey(*this, QKeySequence::New, [this] { editor_.New(); });
+  OnKey(*this, QKeySequence::Open, [this] { editor_.Open(); });
+  OnKey(*this, Qt::CTRL | Qt::SHIFT | Qt::Key_S, [this] { editor_.SaveAs(); });
   OnKey(*this, QKeySequence::Save, [this] { editor_.Save(); });
   OnKey(*this, QKeySequence::Refresh, [this] { editor_.Read(); });
   undo_ = MakeStepButton("Undo", u'\u21B6', kUndoKeys, &Editor::Undo);
@@ -163,7 +196,12 @@ QWidget* SettingsWindow::MakeButtons() {
 
   auto* const row = new QHBoxLayout(bar);
   row->setContentsMargins(0, 0, 0, 0);
-  row->addWidget(preview_);
+  for (QPushButton* const button : {file, preview_}) {
+    // A style makes them wider than their captions, which a small screen has no room for.
+    button->setMinimumWidth(button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width() +
+                            button->sizeHint().height());
+    row->addWidget(button);
+  }
   for (QPushButton* const step : {undo_, redo_, revert_}) row->addWidget(step);
   row->addStretch();
   row->addWidget(buttons);
@@ -205,7 +243,7 @@ void SettingsWindow::keyPressEvent(QKeyEvent* event) {
   QWidget::keyPressEvent(event);
 }
 
-/// A field's own steps give way to those of the editor.
+/// A field's own steps give way to those of the editor, and a file is none of its texts.
 bool SettingsWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
@@ -215,6 +253,10 @@ bool SettingsWindow::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
   }
+  if (event->type() == QEvent::DragEnter && !DroppedFile(static_cast<const QDropEvent&>(*event)).isEmpty()) {
+    event->ignore();
+    return true;
+  }
   return QWidget::eventFilter(watched, event);
 }
 
@@ -222,7 +264,26 @@ void SettingsWindow::Accept() {
   if (editor_.Accept()) close();
 }
 
-void SettingsWindow::closeEvent(QCloseEvent* event) { event->setAccepted(editor_.MayClose()); }
+void SettingsWindow::closeEvent(QCloseEvent* event) {
+  event->setAccepted(editor_.MayClose());
+  if (!event->isAccepted()) return;
+  const QSize last = isMaximized() ? normalGeometry().size() : size();
+  host::Remember(kSize, preview_->isChecked() ? last : QSize(unfoldedWidth_, last.height()));
+  host::Remember(kMaximized, isMaximized());
+}
+
+void SettingsWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DroppedFile(*event).isEmpty()) event->acceptProposedAction();
+}
+
+void SettingsWindow::dropEvent(QDropEvent* event) {
+  const QString file = DroppedFile(*event);
+  if (file.isEmpty()) return;
+  event->acceptProposedAction();
+  // Who drags it waits for the end of this.
+  QMetaObject::invokeMethod(
+      this, [this, file] { editor_.Open(QFile::encodeName(file).toStdString()); }, Qt::QueuedConnection);
+}
 
 void SettingsWindow::ShowMeaning(const Snapshot& file, const Snapshot& now) { panel_->Show(file, now); }
 
@@ -273,6 +334,10 @@ std::optional<Text> SettingsWindow::EditLayout(const Text& name, const Text& lay
 std::optional<std::string> SettingsWindow::PickFile(FileUse use, const std::string& proposed) {
   return PickFileIn(this, use, proposed);
 }
+
+RecentFiles SettingsWindow::Remembered() { return RememberedFiles(); }
+
+void SettingsWindow::Remember(const RecentFiles& files) { RememberFiles(files); }
 
 void SettingsWindow::Focus(const Widget& widget) {
   lastFocus_ = view_->findChild<QWidget*>(ToQString(widget.Row().name.Spelled()));
