@@ -175,7 +175,7 @@ TEST_F(SettingsWindowTest, TheUserIsAskedBeforeItCloses) {
 TEST_F(SettingsWindowTest, AnOvertakenFileIsComparedReloadedOrLeft) {
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   const std::string question =
-      "The file has changed since it was opened.\nTo save replaces what stands in " + file + " now.";
+      "The file has changed since it was opened.\nA save would replace what now stands in " + file + ".";
   Open();
   Type("!");
   SaveFile(file, ReadFile(PRNPROP_EXAMPLES "/small.json") + "\n");

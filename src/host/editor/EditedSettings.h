@@ -36,7 +36,6 @@ class EditedSettings {
   EditedSettings(const EditOptions& options, const Platform& platform);
 
   ORXQueryPrnProp& Control() { return control_; }
-  const std::string& Source() const { return document_.file; }
   /// Empty until new settings have been saved.
   const std::string& Target() const { return target_; }
   bool IsReadOnly() const { return control_.IsReadOnly(); }

@@ -384,12 +384,12 @@ Choice Editor::ChoiceOnOvertaking() {
     Question question{
         .kind = Question::Kind::Warning,
         .text = "The file has changed since it was opened.",
-        .further = "To save replaces what stands in " + settings_.Target() + " now.",
+        .further = "A save would replace what now stands in " + settings_.Target() + ".",
         .choices = {Choice::Reload, Choice::SaveAs, Choice::ShowDifferences, Choice::SaveAllTheSame, Choice::Cancel},
         .preset = Choice::Cancel};
     if (!settings_.IsTargetThere()) {
       question.text = "The file is gone since it was opened.";
-      question.further = "To save makes " + settings_.Target() + " anew.";
+      question.further = "A save would make " + settings_.Target() + " anew.";
       question.choices = {Choice::SaveAs, Choice::SaveAllTheSame, Choice::Cancel};
     }
     const Choice choice = window_.Ask(question);

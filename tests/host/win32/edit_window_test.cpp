@@ -181,7 +181,7 @@ TEST_F(EditWindowTest, EscapeAsksAndEachAnswerDoesWhatItSays) {
 
 TEST_F(EditWindowTest, AnOvertakenFileIsComparedReloadedOrReplaced) {
   const std::string question =
-      "The file has changed since it was opened.\r\n\r\nTo save replaces what stands in " + file + " now.";
+      "The file has changed since it was opened.\r\n\r\nA save would replace what now stands in " + file + ".";
   Open();
   TypeTitle();
   SaveFile(file, before + "\n");
