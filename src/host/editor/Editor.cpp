@@ -76,7 +76,9 @@ bool Editor::OpenInPlace(const EditOptions& options) {
 }
 
 void Editor::RememberFile() {
-  if (settings_.Target() == remembered_ || !settings_.IsTargetThere()) return;
+  if (settings_.Target() == remembered_) return;
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(FromUtf8(settings_.Target()), error)) return;
   remembered_ = settings_.Target();
   const RecentFiles former = window_.Remembered();
   const RecentFiles files = WithNewest(former, remembered_);

@@ -123,7 +123,7 @@ class Editor : private ORXQueryPrnPropEvents {
 
   void Begin();
   bool OpenInPlace(const EditOptions& options);
-  /// Puts what is edited among the recent files once it is there.
+  /// Puts what is edited among the recent files once it is there, unless it is a pipe or the like.
   void RememberFile();
   Dialog& GetDialog() const { return settings_.Control().GetDialog(); }
   std::vector<std::int32_t> PrintOrder(std::int16_t page) const;
