@@ -8,7 +8,8 @@
 int main(int argc, char** argv) {
   using namespace ORXKMPrintProp::host;
   if (argc != 2) return 2;
-  EditProgram program({.file = argv[1]});
+  EditProgram program;
+  program.Open({.file = argv[1]});
   new ORXKMPrintProp::bench::ExitAfterFirstPaint(program.Window());
   return program.Run();
 }

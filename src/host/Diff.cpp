@@ -1,6 +1,5 @@
 #include "host/Diff.h"
 
-#include <cstdlib>
 #include <nlohmann/json.hpp>
 #include <ostream>
 #include <vector>
@@ -17,15 +16,6 @@ namespace ORXKMPrintProp::host {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-/// As the environment says, for messages.
-std::string UserLanguage() {
-  for (const char* const name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-    const char* const value = std::getenv(name);
-    if (value && *value) return value;
-  }
-  return {};
-}
 
 std::vector<PageDifferences> Compare(const DiffOptions& options) {
   const SharedValuesGuard guard;

@@ -1,6 +1,7 @@
 #include "host/Differences.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <initializer_list>
 #include <map>
 #include <span>
@@ -538,6 +539,14 @@ std::vector<PageDifferences> DifferencesOf(const PrnPropCls& before, const PrnPr
 
 const DifferenceWords& WordsBesideCaptions(std::string_view language) {
   return DifferenceWordsIn(gTextTable ? language : "en");
+}
+
+std::string UserLanguage() {
+  for (const char* const name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
+    const char* const value = std::getenv(name);
+    if (value && *value) return value;
+  }
+  return {};
 }
 
 std::vector<PageDifferences> DifferencesOf(const Snapshot& before, const Snapshot& after,

@@ -36,6 +36,9 @@ std::vector<PageDifferences> DifferencesOf(const Snapshot& before, const Snapsho
 /// The words of that language; English ones while there is no text table, since the captions are English then.
 const DifferenceWords& WordsBesideCaptions(std::string_view language);
 
+/// As the environment says, for messages; empty where it says nothing.
+std::string UserLanguage();
+
 /// In UTF-8, the lines of each page further in and below its caption.
 std::vector<std::string> LinesOf(const std::vector<PageDifferences>& differences);
 

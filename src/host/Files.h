@@ -28,6 +28,8 @@ struct FileStamp {
 };
 FileStamp StampOf(const std::string& path);
 
+bool IsFolder(const std::string& path);
+
 /// Tells ahead of any work whether `SaveFile` has a chance to replace or make a regular file: the folder must be
 /// there and take files, and a file that is there must be one that can be written. @throws DocumentError (file and
 /// reason)

@@ -144,6 +144,11 @@ FileStamp StampOf(const std::string& path) {
   return {.time = file.st_mtim.tv_sec * kPerSecond + file.st_mtim.tv_nsec, .size = file.st_size};
 }
 
+bool IsFolder(const std::string& path) {
+  struct stat file {};
+  return ::stat(path.c_str(), &file) == 0 && S_ISDIR(file.st_mode);
+}
+
 void CheckReplaceable(const std::string& path) {
   const Target target(path);
   if (S_ISDIR(target.old.st_mode)) Fail(path, EISDIR);

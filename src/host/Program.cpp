@@ -134,6 +134,11 @@ void AddDriveArguments(CLI::App& command, DriveOptions& options) {
   command.add_option("SCRIPT", options.script, "Actions, a line each, instead of standard input");
 }
 
+int TellFailure(const std::exception& error) {
+  std::cerr << "prnprop: " << error.what() << "\n";
+  return dynamic_cast<const LoadError*>(&error) ? kLoss : kBadFile;
+}
+
 int RunProgram(int argc, char** argv, const AddCommands& addCommands) {
   // What can't be written is told at once, while the system's reason is known; a message must not run into it.
   std::cerr.tie(nullptr);
@@ -143,11 +148,8 @@ int RunProgram(int argc, char** argv, const AddCommands& addCommands) {
     return Run(argc, argv, addCommands, failure);
   } catch (const std::ios::failure&) {
     std::cerr << "prnprop: standard output: " << std::strerror(errno) << "\n";
-  } catch (const LoadError& error) {
-    std::cerr << "prnprop: " << error.what() << "\n";
-    return failure.value_or(kLoss);
   } catch (const std::exception& error) {
-    std::cerr << "prnprop: " << error.what() << "\n";
+    return failure.value_or(TellFailure(error));
   }
   return failure.value_or(kBadFile);
 }

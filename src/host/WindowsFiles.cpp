@@ -131,8 +131,8 @@ class TemporaryFile {
     ::SetLastError(ERROR_FILE_EXISTS);
     for (int attempt = 0; attempt < 100 && file == INVALID_HANDLE_VALUE && ::GetLastError() == ERROR_FILE_EXISTS;
          ++attempt) {
-      path_ = folder + L".prnprop-" + std::to_wstring(::GetCurrentProcessId()) + L"-" + std::to_wstring(attempt) +
-              L".tmp";
+      path_ =
+          folder + L".prnprop-" + std::to_wstring(::GetCurrentProcessId()) + L"-" + std::to_wstring(attempt) + L".tmp";
       file = Open(path_, GENERIC_WRITE, CREATE_NEW);
     }
     isThere_ = file != INVALID_HANDLE_VALUE;
@@ -175,6 +175,8 @@ FileStamp StampOf(const std::string& path) {
   return {.time = joined(file.ftLastWriteTime.dwHighDateTime, file.ftLastWriteTime.dwLowDateTime) * kNanosecondsPerTick,
           .size = joined(file.nFileSizeHigh, file.nFileSizeLow)};
 }
+
+bool IsFolder(const std::string& path) { return IsFolder(Wide(path)); }
 
 void CheckReplaceable(const std::string& path) {
   const Target target(path);

@@ -2,8 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <deque>
 #include <filesystem>
+#include <map>
 #include <random>
+#ifdef _WIN32
+#include <share.h>
+
+#include <cstdio>
+#else
+#include <unistd.h>
+#endif
 
 #include "control/SharedValues.h"
 #include "host/Files.h"
@@ -33,21 +43,58 @@ TEST(EditorKeys, AreThoseOfTheReadmeAndOfTheManPage) {
 namespace fs = std::filesystem;
 using namespace ORXKMPrintProp::test;
 
+const std::map<std::string, Choice> kAnswers{{"Ok", Choice::Ok},
+                                             {"Save", Choice::Save},
+                                             {"Discard", Choice::Discard},
+                                             {"Reload", Choice::Reload},
+                                             {"SaveAs", Choice::SaveAs},
+                                             {"ShowDifferences", Choice::ShowDifferences},
+                                             {"SaveAllTheSame", Choice::SaveAllTheSame}};
+
+/// The file can't be written while it lives, not even by the superuser.
+class Protected {
+ public:
+  Protected(const Protected&) = delete;
+  Protected& operator=(const Protected&) = delete;
+#ifdef _WIN32
+  explicit Protected(const std::string& file) : held_(::_fsopen(file.c_str(), "r", _SH_DENYWR)) {}
+  ~Protected() { std::fclose(held_); }
+
+ private:
+  std::FILE* const held_;
+#else
+  explicit Protected(const std::string& file) : file_(file) {
+    fs::permissions(file_, fs::perms::owner_write, fs::perm_options::remove);
+    constexpr uid_t kNobody = 65534;
+    EXPECT_TRUE(user_ != 0 || ::setresuid(kNobody, kNobody, 0) == 0);
+  }
+  ~Protected() {
+    EXPECT_TRUE(user_ != 0 || ::setresuid(0, 0, 0) == 0);
+    fs::permissions(file_, fs::perms::owner_write, fs::perm_options::add);
+  }
+
+ private:
+  const fs::path file_;
+  const uid_t user_ = ::getuid();
+#endif
+};
+
 /// An editor in a window, with a user who answers as he is told: by Cancel unless told otherwise. He edits a.json, a
 /// copy of an example. The steps are those of user_step.h and:
 ///
-///     open, open read-only, open for FILE
-///     save, accept, close, refresh, undo, redo, revert
-///     answer Discard (to the next question)
+///     open, open read-only, open for FILE, open protected (the file can't be written), open new (no file)
+///     new, load FILE, load (the file that is named), recent FILE, title
+///     save, save as, accept, close, refresh, undo, redo, revert
+///     answer Discard, answer ShowDifferences Reload (to the next questions), name FILE (in the next dialog of files)
 ///     put OLD -> NEW (somebody else does, in the row of REGION), copy FILE (of the tests), remove (the file)
 ///     show FILE, look WIDGET WIDGET (and so on, what they hold)
 ///
 /// The state: "window", what is seen of it: modified, Apply can be pressed, the panel is older than a change; "note";
 /// of each file how often it has been written, with its general row; and aside "steps", what can be undone, done again
-/// and gone back from.
+/// and gone back from, and "recent", the files used last.
 class EditorPlayer : public Player, public EditorWindow {
  public:
-  EditorPlayer() : Player({"steps"}) {
+  EditorPlayer() : Player({"steps", "recent"}) {
     ReleaseSharedValues();
     fs::create_directory(folder_);
     SaveFile(Path("a.json"), ReadFile(PRNPROP_EXAMPLES "/small.json"));
@@ -66,18 +113,28 @@ class EditorPlayer : public Player, public EditorWindow {
   void ShowMeaning(const Snapshot&, const Snapshot&) override {}
   void ShowState(const EditorState& shown) override { window_ = shown; }
   Choice Ask(const Question& question) override {
-    TellAll(question.text + "\n" + question.further);
-    return std::exchange(answer_, Choice::Cancel);
+    TellAll(question.text + (question.further.empty() ? "" : "\n") + question.further);
+    if (answers_.empty()) return Choice::Cancel;
+    const Choice answer = answers_.front();
+    answers_.pop_front();
+    EXPECT_TRUE(std::ranges::count(question.choices, answer) == 1);
+    return answer;
   }
   std::optional<Text> EditLayout(const Text&, const Text& layout, bool) override {
     Tell("layout: '" + ToAscii(layout) + "'");
     return u"<head>";
   }
+  std::optional<std::string> PickFile(FileUse, const std::string& proposed) override {
+    TellAll("proposed: " + proposed);
+    return std::exchange(picked_, std::nullopt);
+  }
+  RecentFiles Remembered() override { return recent_; }
+  void Remember(const RecentFiles& files) override { recent_ = files; }
   void Focus(const Widget& widget) override { Tell("focus: " + ToAscii(widget.Row().name.Spelled())); }
 
   std::string Path(const std::string& name) const { return (folder_ / name).string(); }
-  /// With the folder left out.
-  void TellAll(std::string text);
+  std::string WithoutFolder(std::string text) const;
+  void TellAll(const std::string& text);
   void Open(const std::string& how);
   void Put(const std::string& change);
   void Show(const std::string& file);
@@ -86,7 +143,9 @@ class EditorPlayer : public Player, public EditorWindow {
   const fs::path folder_ = fs::path(testing::TempDir()) / ("editor_test-" + std::to_string(std::random_device{}()));
   std::map<std::string, std::pair<std::string, int>> contents_;  ///< of the files, and how often they were written
   EditorState window_;
-  Choice answer_ = Choice::Cancel;
+  std::deque<Choice> answers_;
+  std::optional<std::string> picked_;
+  RecentFiles recent_;
   std::unique_ptr<EditedSettings> settings_;
   std::unique_ptr<Editor> editor_;
 };
@@ -97,14 +156,20 @@ void EditorPlayer::DoStep(const std::string& line) {
   const auto answer = [this](bool yes) { Tell(yes ? "yes" : "no"); };
   const Steps steps{
       {"open", [&] { Open(rest); }},
-      {"save", [&] { answer(editor_->Save()); }},
+      {"new", [&] { answer(editor_->New()); }},
+      {"load", [&] { answer(rest.empty() ? editor_->Open() : editor_->Open(Path(rest))); }},
+      {"recent", [&] { answer(editor_->OpenRecent(Path(rest))); }},
+      {"title", [&] { Tell(editor_->Title("*")); }},
+      {"save", [&] { answer(rest == "as" ? editor_->SaveAs() : editor_->Save()); }},
       {"accept", [&] { answer(editor_->Accept()); }},
       {"close", [&] { answer(editor_->MayClose()); }},
       {"refresh", [&] { answer(editor_->Read()); }},
       {"undo", [&] { editor_->Undo(); }},
       {"redo", [&] { editor_->Redo(); }},
       {"revert", [&] { editor_->Revert(); }},
-      {"answer", [&] { answer_ = rest == "Save" ? Choice::Save : Choice::Discard; }},
+      {"answer",
+       [&] { ForEach(rest, " ", [this](const std::string& name) { answers_.push_back(kAnswers.at(name)); }); }},
+      {"name", [&] { picked_ = Path(rest); }},
       {"put", [&] { Put(rest); }},
       {"copy", [&] { SaveFile(Path("a.json"), ReadFile(PRNPROP_HOST_TESTS "/" + rest)); }},
       {"remove", [&] { fs::remove(Path("a.json")); }},
@@ -118,16 +183,25 @@ void EditorPlayer::DoStep(const std::string& line) {
   editor_->OnUsed(*step.widget);
 }
 
-void EditorPlayer::TellAll(std::string text) {
+std::string EditorPlayer::WithoutFolder(std::string text) const {
   const std::string folder = Path("");
   for (auto at = text.find(folder); at != std::string::npos; at = text.find(folder)) text.erase(at, folder.size());
-  ForEach(text, "\n", [this](const std::string& line) { Tell(line); });
+  return text;
+}
+
+void EditorPlayer::TellAll(const std::string& text) {
+  ForEach(WithoutFolder(text), "\n", [this](const std::string& line) { Tell(line); });
 }
 
 void EditorPlayer::Open(const std::string& how) {
-  EditOptions options{.file = Path("a.json"), .readOnly = how == "read-only"};
+  EditOptions options{.file = how == "new" ? "" : Path("a.json"), .readOnly = how == "read-only"};
   if (how.starts_with("for ")) options.out = Path(how.substr(4));
   editor_.reset();
+  std::optional<Protected> isProtected;
+  if (how == "protected") {
+    isProtected.emplace(options.file);
+    options = ToEdit(options);
+  }
   settings_ = std::make_unique<EditedSettings>(options, Platform::Plain());
   editor_ = std::make_unique<Editor>(*settings_, *this);
   editor_->Show();
@@ -152,12 +226,17 @@ void EditorPlayer::Look(const std::string& widget) {
 }
 
 Player::Lines EditorPlayer::State() {
+  // Each system has other words for why a file can't be written.
+  const std::size_t reason = window_.note.find(".json: ");
+  const std::string note =
+      WithoutFolder(window_.note.substr(0, reason)) + (reason < window_.note.size() ? ".json" : "");
   Lines lines{
-      {"note", window_.note.empty() ? "none" : window_.note},
+      {"note", note.empty() ? "none" : note},
       {"window", std::string(window_.isModified ? "modified" : "unmodified") + (window_.canApply ? ", apply" : "") +
                      (window_.isStale ? ", older" : "")},
       {"steps", (window_.canUndo ? "undo " + window_.undo + "; " : "") +
                     (window_.canRedo ? "redo " + window_.redo + "; " : "") + (window_.canRevert ? "revert" : "")}};
+  for (const std::string& file : recent_) lines["recent"] += WithoutFolder(file) + " ";
   for (const auto& entry : fs::directory_iterator(folder_)) {
     const std::string path = entry.path().string();
     auto& [content, times] = contents_[path];
@@ -167,6 +246,14 @@ Player::Lines EditorPlayer::State() {
         "written " + std::to_string(times) + ", " + general.substr(0, general.find('\n'));
   }
   return lines;
+}
+
+TEST(RecentFiles, AreTheLastTen) {
+  RecentFiles files;
+  for (char name = 'a'; name < 'l'; ++name) files = WithNewest(files, std::string(1, name));
+  std::string names;
+  for (const std::string& file : files) names += file.back();
+  EXPECT_EQ(names, "kjihgfedcb");
 }
 
 TEST(Editor, KeepsItsRules) {

@@ -30,6 +30,9 @@ class Window : public EditorWindow {
     return Choice::Cancel;
   }
   std::optional<Text> EditLayout(const Text&, const Text& layout, bool) override { return layout + u"L"; }
+  std::optional<std::string> PickFile(FileUse, const std::string&) override { return {}; }
+  RecentFiles Remembered() override { return {}; }
+  void Remember(const RecentFiles&) override {}
   void Focus(const Widget&) override {}
 };
 

@@ -14,7 +14,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QMenu>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSettings>
@@ -86,10 +88,13 @@ class SettingsWindowTest : public testing::Test {
   }
 
   /// What is remembered comes back when it is opened again.
-  void OpenWithPage() {
+  void OpenAgain() {
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
     BeginToRemember();
     Open();
+  }
+  void OpenWithPage() {
+    OpenAgain();
     ASSERT_TRUE(QTest::qWaitFor([&] { return window->findChild<QTabWidget*>(); }));
   }
 
@@ -166,6 +171,107 @@ TEST_F(SettingsWindowTest, TheUserIsAskedBeforeItCloses) {
   Press(QDialogButtonBox::Ok);
   EXPECT_EQ(State(), "closed");
   EXPECT_NE(ReadFile(file).find("Orders by region!"), std::string::npos);
+}
+
+TEST_F(SettingsWindowTest, AnOvertakenFileIsComparedReloadedOrLeft) {
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  const std::string question =
+      "The file has changed since it was opened.\nA save would replace what now stands in " + file + ".";
+  Open();
+  Type("!");
+  SaveFile(file, ReadFile(PRNPROP_EXAMPLES "/small.json") + "\n");
+  Answer(QMessageBox::Open, question);
+  Answer(QMessageBox::Ok,
+         "A save changes this in the file:\nGeneral\n  Print title: 'Orders by region' is now 'Orders by region!'");
+  Answer(QMessageBox::Retry, question);
+  Press(QDialogButtonBox::Ok);
+  EXPECT_EQ(State() + Find<QLineEdit>("txtGenPrnTitle").text().toStdString(), "openOrders by region");
+  Press("undo");
+  EXPECT_EQ(State() + Find<QLineEdit>("txtGenPrnTitle").text().toStdString(), "open modified applyOrders by region!");
+  SaveFile(file, before);
+  Answer(QMessageBox::SaveAll, question);
+  answers.push_back([this](QDialog& dialog) {
+    auto& files = dynamic_cast<QFileDialog&>(dialog);
+    EXPECT_EQ(files.selectedFiles().front().toStdString(), file);
+    files.selectFile(QStringLiteral("b"));
+    dialog.accept();
+  });
+  Press(QDialogButtonBox::Apply);
+  EXPECT_EQ(State() + window->windowTitle().toStdString() + window->windowFilePath().toStdString(),
+            "openb.json[*] - Print settings" + Path("b.json"));
+  EXPECT_EQ(ReadFile(file), before);
+  EXPECT_NE(ReadFile(Path("b.json")).find("Orders by region!"), std::string::npos);
+}
+
+TEST_F(SettingsWindowTest, FilesAreOpenedByKeysByTheMenuAndByDrop) {
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  SaveFile(Path("sales.json"), ReadFile(PRNPROP_EXAMPLES "/sales.json"));
+  OpenWithPage();
+  const auto key = [this](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+    window->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QTest::keyClick(window->focusWidget(), key, modifiers);
+    return (window->windowTitle() + u' ' + Find<QLineEdit>("txtGenPrnTitle").text()).toStdString();
+  };
+  const auto pick = [this](QFileDialog::AcceptMode mode, const char* name) {
+    answers.push_back([this, mode, name](QDialog& dialog) {
+      auto& files = dynamic_cast<QFileDialog&>(dialog);
+      EXPECT_EQ(files.acceptMode(), mode);
+      EXPECT_EQ(files.directory().path(), folder.path());
+      files.selectFile(QLatin1String(name));
+      dialog.accept();
+    });
+  };
+  pick(QFileDialog::AcceptSave, "b");
+  EXPECT_EQ(key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier), "b.json[*] - Print settings Orders by region");
+  pick(QFileDialog::AcceptOpen, "sales.json");
+  const std::string sales = "sales.json[*] - Print settings Sales by region and customer, fiscal year 2025";
+  EXPECT_EQ(key(Qt::Key_O, Qt::ControlModifier), sales);
+  EXPECT_EQ(key(Qt::Key_N, Qt::ControlModifier), "Untitled[*] - Print settings Orders by region");
+
+  // On a field, which takes texts.
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(folder.filePath(QStringLiteral("sales.json")))});
+  data.setText(QStringLiteral("file://"));
+  QDragEnterEvent enter({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QDropEvent drop({}, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+  for (QDropEvent* const event : {static_cast<QDropEvent*>(&enter), &drop}) {
+    QCoreApplication::sendEvent(&Find<QLineEdit>("txtGenPrnTitle"), event);
+  }
+  QCoreApplication::processEvents();
+  EXPECT_EQ(key(Qt::Key_F5, {}), sales);
+
+  QTimer::singleShot(0, window.get(), [] {
+    auto& menu = dynamic_cast<QMenu&>(*QApplication::activePopupWidget());
+    QString captions;
+    for (const QAction* const action : menu.actions())
+      captions += action->text().section(QStringLiteral(" - "), 0, 0) + u'|';
+    EXPECT_EQ(captions.toStdString(),
+              "&New\tCtrl+N|&Open...\tCtrl+O||&Save\tCtrl+S|Save &as...\tCtrl+Shift+S||"
+              "&1 sales.json|&2 b.json|&3 a.json|");
+    QTest::keyClick(&menu, Qt::Key_2);
+  });
+  Press("file");
+  EXPECT_EQ(key(Qt::Key_F5, {}), "b.json[*] - Print settings Orders by region");
+}
+
+TEST_F(SettingsWindowTest, TheWindowComesBackAsItWasLeft) {
+  OpenWithPage();
+  window->resize(1210, 611);
+  window->findChild<QTabWidget*>()->setCurrentIndex(3);
+  const int dialog = window->minimumSizeHint().width();
+  window->close();
+  OpenWithPage();
+  EXPECT_EQ(window->size(), QSize(1210, 611));
+  EXPECT_EQ(window->findChild<QTabWidget*>()->currentIndex(), 3);
+  Press("preview");
+  window->close();
+  OpenAgain();
+  EXPECT_LT(window->width(), dialog);
+  Press("preview");
+  EXPECT_EQ(window->size(), QSize(1210, 611));
+  window->FitInto({500, 300});
+  EXPECT_EQ(window->size(), QSize(500, 300));
 }
 
 TEST_F(SettingsWindowTest, ALayoutIsEditedAsPlainText) {
@@ -404,10 +510,10 @@ TEST_F(SettingsWindowTest, TheTabKeyGoesRoundTheWholeWindow) {
     return round.mid(round.indexOf(QStringLiteral("cmdPrintLayout(3)"))).join(u' ').toStdString();
   };
   EXPECT_EQ(behindTheDialog(),
-            "cmdPrintLayout(3) refresh qt_tabwidget_tabbar sketch smaller zoom larger follow pdf print preview OK "
+            "cmdPrintLayout(3) refresh qt_tabwidget_tabbar sketch smaller zoom larger follow pdf print file preview OK "
             "Cancel QTabBar");
   Press("preview");
-  EXPECT_EQ(behindTheDialog(), "cmdPrintLayout(3) preview OK Cancel QTabBar");
+  EXPECT_EQ(behindTheDialog(), "cmdPrintLayout(3) file preview OK Cancel QTabBar");
 }
 
 TEST_F(SettingsWindowTest, ThePageFollowsByChoiceWhenTheUserPauses) {

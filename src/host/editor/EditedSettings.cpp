@@ -1,7 +1,6 @@
 #include "host/editor/EditedSettings.h"
 
 #include <set>
-#include <stdexcept>
 #include <string_view>
 #include <utility>
 
@@ -12,53 +11,17 @@
 #include "host/Load.h"
 #include "host/Terminal.h"
 #include "host/Utf8.h"
+#include "host/editor/NewSettings.h"
 #include "tables/RunTimeError.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
 
-void CheckTarget(const EditOptions& options) {
-  try {
-    CheckReplaceable(options.out.value_or(options.file));
-  } catch (const DocumentError& error) {
-    const char* const otherwise =
-        options.out ? "" : "; it can be opened with --read-only, or with -o to save elsewhere";
-    throw std::runtime_error(error.what() + std::string(otherwise));
-  }
-}
-
-}  // namespace
-
-EditedSettings::EditedSettings(const EditOptions& options, const Platform& platform)
-    : document_(ReadSettings(options.file)),
-      target_(options.out.value_or(options.file)),
-      targetIsBehind_(options.out && *options.out != options.file),
-      targetStamp_(StampOf(target_)),
-      file_(SnapshotOf(document_)),
-      control_(platform) {
-  const MemoryTableRef texts = options.texts ? ReadSettings(*options.texts).texts : document_.texts;
-  FindLosses();
-  try {
-    if (texts) control_.ORXControlTexts(texts);
-    Load();
-    SetLayouts(std::make_shared<Layouts>(LayoutsIn(file_)));
-    control_.ORXSetReadOnly(options.readOnly);
-    Read();
-  } catch (const RunTimeError& error) {
-    throw LoadError(document_, error.Message());
-  }
-  SetUnchanged();
-}
-
-void EditedSettings::Load() {
-  if (!control_.ORXSetPrnTables(document_.general, document_.dimension, document_.member, document_.attribute)) {
-    throw LoadError(document_, gErrorText);
-  }
-}
-
-void EditedSettings::FindLosses() {
-  const std::set<std::int32_t> kept = RowsWithLayout(file_);
-  for (const TableChanges& table : ChangesOf(document_)) {
+/// @throws LoadError
+std::vector<std::string> LossesOf(const SettingsDocument& document) {
+  std::vector<std::string> losses;
+  const std::set<std::int32_t> kept = RowsWithLayout(SnapshotOf(document));
+  for (const TableChanges& table : ChangesOf(document)) {
     const bool isDimension = table.table == std::string_view("dimension");
     for (const Change& change : table.changes) {
       const bool isLayout = change.kind == ChangeKind::LayoutEmptied;
@@ -66,8 +29,65 @@ void EditedSettings::FindLosses() {
       std::string line = std::string(table.table) + ", row " + std::to_string(change.row);
       if (!change.column.empty()) line += ", column " + ToUtf8(change.column);
       line += ": " + (isLayout ? "only the first characteristic of a name keeps its layout" : change.reason);
-      losses_.push_back(OneLine(line));
+      losses.push_back(OneLine(line));
     }
+  }
+  return losses;
+}
+
+}  // namespace
+
+EditedSettings::EditedSettings(const EditOptions& options, const Platform& platform) : control_(platform) {
+  Open(options);
+}
+
+void EditedSettings::Open(const EditOptions& options) {
+  const std::string target = options.out.value_or(options.file);
+  const FileStamp stamp = StampOf(target);
+  SettingsDocument document = options.file.empty() ? NewSettings() : ReadSettings(options.file);
+  if (options.texts) texts_ = ReadSettings(*options.texts).texts;
+  Take(std::move(document), options.readOnly);
+  target_ = target;
+  targetStamp_ = stamp;
+  targetIsBehind_ = target.empty() || target != options.file;
+  protection_ = options.protection;
+}
+
+void EditedSettings::Take(SettingsDocument document, bool readOnly) {
+  std::vector<std::string> losses = LossesOf(document);
+  UseTextsOf(document);
+  document_ = std::move(document);
+  file_ = SnapshotOf(document_);
+  losses_ = std::move(losses);
+  try {
+    Load();
+    now_ = {};
+    SetLayouts(std::make_shared<Layouts>(LayoutsIn(file_)));
+    control_.ORXSetReadOnly(readOnly);
+    Read();
+  } catch (const RunTimeError& error) {
+    throw LoadError(document_, error.Message());
+  }
+  SetUnchanged();
+}
+
+void EditedSettings::UseTextsOf(const SettingsDocument& document) {
+  const MemoryTableRef texts = texts_.value_or(document.texts);
+  if (!texts && !gTextTable) return;
+  std::optional<LoadError> failure;
+  try {
+    if (texts) return static_cast<void>(control_.ORXControlTexts(texts));
+    gTextTable = nullptr;
+  } catch (const RunTimeError& error) {
+    failure.emplace(document, error.Message());
+  }
+  control_.GetDialog().ApplyTexts();
+  if (failure) throw *failure;
+}
+
+void EditedSettings::Load() {
+  if (!control_.ORXSetPrnTables(document_.general, document_.dimension, document_.member, document_.attribute)) {
+    throw LoadError(document_, gErrorText);
   }
 }
 
@@ -87,14 +107,23 @@ void EditedSettings::SetUnchanged() {
   isChanged_ = false;
 }
 
-void EditedSettings::Save() {
+void EditedSettings::SaveIn(const std::string& file) {
   Read();
-  SaveFile(target_, ToJson(document_));
+  SaveFile(file, ToJson(document_));
+  target_ = file;
   targetStamp_ = StampOf(target_);
   file_ = Now();
+  if (!std::exchange(protection_, {}).empty()) control_.ORXSetReadOnly(false);
   SetUnchanged();
   targetIsBehind_ = false;
   losses_.clear();
+}
+
+void EditedSettings::Reload() {
+  const FileStamp stamp = StampOf(target_);
+  Take(ReadSettings(target_), IsReadOnly());
+  targetStamp_ = stamp;
+  targetIsBehind_ = false;
 }
 
 Text EditedSettings::LayoutOf(const LayoutKey& key) const {
@@ -140,15 +169,19 @@ void EditedSettings::Restore(const HostSettings& settings) {
   FindChange();
 }
 
-std::unique_ptr<EditedSettings> OpenToEdit(const EditOptions& options, const Platform& platform,
-                                           const std::function<void(const std::string& words)>& tell) {
-  try {
-    if (!options.readOnly || options.out) CheckTarget(options);
-    return std::make_unique<EditedSettings>(options, platform);
-  } catch (const std::exception& error) {
-    if (tell) tell(error.what());
-    throw;
+EditOptions ToEdit(EditOptions options) {
+  for (const std::string& file : {options.file, options.out.value_or("")}) {
+    if (IsFolder(file)) throw DocumentError({.file = file}, "It is a folder; name a settings document in it");
   }
+  if (!options.out && (options.readOnly || options.file.empty())) return options;
+  try {
+    CheckReplaceable(options.out.value_or(options.file));
+  } catch (const DocumentError& error) {
+    if (options.out) throw;
+    options.readOnly = true;
+    options.protection = error.what();
+  }
+  return options;
 }
 
 }  // namespace ORXKMPrintProp::host

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -15,10 +14,11 @@
 namespace ORXKMPrintProp::host {
 
 struct EditOptions {
-  std::string file = {};
+  std::string file = {};                  ///< none for new settings
   std::optional<std::string> texts = {};  ///< a document whose text table is used in the place of the file's
   std::optional<std::string> out = {};    ///< where to save, instead of the file itself
   bool readOnly = false;
+  std::string protection = {};  ///< why the file can't be written, where that makes it read-only
 };
 
 /// What a host has of settings, apart from what stands in the dialog: enough to load them again.
@@ -36,12 +36,19 @@ class EditedSettings {
   EditedSettings(const EditOptions& options, const Platform& platform);
 
   ORXQueryPrnProp& Control() { return control_; }
-  const std::string& Source() const { return document_.file; }
+  /// Empty until new settings have been saved.
   const std::string& Target() const { return target_; }
   bool IsReadOnly() const { return control_.IsReadOnly(); }
+  /// Why it is read-only though nobody has asked for it; else empty.
+  const std::string& Protection() const { return protection_; }
 
   /// One line for each row or cell of the file that a save does not bring back.
   const std::vector<std::string>& Losses() const { return losses_; }
+
+  /// Loads another document in the place of this one.
+  /// @param options a text table that was named once is used for all that are opened
+  /// @throws DocumentError, LoadError; nothing is changed then.
+  void Open(const EditOptions& options);
 
   /// What the file said when it was loaded, or was given by the last save.
   const Snapshot& File() const { return file_; }
@@ -66,8 +73,13 @@ class EditedSettings {
   bool IsTargetOvertaken() const { return StampOf(target_) != targetStamp_; }
   bool IsTargetThere() const { return StampOf(target_) != FileStamp{}; }
 
-  /// Reads the tables and replaces the target. @throws RunTimeError, DocumentError; the target is untouched then.
-  void Save();
+  /// Reads the tables and replaces the file, which is the target from then on. What was read-only since it could not be
+  /// saved can be changed then.
+  /// @throws RunTimeError, DocumentError; the file is untouched then.
+  void SaveIn(const std::string& file);
+  /// Loads what stands in the target now, which counts as unchanged. @throws DocumentError, LoadError; nothing is
+  /// changed then.
+  void Reload();
 
   /// The layout that the host knows, empty when there is none.
   Text LayoutOf(const LayoutKey& key) const;
@@ -81,13 +93,18 @@ class EditedSettings {
   void Restore(const HostSettings& settings);
 
  private:
+  /// @throws LoadError; nothing is changed then that was loaded before.
+  void Take(SettingsDocument document, bool readOnly);
+  /// @throws LoadError; the former ones are used then.
+  void UseTextsOf(const SettingsDocument& document);
   void Load();
-  void FindLosses();
   void FindChange();
 
   SettingsDocument document_;
+  std::optional<MemoryTableRef> texts_;  ///< used in the place of those of a document
   std::string target_;
-  bool targetIsBehind_;
+  std::string protection_;
+  bool targetIsBehind_ = false;
   FileStamp targetStamp_;
   Snapshot file_;
   ORXQueryPrnProp control_;
@@ -97,10 +114,8 @@ class EditedSettings {
   bool isChanged_ = false;
 };
 
-/// Opens a document for a window in which it is edited.
-/// @param tell shows the words of what is thrown to a person, in a window; empty where standard error is seen.
-/// @throws what the constructor throws, also for a file that could not be saved.
-std::unique_ptr<EditedSettings> OpenToEdit(const EditOptions& options, const Platform& platform,
-                                           const std::function<void(const std::string& words)>& tell);
+/// The same for a document that is to be edited: read-only where the file could not be saved.
+/// @throws DocumentError for a folder, and where `out` could not be saved.
+EditOptions ToEdit(EditOptions options);
 
 }  // namespace ORXKMPrintProp::host

@@ -5,7 +5,10 @@
 #include <span>
 #include <utility>
 
+#include "host/Differences.h"
 #include "host/DocumentError.h"
+#include "host/Files.h"
+#include "host/Load.h"
 #include "host/Utf8.h"
 #include "tables/RunTimeError.h"
 #include "views/SpokenName.h"
@@ -28,23 +31,68 @@ bool IsField(const Widget& widget) {
 
 }  // namespace
 
-Editor::Editor(EditedSettings& settings, EditorWindow& window)
-    : settings_(settings),
-      window_(window),
-      now_{.host = settings.Host(), .page = std::make_shared<PageContent>(ContentOf(settings.Control().GetDialog()))},
-      saved_(now_),
-      printOrder_(PrintOrder(now_.page->page)) {
+Editor::Editor(EditedSettings& settings, EditorWindow& window) : settings_(settings), window_(window) {
+  Begin();
   settings.Control().Connect(*this);
 }
 
 Editor::~Editor() { settings_.Control().Disconnect(*this); }
 
+void Editor::Begin() {
+  now_ = {.host = settings_.Host(), .page = std::make_shared<PageContent>(ContentOf(GetDialog()))};
+  saved_ = now_;
+  steps_ = {};
+  typing_ = nullptr;
+  printOrder_ = PrintOrder(now_.page->page);
+}
+
+bool Editor::New() { return MayClose() && OpenInPlace({}); }
+
+bool Editor::Open(const std::string& file) { return MayClose() && OpenInPlace({.file = file}); }
+
+bool Editor::Open() {
+  if (!MayClose()) return false;
+  const auto file = window_.PickFile(FileUse::Open, settings_.Target());
+  return file && OpenInPlace({.file = *file});
+}
+
+bool Editor::OpenRecent(const std::string& file) {
+  if (StampOf(file) != FileStamp{}) return Open(file);
+  Tell("The file is no longer there.", file);
+  window_.Remember(Without(window_.Remembered(), file));
+  return false;
+}
+
+bool Editor::OpenInPlace(const EditOptions& options) {
+  try {
+    settings_.Open(ToEdit(options));
+  } catch (const std::exception& error) {
+    Tell("The file could not be opened.", error.what());
+    return false;
+  }
+  Begin();
+  Show();
+  return true;
+}
+
+void Editor::RememberFile() {
+  if (settings_.Target() == remembered_) return;
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(FromUtf8(settings_.Target()), error)) return;
+  remembered_ = settings_.Target();
+  const RecentFiles former = window_.Remembered();
+  const RecentFiles files = WithNewest(former, remembered_);
+  if (files != former) window_.Remember(files);
+}
+
 std::string Editor::Title(std::string_view modified) const {
   const Text name = std::filesystem::path(FromUtf8(settings_.Target())).filename().u16string();
-  return ToUtf8(name) + std::string(modified) + (settings_.IsReadOnly() ? " (read-only)" : "") + " - Print settings";
+  return (name.empty() ? "Untitled" : ToUtf8(name)) + std::string(modified) +
+         (settings_.IsReadOnly() ? " (read-only)" : "") + " - Print settings";
 }
 
 void Editor::Show() {
+  RememberFile();
   window_.ShowMeaning(settings_.File(), settings_.Now());
   ShowState();
 }
@@ -247,19 +295,46 @@ void Editor::ShowState() {
                      .canRevert = IsModified(),
                      .undo = undo ? undo->name : "",
                      .redo = redo ? redo->name : "",
-                     .note = fields.empty() ? "" : kNoNumber + " " + Joined(fields, "; ")});
+                     .note = !fields.empty() ? kNoNumber + " " + Joined(fields, "; ") : ProtectionNote()});
+}
+
+std::string Editor::ProtectionNote() const {
+  const std::string& why = settings_.Protection();
+  return why.empty() ? "" : "Opened read-only, since it could not be saved. " + why;
 }
 
 bool Editor::Accept() { return isDone_ = Save(); }
 
 bool Editor::Save() {
-  if (!Read()) return false;
-  if (!AcceptsFields()) return false;
+  if (!Read() || !AcceptsFields()) return false;
   if (!settings_.IsToBeSaved()) return true;
-  if (!AcceptsLosses() || !AcceptsOvertaking()) return false;
+  if (!AcceptsLosses()) return false;
+  if (settings_.Target().empty()) return SaveElsewhere();
+  switch (ChoiceOnOvertaking()) {
+    case Choice::Save:
+    case Choice::SaveAllTheSame:
+      return SaveIn(settings_.Target());
+    case Choice::SaveAs:
+      return SaveElsewhere();
+    case Choice::Reload:
+      Reload();
+      return false;
+    default:
+      return false;
+  }
+}
+
+bool Editor::SaveAs() { return Read() && AcceptsFields() && AcceptsLosses() && SaveElsewhere(); }
+
+bool Editor::SaveElsewhere() {
+  const auto file = window_.PickFile(FileUse::Save, settings_.Target());
+  return file && SaveIn(*file);
+}
+
+bool Editor::SaveIn(const std::string& file) {
   static constexpr const char* kFailed = "The settings could not be saved.";
   try {
-    settings_.Save();
+    settings_.SaveIn(file);
   } catch (const DocumentError& error) {
     Tell(kFailed, error.what());
     return false;
@@ -271,6 +346,20 @@ bool Editor::Save() {
   saved_ = now_;
   Show();
   return true;
+}
+
+void Editor::Reload() {
+  try {
+    settings_.Reload();
+  } catch (const std::exception& error) {
+    return Tell("The file could not be loaded again.", error.what());
+  }
+  BeginStep(nullptr, "Reload");
+  EndStep(ContentOf(GetDialog()));
+  now_.readNumber = now_.number;
+  steps_.Last().after = saved_ = now_;
+  printOrder_ = PrintOrder(now_.page->page);
+  Show();
 }
 
 bool Editor::AcceptsFields() {
@@ -292,12 +381,43 @@ bool Editor::AcceptsLosses() {
   return AcceptsSave(count, Joined(std::span(lines).first(kShown), "\n") + "\n\u2026", all);
 }
 
-bool Editor::AcceptsOvertaking() {
-  if (!settings_.IsTargetOvertaken()) return true;
-  const std::string& target = settings_.Target();
-  return settings_.IsTargetThere()
-             ? AcceptsSave("The file has changed since it was opened.", "Replace " + target + " all the same?")
-             : AcceptsSave("The file is gone since it was opened.", "Save in " + target + " all the same?");
+Choice Editor::ChoiceOnOvertaking() {
+  while (settings_.IsTargetOvertaken()) {
+    Question question{
+        .kind = Question::Kind::Warning,
+        .text = "The file has changed since it was opened.",
+        .further = "A save would replace what now stands in " + settings_.Target() + ".",
+        .choices = {Choice::Reload, Choice::SaveAs, Choice::ShowDifferences, Choice::SaveAllTheSame, Choice::Cancel},
+        .preset = Choice::Cancel};
+    if (!settings_.IsTargetThere()) {
+      question.text = "The file is gone since it was opened.";
+      question.further = "A save would make " + settings_.Target() + " anew.";
+      question.choices = {Choice::SaveAs, Choice::SaveAllTheSame, Choice::Cancel};
+    }
+    const Choice choice = window_.Ask(question);
+    if (choice != Choice::ShowDifferences) return choice;
+    ShowDifferences();
+  }
+  return Choice::Save;
+}
+
+void Editor::ShowDifferences() {
+  std::vector<std::string> lines;
+  try {
+    const auto file = SettingsOf(ReadSettings(settings_.Target()));
+    const auto now = SettingsOf(DocumentOf(settings_.Now()));
+    lines = LinesOf(DifferencesOf(*file, *now, WordsBesideCaptions(UserLanguage())));
+  } catch (const std::exception& error) {
+    return Tell("The file can't be compared.", error.what());
+  }
+  constexpr std::size_t kShown = 15;
+  Question told{.kind = Question::Kind::Information,
+                .text = lines.empty() ? "The settings say the same as the file." : "A save changes this in the file:",
+                .further = Joined(lines, "\n")};
+  if (lines.size() > kShown) {
+    told.details = std::exchange(told.further, Joined(std::span(lines).first(kShown), "\n") + "\n\u2026");
+  }
+  window_.Ask(told);
 }
 
 bool Editor::AcceptsSave(std::string text, std::string further, std::string details) {
@@ -311,11 +431,12 @@ bool Editor::AcceptsSave(std::string text, std::string further, std::string deta
 
 bool Editor::MayClose() {
   if (isDone_ || (Read() && !settings_.IsChanged())) return true;
-  switch (window_.Ask({.kind = Question::Kind::Question,
-                       .text = "The settings have changed.",
-                       .further = "Save them in " + settings_.Target() + "?",
-                       .choices = {Choice::Save, Choice::Discard, Choice::Cancel},
-                       .preset = Choice::Save})) {
+  switch (
+      window_.Ask({.kind = Question::Kind::Question,
+                   .text = "The settings have changed.",
+                   .further = settings_.Target().empty() ? "Save them?" : "Save them in " + settings_.Target() + "?",
+                   .choices = {Choice::Save, Choice::Discard, Choice::Cancel},
+                   .preset = Choice::Save})) {
     case Choice::Save:
       return Save();
     case Choice::Discard:

@@ -8,15 +8,16 @@
 
 #include "control/ORXQueryPrnProp.h"
 #include "host/editor/EditedSettings.h"
+#include "host/editor/RecentFiles.h"
 #include "host/editor/Steps.h"
 
 namespace ORXKMPrintProp::host {
 
-enum class Choice { Ok, Save, Discard, Cancel };
+enum class Choice { Ok, Save, Discard, Reload, SaveAs, ShowDifferences, SaveAllTheSame, Cancel };
 
 /// What a message box tells or asks; all of it is plain text in UTF-8.
 struct Question {
-  enum class Kind { Failure, Warning, Question };
+  enum class Kind { Failure, Warning, Question, Information };
 
   Kind kind = Kind::Failure;
   std::string text;
@@ -25,6 +26,9 @@ struct Question {
   std::vector<Choice> choices{Choice::Ok};
   Choice preset = Choice::Ok;  ///< what Enter takes; closing the box is Cancel
 };
+
+/// What a file is picked for.
+enum class FileUse { Open, Save };
 
 /// What a window shows of an editor's state.
 struct EditorState {
@@ -49,6 +53,12 @@ class EditorWindow {
   virtual Choice Ask(const Question& question) = 0;
   /// Lets the user edit a layout, or only look at it. @return what it is now, none when it was left as it was.
   virtual std::optional<Text> EditLayout(const Text& name, const Text& layout, bool readOnly) = 0;
+  /// Lets the user pick a settings document, and asks him before a save replaces one that is there.
+  /// @param proposed that is shown at first, or empty. @return its path, none where he has picked none
+  virtual std::optional<std::string> PickFile(FileUse use, const std::string& proposed) = 0;
+  /// What was remembered last; none where nothing is.
+  virtual RecentFiles Remembered() = 0;
+  virtual void Remember(const RecentFiles& files) = 0;
   /// The focus is to go to a widget of the dialog, which is on the page on top.
   virtual void Focus(const Widget& widget) = 0;
 };
@@ -57,9 +67,9 @@ class EditorWindow {
 /// what is undone.
 ///
 /// Whether something has changed, only a read of the tables can tell, and a read commits the page on top. So the
-/// editor reads where a commit is due anyway: after a change of the tab or of an order, when a layout has been stored, at
-/// OK, Apply, Cancel and close, and when the user asks for it by Refresh. In between, any other content of a field counts
-/// as a change, until the next read knows better.
+/// editor reads where a commit is due anyway: after a change of the tab or of an order, when a layout has been stored,
+/// at OK, Apply, Cancel and close, and when the user asks for it by Refresh. In between, any other content of a field
+/// counts as a change, until the next read knows better.
 ///
 /// A step that can be undone is what the user does to settings at one go: what he types into one field, a transfer, a
 /// drag, a layout. What he looks at is no step, but comes back with them.
@@ -69,6 +79,17 @@ class Editor : private ORXQueryPrnPropEvents {
   Editor(EditedSettings& settings, EditorWindow& window);
   ~Editor() override;
 
+  // Each takes the place of what is edited, after the question whether to save that. @return whether it has.
+
+  bool New();
+  bool Open(const std::string& file);
+  /// The user picks the file.
+  bool Open();
+  /// A file that is gone is remembered no longer.
+  bool OpenRecent(const std::string& file);
+
+  /// What is edited, and saved to; empty for new settings.
+  const std::string& File() const { return settings_.Target(); }
   /// The window's title. @param modified what stands behind the name of a file that has changed.
   std::string Title(std::string_view modified) const;
   void Show();
@@ -89,7 +110,9 @@ class Editor : private ORXQueryPrnPropEvents {
   bool Read();
   /// Both may ask the user first, and tell him when it fails. @return whether the target holds the settings now.
   bool Save();
-  /// The same, and the window is to close when it is done.
+  /// The same in a file that the user names, which is the one that is edited from then on.
+  bool SaveAs();
+  /// Like `Save`, and the window is to close when it is done.
   bool Accept();
   /// Whether the window may close; may ask the user whether to save.
   bool MayClose();
@@ -98,6 +121,10 @@ class Editor : private ORXQueryPrnPropEvents {
   void ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) override;
   void ORXOrderChanged() override {}
 
+  void Begin();
+  bool OpenInPlace(const EditOptions& options);
+  /// Puts what is edited among the recent files once it is there, unless it is a pipe or the like.
+  void RememberFile();
   Dialog& GetDialog() const { return settings_.Control().GetDialog(); }
   std::vector<std::int32_t> PrintOrder(std::int16_t page) const;
   std::string NameOf(const Widget& widget) const;
@@ -113,9 +140,17 @@ class Editor : private ORXQueryPrnPropEvents {
   void ShowState();
   /// A line for each field of the dialog whose text can't be stored.
   std::vector<std::string> NotStored() const;
+  /// Empty where the file is not protected.
+  std::string ProtectionNote() const;
   bool AcceptsFields();
   bool AcceptsLosses();
-  bool AcceptsOvertaking();
+  /// What is to be done where somebody else has written the target: Save where nobody has.
+  Choice ChoiceOnOvertaking();
+  void ShowDifferences();
+  /// What stands in the target takes the place of the user's settings, which is a step.
+  void Reload();
+  bool SaveElsewhere();
+  bool SaveIn(const std::string& file);
   bool AcceptsSave(std::string text, std::string further, std::string details = {});
   void Tell(const std::string& what, const std::string& why);
 
@@ -127,6 +162,7 @@ class Editor : private ORXQueryPrnPropEvents {
   int lastNumber_ = 0;
   const Widget* typing_ = nullptr;        ///< the box in which a step may go on
   std::vector<std::int32_t> printOrder_;  ///< of the page on top, as the user has left it
+  std::string remembered_;
   bool isDone_ = false;
 };
 

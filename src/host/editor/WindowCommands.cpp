@@ -37,8 +37,9 @@ std::optional<PictureSize> ParsePictureSize(const std::string& text) {
   return PictureSize{.factor = *factor};
 }
 
-void AddSettings(CLI::App& command, EditOptions& options) {
-  command.add_option("FILE", options.file, "Settings document")->required();
+void AddSettings(CLI::App& command, EditOptions& options, bool needsFile) {
+  command.add_option("FILE", options.file, needsFile ? "Settings document" : "Settings document, else new settings")
+      ->required(needsFile);
   command.add_option("--texts", options.texts, "Document whose text table is used")->type_name("TEXTS");
   command.add_flag("--read-only", options.readOnly, "The dialog takes no change");
 }
@@ -46,7 +47,7 @@ void AddSettings(CLI::App& command, EditOptions& options) {
 void AddEdit(CLI::App& program, const WindowCommands& commands, int& status) {
   const auto options = std::make_shared<EditOptions>();
   CLI::App* const edit = program.add_subcommand("edit", "Opens the dialog in a window");
-  AddSettings(*edit, *options);
+  AddSettings(*edit, *options, false);
   edit->add_option("-o,--output", options->out, "File to save to, instead of FILE")->type_name("OUT");
   edit->callback([options, run = commands.edit, &status] {
     if (options->out.value_or(options->file) == kStandardStream) {
@@ -64,7 +65,7 @@ void AddShot(CLI::App& program, const WindowCommands& commands) {
   };
   const auto options = std::make_shared<Options>();
   CLI::App* const shot = program.add_subcommand("shot", "Draws a page of the dialog, also without a display");
-  AddSettings(*shot, options->shot.settings);
+  AddSettings(*shot, options->shot.settings, true);
   shot->add_option("--page", options->shot.page, "0 General, 1 Characteristics, 2 Attributes, 3 Structures")
       ->required()
       ->check(CLI::Range(0, 3));

@@ -2,11 +2,13 @@
 
 #include <windows.h>
 
+#include <memory>
 #include <system_error>
 
 #include "host/ExitStatus.h"
 #include "host/Files.h"
 #include "host/Load.h"
+#include "host/Program.h"
 #include "host/win32/Apartment.h"
 #include "host/win32/EditWindow.h"
 #include "host/win32/QuestionBox.h"
@@ -30,8 +32,15 @@ void Tell(const std::string& words) { AskIn(nullptr, {.text = words, .further = 
 int Edit(const EditOptions& options) {
   const Apartment apartment;
   const bool isSeen = !LeaveOwnConsole() && IsTerminal(stderr);
-  const auto& platform = win32::WindowsPlatform::Instance();
-  const auto settings = isSeen ? OpenToEdit(options, platform, {}) : OpenToEdit(options, platform, Tell);
+  std::unique_ptr<EditedSettings> settings;
+  try {
+    settings = std::make_unique<EditedSettings>(ToEdit(options), win32::WindowsPlatform::Instance());
+  } catch (const std::exception& error) {
+    // Ahead of the box, which may stand there for long.
+    const int status = TellFailure(error);
+    if (!isSeen) Tell(error.what());
+    return status;
+  }
   try {
     EditWindow window(*settings);
     window.Show();

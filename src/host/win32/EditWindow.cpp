@@ -51,6 +51,7 @@ EditWindow::EditWindow(EditedSettings& settings) : editor_(settings, *this) {
   dpi_ = win32::PrnPropView::DpiOf(window_);
   FitFonts();
   SetClientSize(window_, WholeSize());
+  ::DragAcceptFiles(window_, TRUE);
   editor_.Show();
 }
 
@@ -174,6 +175,9 @@ LRESULT EditWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_SETFOCUS:
       RestoreFocus();
       return 0;
+    case WM_DROPFILES:
+      OpenDropped(reinterpret_cast<HDROP>(wParam));
+      return 0;
     case WM_QUERYENDSESSION:
       return !IsWaiting() && editor_.MayClose();
     case WM_CLOSE:
@@ -185,6 +189,13 @@ LRESULT EditWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
       return ::DefWindowProcW(window_, message, wParam, lParam);
   }
+}
+
+void EditWindow::OpenDropped(HDROP files) {
+  std::wstring path(::DragQueryFileW(files, 0, nullptr, 0) + 1, L'\0');
+  path.resize(::DragQueryFileW(files, 0, path.data(), static_cast<UINT>(path.size())));
+  ::DragFinish(files);
+  if (!IsWaiting() && !path.empty()) editor_.Open(ToUtf8(Text(path.begin(), path.end())));
 }
 
 void EditWindow::DrawNote(const DRAWITEMSTRUCT& item) const {
@@ -234,9 +245,14 @@ bool EditWindow::TakePlainKey(const MSG& message) {
       if (!isPlain) return false;
       editor_.Read();
       return true;
-    case 'S':
+    case 'N':
+    case 'O':
       if (!press.control || press.shift) return false;
-      if (!isRepeated) editor_.Save();
+      if (!isRepeated) message.wParam == 'N' ? editor_.New() : editor_.Open();
+      return true;
+    case 'S':
+      if (!press.control) return false;
+      if (!isRepeated) press.shift ? editor_.SaveAs() : editor_.Save();
       return true;
     case 'Y':
     case 'Z':

@@ -2,10 +2,13 @@
 
 #include <windows.h>
 
+#include <shellapi.h>
+
 #include <memory>
 
 #include "host/editor/Editor.h"
 #include "host/win32/ButtonRow.h"
+#include "host/win32/FilePicker.h"
 #include "host/win32/Metrics.h"
 #include "host/win32/Viewport.h"
 #include "views/win32/PrnPropView.h"
@@ -38,6 +41,11 @@ class EditWindow : private EditorWindow {
   void ShowState(const EditorState& state) override;
   Choice Ask(const Question& question) override;
   std::optional<Text> EditLayout(const Text& name, const Text& layout, bool readOnly) override;
+  std::optional<std::string> PickFile(FileUse use, const std::string& proposed) override {
+    return PickFileIn(window_, use, proposed);
+  }
+  RecentFiles Remembered() override { return {}; }
+  void Remember(const RecentFiles&) override {}
   void Focus(const Widget& widget) override { view_->Focus(widget); }
 
   static LRESULT CALLBACK OnMessageOf(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
@@ -47,6 +55,8 @@ class EditWindow : private EditorWindow {
   SIZE WholeSize() const;
   void FitFonts();
   void Place();
+  /// The first of them.
+  void OpenDropped(HDROP files);
   void DrawNote(const DRAWITEMSTRUCT& item) const;
   /// Does what a key does to the window as a whole, ahead of the widget that it was pressed in. @return false for all
   /// other messages.

@@ -18,6 +18,10 @@ constexpr ChoiceButton kChoices[] = {
     {Choice::Ok, {IDOK, L"&OK"}},
     {Choice::Save, {IDYES, L"&Save"}},
     {Choice::Discard, {IDNO, L"&Discard"}},
+    {Choice::Reload, {IDRETRY, L"&Reload"}},
+    {Choice::SaveAs, {IDCONTINUE, L"Save &as..."}},
+    {Choice::ShowDifferences, {IDHELP, L"Show &what differs"}},
+    {Choice::SaveAllTheSame, {IDIGNORE, L"&Save all the same"}},
     {Choice::Cancel, {IDCANCEL, L"&Cancel"}},
 };
 
@@ -37,6 +41,7 @@ const KindRow kKinds[] = {
     {Question::Kind::Failure, MAKEINTRESOURCEW(32513), MB_ICONERROR},
     {Question::Kind::Warning, MAKEINTRESOURCEW(32515), MB_ICONWARNING},
     {Question::Kind::Question, MAKEINTRESOURCEW(32514), MB_ICONQUESTION},
+    {Question::Kind::Information, MAKEINTRESOURCEW(32516), MB_ICONINFORMATION},
 };
 
 /// As a text field has it.

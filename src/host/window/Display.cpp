@@ -1,6 +1,7 @@
 #include "host/window/Display.h"
 
 #include <QByteArray>
+#include <QGuiApplication>
 #include <QtGlobal>
 #include <cstdio>
 #include <cstdlib>
@@ -14,6 +15,11 @@ bool HasDisplay() {
     if (!qEnvironmentVariableIsEmpty(name)) return true;
   }
   return false;
+}
+
+bool IsDisplayed() {
+  const QString platform = QGuiApplication::platformName();
+  return platform != QStringLiteral("offscreen") && platform != QStringLiteral("minimal");
 }
 
 void DrawInMemory() {

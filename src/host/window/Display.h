@@ -5,6 +5,9 @@ namespace ORXKMPrintProp::host {
 /// Whether there is something to open windows on: a display, or a platform that the user has named.
 bool HasDisplay();
 
+/// Whether a person may see what the application opens there.
+bool IsDisplayed();
+
 /// Makes Qt draw in memory, unless the user has named a platform.
 void DrawInMemory();
 

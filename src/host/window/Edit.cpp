@@ -8,6 +8,7 @@
 
 #include "host/Files.h"
 #include "host/Load.h"
+#include "host/Program.h"
 #include "host/editor/EditedSettings.h"
 #include "host/window/Display.h"
 #include "host/window/Remembered.h"
@@ -27,25 +28,40 @@ void Tell(const std::string& words) {
 
 }  // namespace
 
-EditProgram::EditProgram(const EditOptions& options) {
+EditProgram::EditProgram() {
   if (!HasDisplay()) throw LoadError("there is no display to open a window on");
   TakeQtMessages(true);
   application_ = std::make_unique<QApplication>(argc_, argv_);
   QGuiApplication::setDesktopFileName(QStringLiteral("prnprop"));
   BeginToRemember();
   platform_ = std::make_unique<qt::QtPlatform>();
-  const bool isSeen = IsTerminal(stderr) || QGuiApplication::platformName() == QStringLiteral("offscreen");
-  settings_ = isSeen ? OpenToEdit(options, *platform_, {}) : OpenToEdit(options, *platform_, Tell);
-  window_ = std::make_unique<SettingsWindow>(*settings_);
-  window_->FitInto(window_->screen()->availableSize());
 }
 
 EditProgram::~EditProgram() = default;
+
+void EditProgram::Open(const EditOptions& options) {
+  settings_ = std::make_unique<EditedSettings>(ToEdit(options), *platform_);
+  window_ = std::make_unique<SettingsWindow>(*settings_);
+  window_->FitInto(window_->screen()->availableSize());
+}
 
 int EditProgram::Run() {
   window_->show();
   QTimer::singleShot(0, [] { QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("prnprop"))); });
   return QApplication::exec();
+}
+
+int Edit(const EditOptions& options) {
+  EditProgram program;
+  try {
+    program.Open(options);
+  } catch (const std::exception& error) {
+    // Ahead of the box, which may stand there for long.
+    const int status = TellFailure(error);
+    if (IsDisplayed() && !IsTerminal(stderr)) Tell(error.what());
+    return status;
+  }
+  return program.Run();
 }
 
 }  // namespace ORXKMPrintProp::host

@@ -17,14 +17,16 @@ class SettingsWindow;
 /// The program of a document that is edited in a window.
 class EditProgram {
  public:
-  /// Makes the window. Where nobody sees standard error, a message box first says what is thrown here.
-  /// @throws DocumentError for a document that can't be read, or could not be saved; LoadError for one that does not
-  /// load, and where there is no display.
-  explicit EditProgram(const EditOptions& options);
+  /// @throws LoadError where there is no display.
+  EditProgram();
   EditProgram(const EditProgram&) = delete;
   EditProgram& operator=(const EditProgram&) = delete;
   ~EditProgram();
 
+  /// Makes the window.
+  /// @throws DocumentError for a document that can't be read, or could not be saved where it is to be; LoadError for
+  /// one that does not load.
+  void Open(const EditOptions& options);
   SettingsWindow& Window() { return *window_; }
   /// Shows the window, and ends when the user has closed it. @return 0
   int Run();
@@ -38,5 +40,10 @@ class EditProgram {
   std::unique_ptr<EditedSettings> settings_;
   std::unique_ptr<SettingsWindow> window_;
 };
+
+/// Opens the document in a window, and ends when the user has closed it. What fails is told on standard error and then,
+/// where nobody sees that, in a message box. @return an ExitStatus
+/// @throws LoadError where there is no display.
+int Edit(const EditOptions& options);
 
 }  // namespace ORXKMPrintProp::host

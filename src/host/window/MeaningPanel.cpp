@@ -15,9 +15,12 @@
 #include "host/window/ChangesView.h"
 #include "host/window/ComparedView.h"
 #include "host/window/PagePanel.h"
+#include "host/window/Remembered.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
+
+const QString kTab = QStringLiteral("panel/tab");
 
 struct TableTab {
   const char* caption;
@@ -70,7 +73,11 @@ void MeaningPanel::MakeTabs() {
     views_.back()->setAccessibleName(QLatin1String(table.caption));
     tabs_->addTab(views_.back(), QLatin1String(table.caption));
   }
-  connect(tabs_, &QTabWidget::currentChanged, this, [this] { ShowFront(); });
+  tabs_->setCurrentIndex(Remembered(kTab).toInt());
+  connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
+    ShowFront();
+    Remember(kTab, tab);
+  });
   auto& column = static_cast<QBoxLayout&>(*layout());
   column.insertWidget(1, tabs_, 1);
   next_ = new QPushButton(QStringLiteral("&Next difference"), this);

@@ -18,7 +18,9 @@ void BeginToRemember() {
   QSettings::setDefaultFormat(QSettings::IniFormat);
 }
 
-QVariant Remembered(const QString& name) { return Remembers() ? QSettings().value(name) : QVariant(); }
+QVariant Remembered(const QString& name, const QVariant& otherwise) {
+  return Remembers() ? QSettings().value(name, otherwise) : otherwise;
+}
 
 void Remember(const QString& name, const QVariant& value) {
   if (Remembers()) QSettings().setValue(name, value);

@@ -11,7 +11,8 @@ namespace ORXKMPrintProp::host {
 void BeginToRemember();
 
 /// What was remembered last under that name. The file may hold anything.
-QVariant Remembered(const QString& name);
+/// @param otherwise where nothing was
+QVariant Remembered(const QString& name, const QVariant& otherwise = {});
 void Remember(const QString& name, const QVariant& value);
 
 }  // namespace ORXKMPrintProp::host

@@ -3,23 +3,30 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDialogButtonBox>
+#include <QDropEvent>
+#include <QFile>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStyle>
+#include <QUrl>
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "host/window/FileMenu.h"
+#include "host/window/FilePicker.h"
 #include "host/window/FindField.h"
 #include "host/window/KeysWindow.h"
 #include "host/window/LayoutEditor.h"
 #include "host/window/MeaningPanel.h"
 #include "host/window/OrderButtons.h"
+#include "host/window/Remembered.h"
 #include "host/window/SignButton.h"
 #include "host/window/SpokenWindow.h"
 #include "views/qt/PrnPropView.h"
@@ -30,17 +37,25 @@ namespace {
 
 using qt::ToQString;
 
-QMessageBox::StandardButton ButtonOf(Choice choice) {
-  switch (choice) {
-    case Choice::Ok:
-      return QMessageBox::Ok;
-    case Choice::Save:
-      return QMessageBox::Save;
-    case Choice::Discard:
-      return QMessageBox::Discard;
-    default:
-      return QMessageBox::Cancel;
-  }
+struct ChoiceButton {
+  Choice choice;
+  QMessageBox::StandardButton button;
+  const char* caption = nullptr;  ///< instead of the button's own
+};
+constexpr ChoiceButton kChoices[] = {
+    {Choice::Ok, QMessageBox::Ok},
+    {Choice::Save, QMessageBox::Save},
+    {Choice::Discard, QMessageBox::Discard},
+    {Choice::Reload, QMessageBox::Retry, "&Reload"},
+    {Choice::SaveAs, QMessageBox::SaveAll, "Save &as..."},
+    {Choice::ShowDifferences, QMessageBox::Open, "Show &what differs"},
+    {Choice::SaveAllTheSame, QMessageBox::Ignore, "&Save all the same"},
+    {Choice::Cancel, QMessageBox::Cancel},
+};
+
+const ChoiceButton& RowOf(Choice choice) {
+  return *std::find_if(std::begin(kChoices), std::end(kChoices),
+                       [&](const ChoiceButton& row) { return row.choice == choice; });
 }
 
 QMessageBox::Icon IconOf(Question::Kind kind) {
@@ -49,6 +64,8 @@ QMessageBox::Icon IconOf(Question::Kind kind) {
       return QMessageBox::Warning;
     case Question::Kind::Question:
       return QMessageBox::Question;
+    case Question::Kind::Information:
+      return QMessageBox::Information;
     default:
       return QMessageBox::Critical;
   }
@@ -63,6 +80,16 @@ void OnKey(QWidget& window, const Key& key, Action action) {
   new QShortcut(key, &window, [action] {
     if (!QApplication::activePopupWidget()) action();
   });
+}
+
+const QString kSize = QStringLiteral("window/size");
+const QString kMaximized = QStringLiteral("window/maximized");
+const QString kPreview = QStringLiteral("window/preview");
+
+/// The path of the first file that is dropped, empty for none.
+QString DroppedFile(const QDropEvent& event) {
+  const QList<QUrl> urls = event.mimeData()->urls();
+  return urls.isEmpty() ? QString() : urls.front().toLocalFile();
 }
 
 /// @param what would be done, empty for nothing
@@ -83,8 +110,6 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
       order_(new OrderButtons(
           settings.Control().GetDialog(), *view_, [&settings] { return settings.IsReadOnly(); }, this)) {
   SpeakAsWindow(*this);
-  setWindowTitle(QString::fromStdString(editor_.Title("[*]")));
-  setWindowFilePath(QString::fromStdString(settings.Target()));
   auto* const across = new QHBoxLayout;
   dialog_->setWidget(view_);
   dialog_->setFrameShape(QFrame::NoFrame);
@@ -96,6 +121,7 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
   down->addWidget(MakeButtons());
   BoundDialog();
 
+  setAcceptDrops(true);
   connect(view_, &qt::PrnPropView::failed, this, [this](const QString& why) { editor_.OnFailed(why.toStdString()); });
   connect(view_, &qt::PrnPropView::used, this, [this](const Widget& widget) { editor_.OnUsed(widget); });
   for (QLineEdit* const field : view_->findChildren<QLineEdit*>()) field->installEventFilter(this);
@@ -105,10 +131,18 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
   editor_.Show();
   unfoldedWidth_ = view_->width() * 9 / 5;
   resize(sizeHint().expandedTo(QSize(unfoldedWidth_, 0)));
+  TakeRememberedSize();
 }
 
 /// The focus goes on while the window ends.
 SettingsWindow::~SettingsWindow() { qApp->disconnect(this); }
+
+void SettingsWindow::TakeRememberedSize() {
+  const QSize size = host::Remembered(kSize).toSize();
+  if (size.isValid()) resize(size);
+  if (!host::Remembered(kPreview, true).toBool()) preview_->setChecked(false);
+  if (host::Remembered(kMaximized).toBool()) setWindowState(Qt::WindowMaximized);
+}
 
 void SettingsWindow::FitInto(const QSize& room) {
   const bool isTooWide = minimumSizeHint().width() > room.width();
@@ -138,6 +172,10 @@ void SettingsWindow::BoundDialog() {
 
 QWidget* SettingsWindow::MakeButtons() {
   auto* const bar = new QWidget(this);
+  auto* const file = new QPushButton(QStringLiteral("Fi&le"), bar);
+  file->setObjectName(QStringLiteral("file"));
+  file->setAutoDefault(true);
+  file->setMenu(new FileMenu(editor_, file));
   preview_ = new QPushButton(QStringLiteral("&Preview"), bar);
   preview_->setObjectName(QStringLiteral("preview"));
   preview_->setCheckable(true);
@@ -145,6 +183,7 @@ QWidget* SettingsWindow::MakeButtons() {
   preview_->setAutoDefault(true);
   preview_->setToolTip(QStringLiteral("Shows beside the dialog what the settings mean"));
   connect(preview_, &QPushButton::toggled, this, &SettingsWindow::Fold);
+  connect(preview_, &QPushButton::clicked, this, [](bool unfolds) { host::Remember(kPreview, unfolds); });
 
   auto* const buttons =
       new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel | QDialogButtonBox::Apply, bar);
@@ -153,6 +192,9 @@ QWidget* SettingsWindow::MakeButtons() {
   connect(buttons, &QDialogButtonBox::accepted, this, [this] { Accept(); });
   connect(buttons, &QDialogButtonBox::rejected, this, [this] { close(); });
   connect(apply_, &QPushButton::clicked, this, [this] { editor_.Save(); });
+  OnKey(*this, QKeySequence::New, [this] { editor_.New(); });
+  OnKey(*this, QKeySequence::Open, [this] { editor_.Open(); });
+  OnKey(*this, Qt::CTRL | Qt::SHIFT | Qt::Key_S, [this] { editor_.SaveAs(); });
   OnKey(*this, QKeySequence::Save, [this] { editor_.Save(); });
   OnKey(*this, QKeySequence::Refresh, [this] { editor_.Read(); });
   auto* const find = new FindField(*view_, dialog_);
@@ -166,7 +208,12 @@ QWidget* SettingsWindow::MakeButtons() {
 
   auto* const row = new QHBoxLayout(bar);
   row->setContentsMargins(0, 0, 0, 0);
-  row->addWidget(preview_);
+  for (QPushButton* const button : {file, preview_}) {
+    // A style makes them wider than their captions, which a small screen has no room for.
+    button->setMinimumWidth(button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width() +
+                            button->sizeHint().height());
+    row->addWidget(button);
+  }
   for (QPushButton* const step : {undo_, redo_, revert_}) row->addWidget(step);
   row->addWidget(order_);
   row->addStretch();
@@ -202,7 +249,7 @@ void SettingsWindow::keyPressEvent(QKeyEvent* event) {
   QWidget::keyPressEvent(event);
 }
 
-/// A field's own steps give way to those of the editor.
+/// A field's own steps give way to those of the editor, and a file is none of its texts.
 bool SettingsWindow::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride) {
     const auto& key = static_cast<const QKeyEvent&>(*event);
@@ -212,6 +259,10 @@ bool SettingsWindow::eventFilter(QObject* watched, QEvent* event) {
       return true;
     }
   }
+  if (event->type() == QEvent::DragEnter && !DroppedFile(static_cast<const QDropEvent&>(*event)).isEmpty()) {
+    event->ignore();
+    return true;
+  }
   return QWidget::eventFilter(watched, event);
 }
 
@@ -219,11 +270,32 @@ void SettingsWindow::Accept() {
   if (editor_.Accept()) close();
 }
 
-void SettingsWindow::closeEvent(QCloseEvent* event) { event->setAccepted(editor_.MayClose()); }
+void SettingsWindow::closeEvent(QCloseEvent* event) {
+  event->setAccepted(editor_.MayClose());
+  if (!event->isAccepted()) return;
+  const QSize last = isMaximized() ? normalGeometry().size() : size();
+  host::Remember(kSize, preview_->isChecked() ? last : QSize(unfoldedWidth_, last.height()));
+  host::Remember(kMaximized, isMaximized());
+}
+
+void SettingsWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DroppedFile(*event).isEmpty()) event->acceptProposedAction();
+}
+
+void SettingsWindow::dropEvent(QDropEvent* event) {
+  const QString file = DroppedFile(*event);
+  if (file.isEmpty()) return;
+  event->acceptProposedAction();
+  // Who drags it waits for the end of this.
+  QMetaObject::invokeMethod(
+      this, [this, file] { editor_.Open(QFile::encodeName(file).toStdString()); }, Qt::QueuedConnection);
+}
 
 void SettingsWindow::ShowMeaning(const Snapshot& file, const Snapshot& now) { panel_->Show(file, now); }
 
 void SettingsWindow::ShowState(const EditorState& state) {
+  setWindowTitle(QString::fromStdString(editor_.Title("[*]")));
+  setWindowFilePath(QString::fromStdString(editor_.File()));
   panel_->SetState(state.isStale, QString::fromStdString(state.note));
   setWindowModified(state.isModified);
   SetEnabled(*apply_, state.canApply);
@@ -244,15 +316,19 @@ void SettingsWindow::SetEnabled(QPushButton& button, bool enabled) {
 Choice SettingsWindow::Ask(const Question& question) {
   QMessageBox box(IconOf(question.kind), QStringLiteral("Print settings"), QString::fromStdString(question.text), {},
                   this);
-  for (const Choice choice : question.choices) box.addButton(ButtonOf(choice));
+  for (const Choice choice : question.choices) {
+    const ChoiceButton& row = RowOf(choice);
+    QPushButton* const button = box.addButton(row.button);
+    if (row.caption) button->setText(QLatin1String(row.caption));
+  }
   box.setInformativeText(QString::fromStdString(question.further));
   // The box has no say over the format of that one.
   for (auto* const label : box.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
   if (!question.details.empty()) box.setDetailedText(QString::fromStdString(question.details));
-  box.setDefaultButton(ButtonOf(question.preset));
+  box.setDefaultButton(RowOf(question.preset).button);
   const int pressed = box.exec();
   const auto chosen = std::find_if(question.choices.begin(), question.choices.end(),
-                                   [&](Choice choice) { return ButtonOf(choice) == pressed; });
+                                   [&](Choice choice) { return RowOf(choice).button == pressed; });
   return chosen == question.choices.end() ? Choice::Cancel : *chosen;
 }
 
@@ -261,6 +337,14 @@ std::optional<Text> SettingsWindow::EditLayout(const Text& name, const Text& lay
   if (!edited) return {};
   return qt::ToText(*edited);
 }
+
+std::optional<std::string> SettingsWindow::PickFile(FileUse use, const std::string& proposed) {
+  return PickFileIn(this, use, proposed);
+}
+
+RecentFiles SettingsWindow::Remembered() { return RememberedFiles(); }
+
+void SettingsWindow::Remember(const RecentFiles& files) { RememberFiles(files); }
 
 void SettingsWindow::Focus(const Widget& widget) {
   lastFocus_ = view_->findChild<QWidget*>(ToQString(widget.Row().name.Spelled()));

@@ -34,6 +34,8 @@ class SettingsWindow : public QWidget, private EditorWindow {
  protected:
   void closeEvent(QCloseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
@@ -41,6 +43,9 @@ class SettingsWindow : public QWidget, private EditorWindow {
   void ShowState(const EditorState& state) override;
   Choice Ask(const Question& question) override;
   std::optional<Text> EditLayout(const Text& name, const Text& layout, bool readOnly) override;
+  std::optional<std::string> PickFile(FileUse use, const std::string& proposed) override;
+  RecentFiles Remembered() override;
+  void Remember(const RecentFiles& files) override;
   void Focus(const Widget& widget) override;
 
   QWidget* MakeButtons();
@@ -48,6 +53,8 @@ class SettingsWindow : public QWidget, private EditorWindow {
   /// A button that is disabled under the focus gives it back to the dialog.
   void SetEnabled(QPushButton& button, bool enabled);
   void Fold(bool unfold);
+  /// As the user has left the last one.
+  void TakeRememberedSize();
   void BoundDialog();
   void Accept();
 

@@ -4,6 +4,5 @@
 
 int main(int argc, char** argv) {
   using namespace ORXKMPrintProp::host;
-  return RunProgram(argc, argv,
-                    {.edit = [](const EditOptions& options) { return EditProgram(options).Run(); }, .shot = Shot});
+  return RunProgram(argc, argv, {.edit = Edit, .shot = Shot});
 }

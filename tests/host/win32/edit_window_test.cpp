@@ -3,6 +3,7 @@
 #include "host/win32/EditWindow.h"
 
 #include <gtest/gtest.h>
+#include <shlobj.h>
 
 #include <algorithm>
 #include <array>
@@ -176,6 +177,45 @@ TEST_F(EditWindowTest, EscapeAsksAndEachAnswerDoesWhatItSays) {
     Key(VK_ESCAPE);
     EXPECT_EQ(State() + Title(), row.state);
   }
+}
+
+TEST_F(EditWindowTest, AnOvertakenFileIsComparedReloadedOrReplaced) {
+  const std::string question =
+      "The file has changed since it was opened.\r\n\r\nA save would replace what now stands in " + file + ".";
+  Open();
+  TypeTitle();
+  SaveFile(file, before + "\n");
+  Answer(IDHELP, question);
+  Answer(IDOK,
+         "A save changes this in the file:\r\n\r\nGeneral\r\n  Print title: '" + sales + "' is now '7" + sales + "'");
+  Answer(IDRETRY, question);
+  Press(IDOK);
+  EXPECT_EQ(State() + ToUtf8(win32::TextOf(Find("txtGenPrnTitle"))), "open" + sales);
+  Key('Z', VK_CONTROL);
+  SaveFile(file, before);
+  Answer(IDIGNORE, question);
+  Press(IDOK);
+  EXPECT_EQ(State() + Title(), "closed7" + sales);
+}
+
+TEST_F(EditWindowTest, AnotherDocumentIsOpenedByKeyAndByDrop) {
+  Open();
+  Key('N', VK_CONTROL);
+  const auto title = [this] { return ToUtf8(win32::TextOf(window->Window())); };
+  EXPECT_EQ(title() + " " + ToUtf8(win32::TextOf(Find("txtGenPrnTitle"))),
+            "Untitled - Print settings Orders by region");
+  const Text path = FromUtf8(file);
+  const std::size_t size = (path.size() + 2) * sizeof(char16_t);
+  const HGLOBAL files = ::GlobalAlloc(GHND, sizeof(DROPFILES) + size);
+  auto* const head = static_cast<DROPFILES*>(::GlobalLock(files));
+  head->pFiles = sizeof(DROPFILES);
+  head->fWide = TRUE;
+  std::copy(path.begin(), path.end(), reinterpret_cast<char16_t*>(head + 1));
+  ::GlobalUnlock(files);
+  ::PostMessageW(window->Window(), WM_DROPFILES, reinterpret_cast<WPARAM>(files), 0);
+  window->HandleMessages();
+  EXPECT_EQ(title() + " " + ToUtf8(win32::TextOf(Find("txtGenPrnTitle"))),
+            "edited-\u00fc.json - Print settings " + sales);
 }
 
 TEST_F(EditWindowTest, TheTabKeyGoesRoundTheWholeWindow) {
