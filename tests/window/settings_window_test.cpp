@@ -151,7 +151,7 @@ TEST_F(SettingsWindowTest, TheUserIsAskedBeforeItCloses) {
   Open();
   QTest::keyClicks(&Find<QLineEdit>("txtGenMarginTop"), QStringLiteral("32768"));
   EXPECT_EQ(Find<QLabel>("state").text().section(u'\n', 1).toStdString(),
-            "No whole number up to 32767: Page margins, Top: 1032768");
+            "Top 1032768 is no number up to 32767: 10 kept");
   Type("!");
   Answer(QMessageBox::Discard, Changed());
   QTest::keyClick(window->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel), Qt::Key_Return);

@@ -13,8 +13,6 @@
 namespace ORXKMPrintProp::host {
 namespace {
 
-const std::string kNoNumber = "No whole number up to 32767:";
-
 std::string Joined(std::span<const std::string> lines, const char* separator) {
   std::string joined;
   for (const std::string& line : lines) joined += (joined.empty() ? "" : separator) + line;
@@ -88,9 +86,14 @@ void Editor::OnLooked(PageContent content) {
   const bool isSamePlace = IsSamePlace(*former, content);
   content.before = former->isEdited && !isSamePlace ? former : former->before;
   content.isEdited = former->isEdited && isSamePlace;
-  now_.page = std::make_shared<PageContent>(std::move(content));
+  SetContent(std::move(content));
   typing_ = nullptr;
   if (now_.page->page != former->page) Read();
+}
+
+void Editor::SetContent(PageContent content) {
+  now_.notes = NotesAfter(std::move(now_.notes), GetDialog(), *now_.page, content);
+  now_.page = std::make_shared<PageContent>(std::move(content));
 }
 
 void Editor::BeginStep(const Widget* widget, std::string name) {
@@ -99,7 +102,7 @@ void Editor::BeginStep(const Widget* widget, std::string name) {
 
 void Editor::EndStep(PageContent content) {
   now_.host = settings_.Host();
-  now_.page = std::make_shared<PageContent>(std::move(content));
+  SetContent(std::move(content));
   now_.number = ++lastNumber_;
   steps_.Last().after = now_;
   typing_ = nullptr;
@@ -134,6 +137,7 @@ void Editor::Revert() {
   const Moment before = now_;
   Moment target = saved_;
   target.page = std::make_shared<PageContent>(std::move(place));
+  target.notes.clear();
   if (!GoTo(target)) return;
   steps_.Add({.before = before, .after = now_, .name = "Revert"});
   ShowState();
@@ -204,7 +208,7 @@ bool Editor::Read() {
     return false;
   }
   now_.host = settings_.Host();
-  now_.page = std::make_shared<PageContent>(ContentOf(GetDialog()));
+  SetContent(ContentOf(GetDialog()));
   now_.readNumber = now_.number;
   typing_ = nullptr;
   if (now_.number == saved_.number) {
@@ -219,24 +223,13 @@ bool Editor::IsModified() const {
   return now_.number != saved_.number && (now_.number != now_.readNumber || settings_.IsChanged());
 }
 
-/// The dialog leaves a setting as it was when its field holds what it can't take.
-std::vector<std::string> Editor::NotStored() const {
-  const Dialog& dialog = GetDialog();
-  std::vector<std::string> fields;
-  for (const auto& widget : dialog.Controls()) {
-    const auto* const box = dynamic_cast<const TextBox*>(widget.get());
-    if (!box || !box->Enabled() || box->IsStorable()) continue;
-    const LayoutRow& row = box->Row();
-    const Widget& parent = *dialog.Find({row.parent});
-    const Text& where = &parent == &dialog.TabStrip() ? dialog.TabStrip().TabCaption(row.page) : parent.Caption();
-    const Text text = box->GetText().empty() ? u"(empty)" : box->GetText();
-    fields.push_back(ToUtf8(where + u", " + views::SpokenName(dialog, *box).Spoken() + u": " + text));
-  }
-  return fields;
+std::vector<std::string> Editor::LinesOfNotes() const {
+  std::vector<std::string> lines;
+  for (const Note& note : now_.notes) lines.push_back(note.words);
+  return lines;
 }
 
 void Editor::ShowState() {
-  const auto fields = NotStored();
   const Step* const undo = steps_.ToUndo();
   const Step* const redo = steps_.ToRedo();
   window_.ShowState({.isModified = IsModified(),
@@ -247,7 +240,7 @@ void Editor::ShowState() {
                      .canRevert = IsModified(),
                      .undo = undo ? undo->name : "",
                      .redo = redo ? redo->name : "",
-                     .note = fields.empty() ? "" : kNoNumber + " " + Joined(fields, "; ")});
+                     .note = Joined(LinesOfNotes(), "; ")});
 }
 
 bool Editor::Accept() { return isDone_ = Save(); }
@@ -255,7 +248,11 @@ bool Editor::Accept() { return isDone_ = Save(); }
 bool Editor::Save() {
   if (!Read()) return false;
   if (!AcceptsFields()) return false;
-  if (!settings_.IsToBeSaved()) return true;
+  if (!settings_.IsToBeSaved()) {
+    DropNotes();
+    ShowState();
+    return true;
+  }
   if (!AcceptsLosses() || !AcceptsOvertaking()) return false;
   static constexpr const char* kFailed = "The settings could not be saved.";
   try {
@@ -268,15 +265,14 @@ bool Editor::Save() {
     return false;
   }
   now_.host = settings_.Host();
+  DropNotes();
   saved_ = now_;
   Show();
   return true;
 }
 
 bool Editor::AcceptsFields() {
-  const auto fields = NotStored();
-  return fields.empty() ||
-         AcceptsSave("Not everything is stored as it was typed.", kNoNumber + "\n" + Joined(fields, "\n"));
+  return now_.notes.empty() || AcceptsSave("Not everything is stored as it was typed.", Joined(LinesOfNotes(), "\n"));
 }
 
 bool Editor::AcceptsLosses() {

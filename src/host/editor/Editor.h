@@ -57,9 +57,9 @@ class EditorWindow {
 /// what is undone.
 ///
 /// Whether something has changed, only a read of the tables can tell, and a read commits the page on top. So the
-/// editor reads where a commit is due anyway: after a change of the tab or of an order, when a layout has been stored, at
-/// OK, Apply, Cancel and close, and when the user asks for it by Refresh. In between, any other content of a field counts
-/// as a change, until the next read knows better.
+/// editor reads where a commit is due anyway: after a change of the tab or of an order, when a layout has been stored,
+/// at OK, Apply, Cancel and close, and when the user asks for it by Refresh. In between, any other content of a field
+/// counts as a change, until the next read knows better.
 ///
 /// A step that can be undone is what the user does to settings at one go: what he types into one field, a transfer, a
 /// drag, a layout. What he looks at is no step, but comes back with them.
@@ -104,6 +104,7 @@ class Editor : private ORXQueryPrnPropEvents {
   void BeginStep(const Widget* widget, std::string name);
   /// The step that has begun has led to what the control holds.
   void EndStep(PageContent content);
+  void SetContent(PageContent content);
   void OnEdited(const Widget& widget, PageContent content);
   void OnLooked(PageContent content);
   bool GoTo(const Moment& moment);
@@ -111,8 +112,9 @@ class Editor : private ORXQueryPrnPropEvents {
   bool IsModified() const;
   bool IsDragging() const;
   void ShowState();
-  /// A line for each field of the dialog whose text can't be stored.
-  std::vector<std::string> NotStored() const;
+  std::vector<std::string> LinesOfNotes() const;
+  /// What could not be stored has been told, and is forgotten where it stands no more.
+  void DropNotes() { now_.notes = NotesOn(GetDialog(), *now_.page); }
   bool AcceptsFields();
   bool AcceptsLosses();
   bool AcceptsOvertaking();
