@@ -27,12 +27,12 @@ using namespace ORXKMPrintProp::test;
 ///     put OLD -> NEW (somebody else does, in the row of REGION), copy FILE (of the tests), remove (the file)
 ///     show FILE, look WIDGET WIDGET (and so on, what they hold)
 ///
-/// The state: "window", what is seen of it: modified, Apply can be pressed, the panel is older than a change; "note";
-/// of each file how often it has been written, with its general row; and aside "steps", what can be undone, done again
-/// and gone back from.
+/// The state: "window", what is seen of it: modified, Apply can be pressed, the panel is older than a change; of each
+/// file how often it has been written, with its general row; and aside "message", and "steps", what can be undone, done
+/// again and gone back from.
 class EditorPlayer : public Player, public EditorWindow {
  public:
-  EditorPlayer() : Player({"steps"}) {
+  EditorPlayer() : Player({"message", "steps"}) {
     ReleaseSharedValues();
     fs::create_directory(folder_);
     SaveFile(Path("a.json"), ReadFile(PRNPROP_EXAMPLES "/small.json"));
@@ -138,7 +138,7 @@ void EditorPlayer::Look(const std::string& widget) {
 
 Player::Lines EditorPlayer::State() {
   Lines lines{
-      {"note", window_.note.empty() ? "none" : window_.note},
+      {"message", window_.message.empty() ? "none" : window_.message},
       {"window", std::string(window_.isModified ? "modified" : "unmodified") + (window_.canApply ? ", apply" : "") +
                      (window_.isStale ? ", older" : "")},
       {"steps", (window_.canUndo ? "undo " + window_.undo + "; " : "") +

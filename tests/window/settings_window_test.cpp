@@ -150,8 +150,7 @@ class SettingsWindowTest : public testing::Test {
 TEST_F(SettingsWindowTest, TheUserIsAskedBeforeItCloses) {
   Open();
   QTest::keyClicks(&Find<QLineEdit>("txtGenMarginTop"), QStringLiteral("32768"));
-  EXPECT_EQ(Find<QLabel>("state").text().section(u'\n', 1).toStdString(),
-            "Top 1032768 is no number up to 32767: 10 kept");
+  EXPECT_EQ(Find<QLabel>("status").text().toStdString(), "Top 1032768 is no number up to 32767: 10 kept");
   Type("!");
   Answer(QMessageBox::Discard, Changed());
   QTest::keyClick(window->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel), Qt::Key_Return);
@@ -280,6 +279,34 @@ TEST_F(SettingsWindowTest, AChangeOfTheTabOrTheOrderReadsBack) {
   Answer(QMessageBox::Discard, Changed());
   QTest::keyClick(&Find<QLineEdit>("txtGenPrnTitle"), Qt::Key_Escape);
   EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(SettingsWindowTest, ALineBelowTheDialogTellsInAWindowThatGetsNoWider) {
+  before.replace(before.find("\"Region\""), 8, "\"" + std::string(100, 'R') + "<b>&S\"");
+  SaveFile(file, before);
+  Open();
+  auto& line = Find<QLabel>("status");
+  const int least = window->minimumSizeHint().width();
+  QTest::keyClick(&Find<QLineEdit>("txtGenPrnTitle"), Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(line.text(), QString());
+  QTest::keyClick(&Find<QListView>("lstPrint(1)"), Qt::Key_Down, Qt::AltModifier);
+  const QString told =
+      QString(100, u'R') + QStringLiteral("<b>&S is now 2 of 2. Order changed: no page, new block at Customer");
+  EXPECT_EQ(line.text(), told);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&line)->text(QAccessible::Name), told);
+  Press(QDialogButtonBox::Apply);
+  EXPECT_EQ(line.text() + line.toolTip(), QStringLiteral("Saved"));
+
+  Press("preview");
+  QTest::keyClick(&Find<QListView>("lstPrint(1)"), Qt::Key_Up, Qt::AltModifier);
+  EXPECT_TRUE(line.isVisible());
+  EXPECT_EQ(line.toolTip().toStdString(), "<qt>" + std::string(100, 'R') +
+                                              "&lt;b&gt;&amp;S is now 1 of 2. Order changed: "
+                                              "new block at " +
+                                              std::string(100, 'R') + "&lt;b&gt;&amp;S</qt>");
+  Press("preview");
+  EXPECT_EQ(window->minimumSizeHint().width(), least);
+  EXPECT_GE(line.y(), Find<QWidget>("tstPrint").mapTo(window.get(), Find<QWidget>("tstPrint").rect().bottomLeft()).y());
 }
 
 TEST_F(SettingsWindowTest, StepsAreTakenBackByKeysAndButtons) {

@@ -7,6 +7,7 @@
 
 #include "host/DocumentError.h"
 #include "host/Utf8.h"
+#include "host/editor/StatusMessage.h"
 #include "tables/RunTimeError.h"
 #include "views/SpokenName.h"
 
@@ -51,12 +52,15 @@ void Editor::OnUsed(const Widget& widget) {
   // What a drag leads to is told with its end.
   if (IsDragging()) return;
   PageContent content = ContentOf(GetDialog());
-  const PageContent& former = *now_.page;
+  const PageContentRef shown = now_.page;
+  const PageContent& former = *shown;
+  message_.clear();
   const bool isSameList = former.page != content.page || former.owner == content.owner;
   if (isSameList && PrintOrder(former.page) != printOrder_) {
     BeginStep(&widget, NameOf(widget));
     EndStep(std::move(content));
     if (Read()) steps_.Last().after = now_;
+    message_ = WordsOnOrder(GetDialog(), widget, former, *now_.page);
   } else if (IsField(widget) && IsSamePlace(former, content) && !HaveSameFields(former, content)) {
     OnEdited(widget, std::move(content));
   } else {
@@ -166,6 +170,7 @@ bool Editor::GoTo(const Moment& moment) {
   PageContent content = ContentOf(dialog);
   content.before = moment.page->before;
   content.isEdited = moment.page->isEdited;
+  message_.clear();
   now_ = moment;
   now_.page = std::make_shared<PageContent>(std::move(content));
   typing_ = nullptr;
@@ -229,6 +234,14 @@ std::vector<std::string> Editor::LinesOfNotes() const {
   return lines;
 }
 
+std::string Editor::Message() const {
+  std::vector<std::string> words = message_;
+  for (const auto& further : {WordsOnPage(GetDialog()), LinesOfNotes()}) {
+    words.insert(words.end(), further.begin(), further.end());
+  }
+  return Joined(words, ". ");
+}
+
 void Editor::ShowState() {
   const Step* const undo = steps_.ToUndo();
   const Step* const redo = steps_.ToRedo();
@@ -240,12 +253,13 @@ void Editor::ShowState() {
                      .canRevert = IsModified(),
                      .undo = undo ? undo->name : "",
                      .redo = redo ? redo->name : "",
-                     .note = Joined(LinesOfNotes(), "; ")});
+                     .message = Message()});
 }
 
 bool Editor::Accept() { return isDone_ = Save(); }
 
 bool Editor::Save() {
+  message_.clear();
   if (!Read()) return false;
   if (!AcceptsFields()) return false;
   if (!settings_.IsToBeSaved()) {
@@ -267,6 +281,7 @@ bool Editor::Save() {
   now_.host = settings_.Host();
   DropNotes();
   saved_ = now_;
+  message_ = {"Saved"};
   Show();
   return true;
 }

@@ -36,7 +36,7 @@ struct EditorState {
   bool canRevert = false;
   std::string undo = {};  ///< what would be undone, in the words of the dialog
   std::string redo = {};
-  std::string note = {};  ///< what is to be told beside it; empty for nothing
+  std::string message = {};  ///< for a line below the dialog; empty for nothing
 };
 
 /// The window of an editor, in whatever toolkit. Each call is answered at once.
@@ -113,6 +113,7 @@ class Editor : private ORXQueryPrnPropEvents {
   bool IsDragging() const;
   void ShowState();
   std::vector<std::string> LinesOfNotes() const;
+  std::string Message() const;
   /// What could not be stored has been told, and is forgotten where it stands no more.
   void DropNotes() { now_.notes = NotesOn(GetDialog(), *now_.page); }
   bool AcceptsFields();
@@ -126,6 +127,7 @@ class Editor : private ORXQueryPrnPropEvents {
   Moment now_;
   Moment saved_;  ///< what was opened or saved last
   Steps steps_;
+  std::vector<std::string> message_;  ///< what has come of what the user did last
   int lastNumber_ = 0;
   const Widget* typing_ = nullptr;        ///< the box in which a step may go on
   std::vector<std::int32_t> printOrder_;  ///< of the page on top, as the user has left it

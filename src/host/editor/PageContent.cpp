@@ -90,6 +90,7 @@ PageContent ContentOf(const Dialog& dialog) {
       field.number = check->Value();
     } else if (const auto* const combo = dynamic_cast<const ComboBox*>(widget.get())) {
       field.number = combo->ListIndex();
+      if (field.number >= 0) field.text = combo->List(field.number);
     } else {
       continue;
     }

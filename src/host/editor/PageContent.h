@@ -15,7 +15,7 @@ namespace ORXKMPrintProp::host {
 struct PageContent {
   struct Field {
     Widget* widget;
-    Text text;                      ///< of a text box
+    Text text;                      ///< of a text box; of a combo box the entry's
     std::int16_t number = 0;        ///< of a check box its value, of a combo box its index
     std::optional<Text> kept = {};  ///< what the setting holds instead of a text that it can't take
   };

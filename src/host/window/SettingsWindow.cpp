@@ -17,6 +17,7 @@
 
 #include "host/window/LayoutEditor.h"
 #include "host/window/MeaningPanel.h"
+#include "host/window/StatusLine.h"
 #include "views/qt/PrnPropView.h"
 #include "views/qt/QtText.h"
 
@@ -74,7 +75,8 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
       editor_(settings, *this),
       view_(new qt::PrnPropView(settings.Control().GetDialog(), this)),
       panel_(new MeaningPanel([this] { return editor_.Read(); }, this)),
-      dialog_(new QScrollArea(this)) {
+      dialog_(new QScrollArea(this)),
+      status_(new StatusLine(this)) {
   setWindowTitle(QString::fromStdString(editor_.Title("[*]")));
   setWindowFilePath(QString::fromStdString(settings.Target()));
   auto* const across = new QHBoxLayout;
@@ -85,6 +87,8 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
   across->addWidget(panel_, 1);
   auto* const down = new QVBoxLayout(this);
   down->addLayout(across, 1);
+  status_->setObjectName(QStringLiteral("status"));
+  down->addWidget(status_);
   down->addWidget(MakeButtons());
   BoundDialog();
 
@@ -115,8 +119,9 @@ void SettingsWindow::BoundDialog() {
   constexpr int kLeastPanel = 240;
   const QMargins margins = layout()->contentsMargins();
   const int spacing = layout()->spacing();
-  const int buttons = layout()->itemAt(1)->sizeHint().height();
-  QSize left = room_ - QSize(margins.left() + margins.right(), margins.top() + margins.bottom() + spacing + buttons);
+  int below = 0;
+  for (int i = 1; i < layout()->count(); ++i) below += spacing + layout()->itemAt(i)->sizeHint().height();
+  QSize left = room_ - QSize(margins.left() + margins.right(), margins.top() + margins.bottom() + below);
   panel_->setMinimumWidth(std::clamp(left.width() - view_->width() - spacing, kLeastPanel, view_->width() / 2));
   if (preview_->isChecked()) left.rwidth() -= panel_->minimumWidth() + spacing;
   QSize whole = view_->size();
@@ -218,7 +223,8 @@ void SettingsWindow::closeEvent(QCloseEvent* event) { event->setAccepted(editor_
 void SettingsWindow::ShowMeaning(const Snapshot& file, const Snapshot& now) { panel_->Show(file, now); }
 
 void SettingsWindow::ShowState(const EditorState& state) {
-  panel_->SetState(state.isStale, QString::fromStdString(state.note));
+  panel_->SetStale(state.isStale);
+  status_->Say(QString::fromStdString(state.message));
   setWindowModified(state.isModified);
   SetEnabled(*apply_, state.canApply);
   SetEnabled(*undo_, state.canUndo);

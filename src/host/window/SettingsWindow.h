@@ -17,9 +17,10 @@ class PrnPropView;
 namespace ORXKMPrintProp::host {
 
 class MeaningPanel;
+class StatusLine;
 
-/// The dialog with what a host adds to it: OK, Cancel and Apply, Undo, Redo and Revert, the editor of layouts, and a
-/// panel that shows what the settings mean.
+/// The dialog with what a host adds to it: OK, Cancel and Apply, Undo, Redo and Revert, the editor of layouts, a panel
+/// that shows what the settings mean, and a line that tells what has come of what the user does.
 class SettingsWindow : public QWidget, private EditorWindow {
  public:
   /// @param settings must outlive the window.
@@ -54,6 +55,7 @@ class SettingsWindow : public QWidget, private EditorWindow {
   qt::PrnPropView* view_;
   MeaningPanel* panel_;
   QScrollArea* dialog_;  ///< the view in it
+  StatusLine* status_;
   QPushButton* preview_ = nullptr;
   QPushButton* apply_ = nullptr;
   QPushButton* undo_ = nullptr;
