@@ -168,25 +168,47 @@ TEST_F(SettingsWindowTest, TheUserIsAskedBeforeItCloses) {
 
 TEST_F(SettingsWindowTest, ALayoutIsEditedAsPlainText) {
   Open();
-  const auto edit = [this](const QString& expected, const QString& typed, QDialogButtonBox::StandardButton end) {
+  const auto edit = [this](const QString& expected, const QString& typed) {
     answers.push_back([=](QDialog& dialog) {
       auto& text = *dialog.findChild<QPlainTextEdit*>();
       EXPECT_EQ(text.toPlainText(), expected);
       text.selectAll();
       text.insertPlainText(typed);
-      QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(end), Qt::LeftButton);
+      QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
     });
     Press("cmdPrintLayout(1)");
   };
-  edit({}, QStringLiteral("thrown away"), QDialogButtonBox::Cancel);
+  const std::string question = "The layout has changed.\nThrow away what was typed?";
+  const auto cancel = [](QDialog& dialog) {
+    QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel), Qt::LeftButton);
+  };
+  const std::function<void(QDialog&)> ends[] = {
+      cancel,
+      [](QDialog& dialog) { QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape); },
+      [](QDialog& dialog) { dialog.close(); },
+  };
+  for (const auto& end : ends) {
+    for (const auto answer : {QMessageBox::Cancel, QMessageBox::Discard}) {
+      answers.push_back([&end](QDialog& dialog) {
+        QTest::keyClicks(dialog.findChild<QPlainTextEdit*>(), QStringLiteral("x"));
+        // Not in here: another question can be answered only behind this.
+        QTimer::singleShot(0, &dialog, [&] { end(dialog); });
+      });
+      Answer(answer, question);
+    }
+    Press("cmdPrintLayout(1)");
+  }
   EXPECT_EQ(State(), "open");
-  edit({}, QStringLiteral("<b>&head\u00a0\u00fc"), QDialogButtonBox::Ok);
+  edit({}, QStringLiteral("<b>&head\u00a0\u00fc"));
   EXPECT_EQ(State(), "open modified apply");
   QCoreApplication::processEvents();
   EXPECT_EQ(State(), "open modified apply");
   Press(QDialogButtonBox::Apply);
   EXPECT_EQ(std::get<Text>(ReadSettings(file).general->Rows(1)->Value(u"HEADER_LAYOUT")), u"<b>&head\u00a0\u00fc");
-  edit(QStringLiteral("<b>&head \u00fc"), {}, QDialogButtonBox::Cancel);
+  edit(QStringLiteral("<b>&head \u00fc"), QStringLiteral("a\nb"));
+  answers.push_back(cancel);
+  Press("cmdPrintLayout(1)");
+  EXPECT_EQ(settings->LayoutOf({.buttonId = 1}), u"a\nb");
   Open({.readOnly = true});
   answers.push_back([](QDialog& dialog) {
     EXPECT_TRUE(dialog.findChild<QPlainTextEdit*>()->isReadOnly());

@@ -241,8 +241,10 @@ void SettingsWindow::SetEnabled(QPushButton& button, bool enabled) {
 }
 
 Choice SettingsWindow::Ask(const Question& question) {
+  // Over the window that waits for an answer already, if one does.
+  QWidget* const waiting = QApplication::activeModalWidget();
   QMessageBox box(IconOf(question.kind), QStringLiteral("Print settings"), QString::fromStdString(question.text), {},
-                  this);
+                  waiting ? waiting : this);
   for (const Choice choice : question.choices) box.addButton(ButtonOf(choice));
   box.setInformativeText(QString::fromStdString(question.further));
   // The box has no say over the format of that one.
@@ -256,9 +258,8 @@ Choice SettingsWindow::Ask(const Question& question) {
 }
 
 std::optional<Text> SettingsWindow::EditLayout(const Text& name, const Text& layout, bool readOnly) {
-  const auto edited = host::EditLayout(ToQString(name), ToQString(layout), readOnly, this);
-  if (!edited) return {};
-  return qt::ToText(*edited);
+  return host::EditLayout(
+      name, layout, readOnly, [this](const Question& question) { return Ask(question); }, this);
 }
 
 void SettingsWindow::Focus(const Widget& widget) {
