@@ -134,6 +134,8 @@ class TextBox : public Widget {
 
   /// Whether the setting behind the box can take the text; else it keeps its value. Without it any text can be stored.
   std::function<bool(const Text& text)> CanStore;
+  /// What that setting held when it was shown or stored last; empty for a box that takes any text.
+  Text kept;
 
   static constexpr char16_t kBackspace = 8;
 

@@ -7,6 +7,9 @@
 
 namespace ORXKMPrintProp {
 
+/// How many characteristics a user can take into print. A load may bring more.
+inline constexpr int kMaxPrintCharacteristics = 10;
+
 /// One characteristic of the query. That only one characteristic holds each of the break flags, and only a
 /// printed one, is a rule of the dialog, not of this class.
 class PrnCharCls : public PrnColumnsCls {

@@ -15,9 +15,6 @@ namespace ORXKMPrintProp {
 /// handler, the rest of the action is dropped: it was about settings that are gone.
 class CharPage : public ListPage {
  public:
-  /// Ten print characteristics are allowed; the limit guards the button alone.
-  static constexpr int kMaxPrintCharacteristics = 10;
-
   explicit CharPage(PageState& state);
 
   /// Blanks the frame too, so that showing an item sets all that follows from its presentation.

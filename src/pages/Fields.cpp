@@ -1,5 +1,7 @@
 #include "pages/Fields.h"
 
+#include <optional>
+
 #include "pages/ListRoutines.h"
 #include "tables/Conversions.h"
 
@@ -7,6 +9,11 @@ namespace ORXKMPrintProp {
 namespace {
 
 const Text& TextIn(const Widget& box) { return dynamic_cast<const TextBox&>(box).GetText(); }
+
+void StoreNumber(std::optional<std::int16_t> number, Widget& box, NumberProperty& property) {
+  if (number) property(*number);
+  dynamic_cast<TextBox&>(box).kept = ToText(std::int32_t{property()});
+}
 
 }  // namespace
 
@@ -24,13 +31,17 @@ void ChoiceField::Show(std::int32_t value, Widget& combo) {
 }
 std::int16_t ChoiceField::Picked(const Widget& combo) { return dynamic_cast<const ComboBox&>(combo).ListIndex(); }
 
-void LeadingNumberField::Show(std::int16_t value, Widget& box) { TextField::Show(ToText(std::int32_t{value}), box); }
-void LeadingNumberField::Store(const Widget& box, NumberProperty& property) {
-  if (const auto number = TryLeadingNumber(TextIn(box))) property(*number);
+void LeadingNumberField::Show(std::int16_t value, Widget& box) {
+  auto& shown = dynamic_cast<TextBox&>(box);
+  shown.kept = ToText(std::int32_t{value});
+  shown.SetText(shown.kept);
+}
+void LeadingNumberField::Store(Widget& box, NumberProperty& property) {
+  StoreNumber(TryLeadingNumber(TextIn(box)), box, property);
 }
 
-void WholeNumberField::Store(const Widget& box, NumberProperty& property) {
-  if (const auto number = TryInteger(TextIn(box))) property(*number);
+void WholeNumberField::Store(Widget& box, NumberProperty& property) {
+  StoreNumber(TryInteger(TextIn(box)), box, property);
 }
 
 void FieldWidgets::Blank() const {

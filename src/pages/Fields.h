@@ -18,7 +18,7 @@ struct FieldOf {
   TextView widget;  ///< its name, in which "?" stands for that of the page
   FieldKind kind;
   void (*show)(const Item&, Widget&);
-  void (*store)(const Widget&, Item&);
+  void (*store)(Widget&, Item&);
 };
 
 // How a widget of each kind shows and stores a value. What it holds that is not a value of the property stores nothing:
@@ -51,21 +51,21 @@ struct ChoiceField {
 struct LeadingNumberField {
   static constexpr FieldKind kKind = FieldKind::LeadingNumber;
   static void Show(std::int16_t value, Widget& box);
-  static void Store(const Widget& box, NumberProperty& property);
+  static void Store(Widget& box, NumberProperty& property);
 };
 
 /// The whole text as a number.
 struct WholeNumberField {
   static constexpr FieldKind kKind = FieldKind::WholeNumber;
   static void Show(std::int16_t value, Widget& box) { LeadingNumberField::Show(value, box); }
-  static void Store(const Widget& box, NumberProperty& property);
+  static void Store(Widget& box, NumberProperty& property);
 };
 
 /// The widget of that name stands for the property, in a field of that kind.
 template <class Item, auto Member, class Field>
 constexpr FieldOf<Item> PropertyField(TextView widget) {
   return {widget, Field::kKind, [](const Item& item, Widget& shown) { Field::Show((item.*Member)(), shown); },
-          [](const Widget& shown, Item& item) { Field::Store(shown, item.*Member); }};
+          [](Widget& shown, Item& item) { Field::Store(shown, item.*Member); }};
 }
 
 /// What all kinds have in common.

@@ -89,12 +89,12 @@ class Protected {
 ///     put OLD -> NEW (somebody else does, in the row of REGION), copy FILE (of the tests), remove (the file)
 ///     show FILE, look WIDGET WIDGET (and so on, what they hold)
 ///
-/// The state: "window", what is seen of it: modified, Apply can be pressed, the panel is older than a change; "note";
-/// of each file how often it has been written, with its general row; and aside "steps", what can be undone, done again
-/// and gone back from, and "recent", the files used last.
+/// The state: "window", what is seen of it: modified, Apply can be pressed, the panel is older than a change; of each
+/// file how often it has been written, with its general row; and aside "message", "steps", what can be undone, done
+/// again and gone back from, and "recent", the files used last.
 class EditorPlayer : public Player, public EditorWindow {
  public:
-  EditorPlayer() : Player({"steps", "recent"}) {
+  EditorPlayer() : Player({"message", "steps", "recent"}) {
     ReleaseSharedValues();
     fs::create_directory(folder_);
     SaveFile(Path("a.json"), ReadFile(PRNPROP_EXAMPLES "/small.json"));
@@ -227,11 +227,11 @@ void EditorPlayer::Look(const std::string& widget) {
 
 Player::Lines EditorPlayer::State() {
   // Each system has other words for why a file can't be written.
-  const std::size_t reason = window_.note.find(".json: ");
-  const std::string note =
-      WithoutFolder(window_.note.substr(0, reason)) + (reason < window_.note.size() ? ".json" : "");
+  const std::size_t reason = window_.message.find(".json: ");
+  const std::string message =
+      WithoutFolder(window_.message.substr(0, reason)) + (reason < window_.message.size() ? ".json" : "");
   Lines lines{
-      {"note", note.empty() ? "none" : note},
+      {"message", message.empty() ? "none" : message},
       {"window", std::string(window_.isModified ? "modified" : "unmodified") + (window_.canApply ? ", apply" : "") +
                      (window_.isStale ? ", older" : "")},
       {"steps", (window_.canUndo ? "undo " + window_.undo + "; " : "") +

@@ -156,8 +156,7 @@ class SettingsWindowTest : public testing::Test {
 TEST_F(SettingsWindowTest, TheUserIsAskedBeforeItCloses) {
   Open();
   QTest::keyClicks(&Find<QLineEdit>("txtGenMarginTop"), QStringLiteral("32768"));
-  EXPECT_EQ(Find<QLabel>("state").text().section(u'\n', 1).toStdString(),
-            "No whole number up to 32767: Page margins, Top: 1032768");
+  EXPECT_EQ(Find<QLabel>("status").text().toStdString(), "Top 1032768 is no number up to 32767: 10 kept");
   Type("!");
   Answer(QMessageBox::Discard, Changed());
   QTest::keyClick(window->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel), Qt::Key_Return);
@@ -276,25 +275,47 @@ TEST_F(SettingsWindowTest, TheWindowComesBackAsItWasLeft) {
 
 TEST_F(SettingsWindowTest, ALayoutIsEditedAsPlainText) {
   Open();
-  const auto edit = [this](const QString& expected, const QString& typed, QDialogButtonBox::StandardButton end) {
+  const auto edit = [this](const QString& expected, const QString& typed) {
     answers.push_back([=](QDialog& dialog) {
       auto& text = *dialog.findChild<QPlainTextEdit*>();
       EXPECT_EQ(text.toPlainText(), expected);
       text.selectAll();
       text.insertPlainText(typed);
-      QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(end), Qt::LeftButton);
+      QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
     });
     Press("cmdPrintLayout(1)");
   };
-  edit({}, QStringLiteral("thrown away"), QDialogButtonBox::Cancel);
+  const std::string question = "The layout has changed.\nThrow away what was typed?";
+  const auto cancel = [](QDialog& dialog) {
+    QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel), Qt::LeftButton);
+  };
+  const std::function<void(QDialog&)> ends[] = {
+      cancel,
+      [](QDialog& dialog) { QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape); },
+      [](QDialog& dialog) { dialog.close(); },
+  };
+  for (const auto& end : ends) {
+    for (const auto answer : {QMessageBox::Cancel, QMessageBox::Discard}) {
+      answers.push_back([&end](QDialog& dialog) {
+        QTest::keyClicks(dialog.findChild<QPlainTextEdit*>(), QStringLiteral("x"));
+        // Not in here: another question can be answered only behind this.
+        QTimer::singleShot(0, &dialog, [&] { end(dialog); });
+      });
+      Answer(answer, question);
+    }
+    Press("cmdPrintLayout(1)");
+  }
   EXPECT_EQ(State(), "open");
-  edit({}, QStringLiteral("<b>&head\u00a0\u00fc"), QDialogButtonBox::Ok);
+  edit({}, QStringLiteral("<b>&head\u00a0\u00fc"));
   EXPECT_EQ(State(), "open modified apply");
   QCoreApplication::processEvents();
   EXPECT_EQ(State(), "open modified apply");
   Press(QDialogButtonBox::Apply);
   EXPECT_EQ(std::get<Text>(ReadSettings(file).general->Rows(1)->Value(u"HEADER_LAYOUT")), u"<b>&head\u00a0\u00fc");
-  edit(QStringLiteral("<b>&head \u00fc"), {}, QDialogButtonBox::Cancel);
+  edit(QStringLiteral("<b>&head \u00fc"), QStringLiteral("a\nb"));
+  answers.push_back(cancel);
+  Press("cmdPrintLayout(1)");
+  EXPECT_EQ(settings->LayoutOf({.buttonId = 1}), u"a\nb");
   Open({.readOnly = true});
   answers.push_back([](QDialog& dialog) {
     EXPECT_TRUE(dialog.findChild<QPlainTextEdit*>()->isReadOnly());
@@ -387,6 +408,34 @@ TEST_F(SettingsWindowTest, AChangeOfTheTabOrTheOrderReadsBack) {
   Answer(QMessageBox::Discard, Changed());
   QTest::keyClick(&Find<QLineEdit>("txtGenPrnTitle"), Qt::Key_Escape);
   EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(SettingsWindowTest, ALineBelowTheDialogTellsInAWindowThatGetsNoWider) {
+  before.replace(before.find("\"Region\""), 8, "\"" + std::string(100, 'R') + "<b>&S\"");
+  SaveFile(file, before);
+  Open();
+  auto& line = Find<QLabel>("status");
+  const int least = window->minimumSizeHint().width();
+  QTest::keyClick(&Find<QLineEdit>("txtGenPrnTitle"), Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(line.text(), QString());
+  QTest::keyClick(&Find<QListView>("lstPrint(1)"), Qt::Key_Down, Qt::AltModifier);
+  const QString told =
+      QString(100, u'R') + QStringLiteral("<b>&S is now 2 of 2. Order changed: no page, new block at Customer");
+  EXPECT_EQ(line.text(), told);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(&line)->text(QAccessible::Name), told);
+  Press(QDialogButtonBox::Apply);
+  EXPECT_EQ(line.text() + line.toolTip(), QStringLiteral("Saved"));
+
+  Press("preview");
+  QTest::keyClick(&Find<QListView>("lstPrint(1)"), Qt::Key_Up, Qt::AltModifier);
+  EXPECT_TRUE(line.isVisible());
+  EXPECT_EQ(line.toolTip().toStdString(), "<qt>" + std::string(100, 'R') +
+                                              "&lt;b&gt;&amp;S is now 1 of 2. Order changed: "
+                                              "new block at " +
+                                              std::string(100, 'R') + "&lt;b&gt;&amp;S</qt>");
+  Press("preview");
+  EXPECT_EQ(window->minimumSizeHint().width(), least);
+  EXPECT_GE(line.y(), Find<QWidget>("tstPrint").mapTo(window.get(), Find<QWidget>("tstPrint").rect().bottomLeft()).y());
 }
 
 TEST_F(SettingsWindowTest, StepsAreTakenBackByKeysAndButtons) {

@@ -10,13 +10,12 @@
 #include "host/Files.h"
 #include "host/Load.h"
 #include "host/Utf8.h"
+#include "host/editor/StatusMessage.h"
 #include "tables/RunTimeError.h"
 #include "views/SpokenName.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
-
-const std::string kNoNumber = "No whole number up to 32767:";
 
 std::string Joined(std::span<const std::string> lines, const char* separator) {
   std::string joined;
@@ -101,12 +100,15 @@ void Editor::OnUsed(const Widget& widget) {
   // What a drag leads to is told with its end.
   if (IsDragging()) return;
   PageContent content = ContentOf(GetDialog());
-  const PageContent& former = *now_.page;
+  const PageContentRef shown = now_.page;
+  const PageContent& former = *shown;
+  message_.clear();
   const bool isSameList = former.page != content.page || former.owner == content.owner;
   if (isSameList && PrintOrder(former.page) != printOrder_) {
     BeginStep(&widget, NameOf(widget));
     EndStep(std::move(content));
     if (Read()) steps_.Last().after = now_;
+    message_ = WordsOnOrder(GetDialog(), widget, former, *now_.page);
   } else if (IsField(widget) && IsSamePlace(former, content) && !HaveSameFields(former, content)) {
     OnEdited(widget, std::move(content));
   } else {
@@ -136,9 +138,14 @@ void Editor::OnLooked(PageContent content) {
   const bool isSamePlace = IsSamePlace(*former, content);
   content.before = former->isEdited && !isSamePlace ? former : former->before;
   content.isEdited = former->isEdited && isSamePlace;
-  now_.page = std::make_shared<PageContent>(std::move(content));
+  SetContent(std::move(content));
   typing_ = nullptr;
   if (now_.page->page != former->page) Read();
+}
+
+void Editor::SetContent(PageContent content) {
+  now_.notes = NotesAfter(std::move(now_.notes), GetDialog(), *now_.page, content);
+  now_.page = std::make_shared<PageContent>(std::move(content));
 }
 
 void Editor::BeginStep(const Widget* widget, std::string name) {
@@ -147,7 +154,7 @@ void Editor::BeginStep(const Widget* widget, std::string name) {
 
 void Editor::EndStep(PageContent content) {
   now_.host = settings_.Host();
-  now_.page = std::make_shared<PageContent>(std::move(content));
+  SetContent(std::move(content));
   now_.number = ++lastNumber_;
   steps_.Last().after = now_;
   typing_ = nullptr;
@@ -182,6 +189,7 @@ void Editor::Revert() {
   const Moment before = now_;
   Moment target = saved_;
   target.page = std::make_shared<PageContent>(std::move(place));
+  target.notes.clear();
   if (!GoTo(target)) return;
   steps_.Add({.before = before, .after = now_, .name = "Revert"});
   ShowState();
@@ -210,6 +218,7 @@ bool Editor::GoTo(const Moment& moment) {
   PageContent content = ContentOf(dialog);
   content.before = moment.page->before;
   content.isEdited = moment.page->isEdited;
+  message_.clear();
   now_ = moment;
   now_.page = std::make_shared<PageContent>(std::move(content));
   typing_ = nullptr;
@@ -252,7 +261,7 @@ bool Editor::Read() {
     return false;
   }
   now_.host = settings_.Host();
-  now_.page = std::make_shared<PageContent>(ContentOf(GetDialog()));
+  SetContent(ContentOf(GetDialog()));
   now_.readNumber = now_.number;
   typing_ = nullptr;
   if (now_.number == saved_.number) {
@@ -267,24 +276,22 @@ bool Editor::IsModified() const {
   return now_.number != saved_.number && (now_.number != now_.readNumber || settings_.IsChanged());
 }
 
-/// The dialog leaves a setting as it was when its field holds what it can't take.
-std::vector<std::string> Editor::NotStored() const {
-  const Dialog& dialog = GetDialog();
-  std::vector<std::string> fields;
-  for (const auto& widget : dialog.Controls()) {
-    const auto* const box = dynamic_cast<const TextBox*>(widget.get());
-    if (!box || !box->Enabled() || box->IsStorable()) continue;
-    const LayoutRow& row = box->Row();
-    const Widget& parent = *dialog.Find({row.parent});
-    const Text& where = &parent == &dialog.TabStrip() ? dialog.TabStrip().TabCaption(row.page) : parent.Caption();
-    const Text text = box->GetText().empty() ? u"(empty)" : box->GetText();
-    fields.push_back(ToUtf8(where + u", " + views::SpokenName(dialog, *box).Spoken() + u": " + text));
+std::vector<std::string> Editor::LinesOfNotes() const {
+  std::vector<std::string> lines;
+  for (const Note& note : now_.notes) lines.push_back(note.words);
+  return lines;
+}
+
+std::string Editor::Message() const {
+  std::vector<std::string> words = message_;
+  for (const auto& further : {WordsOnPage(GetDialog()), LinesOfNotes()}) {
+    words.insert(words.end(), further.begin(), further.end());
   }
-  return fields;
+  if (const std::string note = ProtectionNote(); !note.empty()) words.push_back(note);
+  return Joined(words, ". ");
 }
 
 void Editor::ShowState() {
-  const auto fields = NotStored();
   const Step* const undo = steps_.ToUndo();
   const Step* const redo = steps_.ToRedo();
   window_.ShowState({.isModified = IsModified(),
@@ -295,7 +302,7 @@ void Editor::ShowState() {
                      .canRevert = IsModified(),
                      .undo = undo ? undo->name : "",
                      .redo = redo ? redo->name : "",
-                     .note = !fields.empty() ? kNoNumber + " " + Joined(fields, "; ") : ProtectionNote()});
+                     .message = Message()});
 }
 
 std::string Editor::ProtectionNote() const {
@@ -306,8 +313,13 @@ std::string Editor::ProtectionNote() const {
 bool Editor::Accept() { return isDone_ = Save(); }
 
 bool Editor::Save() {
+  message_.clear();
   if (!Read() || !AcceptsFields()) return false;
-  if (!settings_.IsToBeSaved()) return true;
+  if (!settings_.IsToBeSaved()) {
+    DropNotes();
+    ShowState();
+    return true;
+  }
   if (!AcceptsLosses()) return false;
   if (settings_.Target().empty()) return SaveElsewhere();
   switch (ChoiceOnOvertaking()) {
@@ -324,7 +336,10 @@ bool Editor::Save() {
   }
 }
 
-bool Editor::SaveAs() { return Read() && AcceptsFields() && AcceptsLosses() && SaveElsewhere(); }
+bool Editor::SaveAs() {
+  message_.clear();
+  return Read() && AcceptsFields() && AcceptsLosses() && SaveElsewhere();
+}
 
 bool Editor::SaveElsewhere() {
   const auto file = window_.PickFile(FileUse::Save, settings_.Target());
@@ -343,7 +358,9 @@ bool Editor::SaveIn(const std::string& file) {
     return false;
   }
   now_.host = settings_.Host();
+  DropNotes();
   saved_ = now_;
+  message_ = {"Saved"};
   Show();
   return true;
 }
@@ -363,9 +380,7 @@ void Editor::Reload() {
 }
 
 bool Editor::AcceptsFields() {
-  const auto fields = NotStored();
-  return fields.empty() ||
-         AcceptsSave("Not everything is stored as it was typed.", kNoNumber + "\n" + Joined(fields, "\n"));
+  return now_.notes.empty() || AcceptsSave("Not everything is stored as it was typed.", Joined(LinesOfNotes(), "\n"));
 }
 
 bool Editor::AcceptsLosses() {

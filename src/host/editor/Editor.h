@@ -40,7 +40,7 @@ struct EditorState {
   bool canRevert = false;
   std::string undo = {};  ///< what would be undone, in the words of the dialog
   std::string redo = {};
-  std::string note = {};  ///< what is to be told beside it; empty for nothing
+  std::string message = {};  ///< for a line below the dialog; empty for nothing
 };
 
 /// The window of an editor, in whatever toolkit. Each call is answered at once.
@@ -131,6 +131,7 @@ class Editor : private ORXQueryPrnPropEvents {
   void BeginStep(const Widget* widget, std::string name);
   /// The step that has begun has led to what the control holds.
   void EndStep(PageContent content);
+  void SetContent(PageContent content);
   void OnEdited(const Widget& widget, PageContent content);
   void OnLooked(PageContent content);
   bool GoTo(const Moment& moment);
@@ -138,10 +139,12 @@ class Editor : private ORXQueryPrnPropEvents {
   bool IsModified() const;
   bool IsDragging() const;
   void ShowState();
-  /// A line for each field of the dialog whose text can't be stored.
-  std::vector<std::string> NotStored() const;
   /// Empty where the file is not protected.
   std::string ProtectionNote() const;
+  std::vector<std::string> LinesOfNotes() const;
+  std::string Message() const;
+  /// What could not be stored has been told, and is forgotten where it stands no more.
+  void DropNotes() { now_.notes = NotesOn(GetDialog(), *now_.page); }
   bool AcceptsFields();
   bool AcceptsLosses();
   /// What is to be done where somebody else has written the target: Save where nobody has.
@@ -159,6 +162,7 @@ class Editor : private ORXQueryPrnPropEvents {
   Moment now_;
   Moment saved_;  ///< what was opened or saved last
   Steps steps_;
+  std::vector<std::string> message_;  ///< what has come of what the user did last
   int lastNumber_ = 0;
   const Widget* typing_ = nullptr;        ///< the box in which a step may go on
   std::vector<std::int32_t> printOrder_;  ///< of the page on top, as the user has left it

@@ -85,10 +85,12 @@ PageContent ContentOf(const Dialog& dialog) {
     PageContent::Field field{.widget = widget.get(), .text = {}};
     if (const auto* const box = dynamic_cast<const TextBox*>(widget.get())) {
       field.text = box->GetText();
+      if (box->Enabled() && !box->IsStorable()) field.kept = box->kept;
     } else if (const auto* const check = dynamic_cast<const CheckBox*>(widget.get())) {
       field.number = check->Value();
     } else if (const auto* const combo = dynamic_cast<const ComboBox*>(widget.get())) {
       field.number = combo->ListIndex();
+      if (field.number >= 0) field.text = combo->List(field.number);
     } else {
       continue;
     }

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "dialog/Dialog.h"
@@ -14,8 +15,9 @@ namespace ORXKMPrintProp::host {
 struct PageContent {
   struct Field {
     Widget* widget;
-    Text text;                ///< of a text box
-    std::int16_t number = 0;  ///< of a check box its value, of a combo box its index
+    Text text;                      ///< of a text box; of a combo box the entry's
+    std::int16_t number = 0;        ///< of a check box its value, of a combo box its index
+    std::optional<Text> kept = {};  ///< what the setting holds instead of a text that it can't take
   };
   struct List {
     std::vector<std::int32_t> selected;
@@ -33,6 +35,9 @@ struct PageContent {
   /// were read last. None when the tables say all but this.
   std::shared_ptr<const PageContent> before;
   bool isEdited = false;  ///< by the user, since it has been shown or the tables were read
+
+  /// The item whose settings the fields hold, -1 for none.
+  std::int32_t Item() const { return print.selected.size() == 1 ? print.selected.front() : -1; }
 };
 using PageContentRef = std::shared_ptr<const PageContent>;
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/editor/EditedSettings.h"
+#include "host/editor/Notes.h"
 #include "host/editor/PageContent.h"
 
 namespace ORXKMPrintProp::host {
@@ -14,6 +15,7 @@ namespace ORXKMPrintProp::host {
 struct Moment {
   HostSettings host;
   PageContentRef page;
+  Notes notes = {};
   int number = 0;      ///< another one after each change of a setting
   int readNumber = 0;  ///< that of the settings that the tables hold
 };

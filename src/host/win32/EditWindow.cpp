@@ -73,7 +73,7 @@ void EditWindow::MakeWindows(Dialog& dialog) {
                          },
                      .left = [this](int step) { PassFocus(step); }});
   ::ShowWindow(view_->Window(), SW_SHOWNA);
-  note_ = MakeChild(window_, L"STATIC", L"", SS_OWNERDRAW | SS_NOPREFIX);
+  status_ = MakeChild(window_, L"STATIC", L"", SS_OWNERDRAW | SS_NOPREFIX);
   buttons_.Make(window_, {{IDOK, L"&OK"}, {IDCANCEL, L"&Cancel"}, {kApply, L"&Apply"}}, IDOK);
 }
 
@@ -104,7 +104,7 @@ SIZE EditWindow::WholeSize() const {
 
 void EditWindow::FitFonts() {
   OwnedFont font = MessageFont(dpi_);
-  ::SendMessageW(note_, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+  ::SendMessageW(status_, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
   buttons_.SetFont(font.get(), dpi_);
   font_ = std::move(font);
 }
@@ -119,7 +119,7 @@ void EditWindow::Place() {
   dialog_->Show(view_->Window(), win32::PrnPropView::NaturalSize(dpi_));
   buttons_.MoveTo(inside.right - margin, inside.bottom - margin);
   // Two lines have their place there.
-  ::MoveWindow(note_, margin, bottom + margin / 2, std::max(0L, inside.right - row.cx - 3 * margin),
+  ::MoveWindow(status_, margin, bottom + margin / 2, std::max(0L, inside.right - row.cx - 3 * margin),
                inside.bottom - bottom - margin, TRUE);
 }
 
@@ -135,7 +135,7 @@ LRESULT EditWindow::OnMessage(UINT message, WPARAM wParam, LPARAM lParam) {
       if (HIWORD(wParam) == BN_SETFOCUS) buttons_.ShowDefault();
       return 0;
     case WM_DRAWITEM:
-      DrawNote(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
+      DrawStatus(*reinterpret_cast<const DRAWITEMSTRUCT*>(lParam));
       return TRUE;
     case WM_SIZE:
       Place();
@@ -198,9 +198,9 @@ void EditWindow::OpenDropped(HDROP files) {
   if (!IsWaiting() && !path.empty()) editor_.Open(ToUtf8(Text(path.begin(), path.end())));
 }
 
-void EditWindow::DrawNote(const DRAWITEMSTRUCT& item) const {
+void EditWindow::DrawStatus(const DRAWITEMSTRUCT& item) const {
   RECT place = item.rcItem;
-  const std::wstring text = win32::ToWide(win32::TextOf(note_));
+  const std::wstring text = win32::ToWide(win32::TextOf(status_));
   ::FillRect(item.hDC, &place, ::GetSysColorBrush(COLOR_BTNFACE));
   ::SetTextColor(item.hDC, ::GetSysColor(COLOR_BTNTEXT));
   ::SetBkMode(item.hDC, TRANSPARENT);
@@ -321,12 +321,12 @@ void EditWindow::ShowState(const EditorState& state) {
   const HWND apply = buttons_.Window(kApply);
   if (!state.canApply && ::GetFocus() == apply) ::SetFocus(buttons_.Window(IDOK));
   ::EnableWindow(apply, state.canApply);
-  const Text note = FromUtf8(state.note);
-  if (win32::TextOf(note_) == note) return;
-  ::SetWindowTextW(note_, win32::ToWide(note).c_str());
-  ::InvalidateRect(note_, nullptr, TRUE);
+  const Text message = FromUtf8(state.message);
+  if (win32::TextOf(status_) == message) return;
+  ::SetWindowTextW(status_, win32::ToWide(message).c_str());
+  ::InvalidateRect(status_, nullptr, TRUE);
   // It is spoken though the focus is elsewhere.
-  if (!note.empty()) ::NotifyWinEvent(EVENT_SYSTEM_ALERT, note_, OBJID_CLIENT, CHILDID_SELF);
+  if (!message.empty()) ::NotifyWinEvent(EVENT_SYSTEM_ALERT, status_, OBJID_CLIENT, CHILDID_SELF);
 }
 
 Choice EditWindow::Ask(const Question& question) { return AskIn(window_, question); }

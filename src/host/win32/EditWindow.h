@@ -16,7 +16,7 @@
 namespace ORXKMPrintProp::host {
 
 /// The dialog with what a host adds to it: OK, Cancel and Apply, the editor of layouts, and a line beside the buttons
-/// that tells which fields can't be stored.
+/// that tells what has come of what the user does.
 class EditWindow : private EditorWindow {
  public:
   /// @param settings must outlive the window.
@@ -57,7 +57,7 @@ class EditWindow : private EditorWindow {
   void Place();
   /// The first of them.
   void OpenDropped(HDROP files);
-  void DrawNote(const DRAWITEMSTRUCT& item) const;
+  void DrawStatus(const DRAWITEMSTRUCT& item) const;
   /// Does what a key does to the window as a whole, ahead of the widget that it was pressed in. @return false for all
   /// other messages.
   bool TakeKey(const MSG& message);
@@ -71,7 +71,7 @@ class EditWindow : private EditorWindow {
 
   Editor editor_;
   HWND window_ = nullptr;
-  HWND note_ = nullptr;
+  HWND status_ = nullptr;
   HWND lastFocus_ = nullptr;
   std::unique_ptr<Viewport> dialog_;
   std::unique_ptr<win32::PrnPropView> view_;

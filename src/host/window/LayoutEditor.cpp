@@ -7,36 +7,61 @@
 #include <QTextDocument>
 #include <QVBoxLayout>
 
+#include "host/editor/LayoutText.h"
+#include "views/qt/QtText.h"
+
 namespace ORXKMPrintProp::host {
 namespace {
 
-/// The text as it was typed; `toPlainText` would make plain blanks of those that don't break.
-QString TextOf(const QPlainTextEdit& edit, bool usesCarriageReturns) {
-  QString text = edit.document()->toRawText();
-  const QString lineEnd = usesCarriageReturns ? QStringLiteral("\r\n") : QStringLiteral("\n");
-  return text.replace(QChar::ParagraphSeparator, lineEnd).replace(QChar::LineSeparator, lineEnd);
-}
+class LayoutEditor : public QDialog {
+ public:
+  LayoutEditor(const Text& name, const Text& layout, bool readOnly, const std::function<Choice(const Question&)>& ask,
+               QWidget* parent)
+      : QDialog(parent), ask_(ask) {
+    setWindowTitle(QStringLiteral("Layout: ") + qt::ToQString(name));
+    edit_.setPlainText(qt::ToQString(layout));
+    edit_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    edit_.setAccessibleName(windowTitle());
+    edit_.setTabChangesFocus(true);
+    edit_.setReadOnly(readOnly);
+    shown_ = edit_.document()->toRawText();
+    auto* const buttons = new QDialogButtonBox(
+        readOnly ? QDialogButtonBox::Close : QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(buttons, &QDialogButtonBox::rejected, this, &LayoutEditor::reject);
+    auto* const column = new QVBoxLayout(this);
+    column->addWidget(&edit_);
+    column->addWidget(buttons);
+    resize(560, 360);
+  }
+
+  bool IsChanged() const { return edit_.document()->toRawText() != shown_; }
+
+  /// As it was typed; `toPlainText` would make plain blanks of those that don't break.
+  Text Edited() const {
+    QString text = edit_.document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, u'\n').replace(QChar::LineSeparator, u'\n');
+    return qt::ToText(text);
+  }
+
+  /// By Escape, Cancel, or when the window is closed.
+  void reject() override {
+    if (!IsChanged() || ask_(LayoutIsThrownAway()) == Choice::Discard) QDialog::reject();
+  }
+
+ private:
+  const std::function<Choice(const Question&)>& ask_;
+  QPlainTextEdit edit_{this};
+  QString shown_;
+};
 
 }  // namespace
 
-std::optional<QString> EditLayout(const QString& name, const QString& layout, bool readOnly, QWidget* parent) {
-  QDialog dialog(parent);
-  dialog.setWindowTitle(QStringLiteral("Layout: ") + name);
-  QPlainTextEdit edit;
-  edit.setPlainText(layout);
-  edit.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-  edit.setAccessibleName(dialog.windowTitle());
-  edit.setTabChangesFocus(true);
-  edit.setReadOnly(readOnly);
-  QDialogButtonBox buttons(readOnly ? QDialogButtonBox::Close : QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
-  QObject::connect(&buttons, &QDialogButtonBox::accepted, &dialog, &QDialog::accept);
-  QObject::connect(&buttons, &QDialogButtonBox::rejected, &dialog, &QDialog::reject);
-  QVBoxLayout column(&dialog);
-  column.addWidget(&edit);
-  column.addWidget(&buttons);
-  dialog.resize(560, 360);
-  if (dialog.exec() != QDialog::Accepted || !edit.document()->isModified()) return {};
-  return TextOf(edit, layout.contains(QStringLiteral("\r\n")));
+std::optional<Text> EditLayout(const Text& name, const Text& layout, bool readOnly,
+                               const std::function<Choice(const Question&)>& ask, QWidget* parent) {
+  LayoutEditor editor(name, layout, readOnly, ask, parent);
+  if (editor.exec() != QDialog::Accepted || !editor.IsChanged()) return {};
+  return WithLineEnds(editor.Edited(), LineEndOf(layout));
 }
 
 }  // namespace ORXKMPrintProp::host

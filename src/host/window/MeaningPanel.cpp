@@ -111,16 +111,14 @@ void MeaningPanel::Show(const Snapshot& file, const Snapshot& now) {
   if (tabs_ && tabs_->isVisible()) Fill();
 }
 
-void MeaningPanel::SetState(bool isStale, const QString& note) {
+void MeaningPanel::SetStale(bool isStale) {
   isStale_ = isStale;
   if (page_) page_->SetStale(isStale);
   QFont bold = font();
-  bold.setBold(isStale || !note.isEmpty());
+  bold.setBold(isStale);
   state_->setFont(bold);
-  QString text =
-      isStale ? QStringLiteral("Older than your last change.") : QStringLiteral("As the settings are read back.");
-  if (!note.isEmpty()) text += u'\n' + note;
-  state_->setText(text);
+  state_->setText(isStale ? QStringLiteral("Older than your last change.")
+                          : QStringLiteral("As the settings are read back."));
 }
 
 void MeaningPanel::showEvent(QShowEvent* event) {

@@ -27,8 +27,7 @@ class MeaningPanel : public QWidget {
 
   void Show(const Snapshot& file, const Snapshot& now);
   /// Tells whether the user has changed something since.
-  /// @param note what is to be told beside it, empty for nothing
-  void SetState(bool isStale, const QString& note);
+  void SetStale(bool isStale);
 
  protected:
   void showEvent(QShowEvent* event) override;

@@ -29,6 +29,7 @@
 #include "host/window/Remembered.h"
 #include "host/window/SignButton.h"
 #include "host/window/SpokenWindow.h"
+#include "host/window/StatusLine.h"
 #include "views/qt/PrnPropView.h"
 #include "views/qt/QtText.h"
 
@@ -108,7 +109,8 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
       panel_(new MeaningPanel([this] { return editor_.Read(); }, this)),
       dialog_(new QScrollArea(this)),
       order_(new OrderButtons(
-          settings.Control().GetDialog(), *view_, [&settings] { return settings.IsReadOnly(); }, this)) {
+          settings.Control().GetDialog(), *view_, [&settings] { return settings.IsReadOnly(); }, this)),
+      status_(new StatusLine(this)) {
   SpeakAsWindow(*this);
   auto* const across = new QHBoxLayout;
   dialog_->setWidget(view_);
@@ -118,6 +120,11 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
   across->addWidget(panel_, 1);
   auto* const down = new QVBoxLayout(this);
   down->addLayout(across, 1);
+  status_->setObjectName(QStringLiteral("status"));
+  auto* const told = new QHBoxLayout;
+  told->addWidget(status_);
+  told->addWidget(order_);
+  down->addLayout(told);
   down->addWidget(MakeButtons());
   BoundDialog();
 
@@ -157,8 +164,9 @@ void SettingsWindow::BoundDialog() {
   constexpr int kLeastPanel = 240;
   const QMargins margins = layout()->contentsMargins();
   const int spacing = layout()->spacing();
-  const int buttons = layout()->itemAt(1)->sizeHint().height();
-  QSize left = room_ - QSize(margins.left() + margins.right(), margins.top() + margins.bottom() + spacing + buttons);
+  int below = 0;
+  for (int i = 1; i < layout()->count(); ++i) below += spacing + layout()->itemAt(i)->sizeHint().height();
+  QSize left = room_ - QSize(margins.left() + margins.right(), margins.top() + margins.bottom() + below);
   panel_->setMinimumWidth(std::clamp(left.width() - view_->width() - spacing, kLeastPanel, view_->width() / 2));
   if (preview_->isChecked()) left.rwidth() -= panel_->minimumWidth() + spacing;
   QSize whole = view_->size();
@@ -215,7 +223,6 @@ QWidget* SettingsWindow::MakeButtons() {
     row->addWidget(button);
   }
   for (QPushButton* const step : {undo_, redo_, revert_}) row->addWidget(step);
-  row->addWidget(order_);
   row->addStretch();
   row->addWidget(buttons);
   return bar;
@@ -296,7 +303,8 @@ void SettingsWindow::ShowMeaning(const Snapshot& file, const Snapshot& now) { pa
 void SettingsWindow::ShowState(const EditorState& state) {
   setWindowTitle(QString::fromStdString(editor_.Title("[*]")));
   setWindowFilePath(QString::fromStdString(editor_.File()));
-  panel_->SetState(state.isStale, QString::fromStdString(state.note));
+  panel_->SetStale(state.isStale);
+  status_->Say(QString::fromStdString(state.message));
   setWindowModified(state.isModified);
   SetEnabled(*apply_, state.canApply);
   SetEnabled(*undo_, state.canUndo);
@@ -314,8 +322,10 @@ void SettingsWindow::SetEnabled(QPushButton& button, bool enabled) {
 }
 
 Choice SettingsWindow::Ask(const Question& question) {
+  // Over the window that waits for an answer already, if one does.
+  QWidget* const waiting = QApplication::activeModalWidget();
   QMessageBox box(IconOf(question.kind), QStringLiteral("Print settings"), QString::fromStdString(question.text), {},
-                  this);
+                  waiting ? waiting : this);
   for (const Choice choice : question.choices) {
     const ChoiceButton& row = RowOf(choice);
     QPushButton* const button = box.addButton(row.button);
@@ -333,9 +343,8 @@ Choice SettingsWindow::Ask(const Question& question) {
 }
 
 std::optional<Text> SettingsWindow::EditLayout(const Text& name, const Text& layout, bool readOnly) {
-  const auto edited = host::EditLayout(ToQString(name), ToQString(layout), readOnly, this);
-  if (!edited) return {};
-  return qt::ToText(*edited);
+  return host::EditLayout(
+      name, layout, readOnly, [this](const Question& question) { return Ask(question); }, this);
 }
 
 std::optional<std::string> SettingsWindow::PickFile(FileUse use, const std::string& proposed) {

@@ -18,9 +18,10 @@ namespace ORXKMPrintProp::host {
 
 class MeaningPanel;
 class OrderButtons;
+class StatusLine;
 
-/// The dialog with what a host adds to it: OK, Cancel and Apply, Undo, Redo and Revert, the editor of layouts, and a
-/// panel that shows what the settings mean.
+/// The dialog with what a host adds to it: OK, Cancel and Apply, Undo, Redo and Revert, the editor of layouts, a panel
+/// that shows what the settings mean, and a line that tells what has come of what the user does.
 class SettingsWindow : public QWidget, private EditorWindow {
  public:
   /// @param settings must outlive the window.
@@ -63,6 +64,7 @@ class SettingsWindow : public QWidget, private EditorWindow {
   MeaningPanel* panel_;
   QScrollArea* dialog_;  ///< the view in it
   OrderButtons* order_;
+  StatusLine* status_;
   QPushButton* preview_ = nullptr;
   QPushButton* apply_ = nullptr;
   QPushButton* undo_ = nullptr;

@@ -44,13 +44,13 @@ std::string Shot(const ShotOptions& options) {
   QApplication application(argc, argv);
   qt::QtPlatform platform;
   EditedSettings settings(options.settings, platform);
+  settings.Control().GetDialog().TabStrip().UserPick(static_cast<std::int16_t>(options.page));
   std::unique_ptr<QWidget> drawn;
   if (options.window) {
     drawn = std::make_unique<SettingsWindow>(settings);
   } else {
     drawn = std::make_unique<qt::PrnPropView>(settings.Control().GetDialog());
   }
-  settings.Control().GetDialog().TabStrip().UserPick(static_cast<std::int16_t>(options.page));
   if (options.window) {
     // The panel opens when the window has been painted once.
     drawn->setAttribute(Qt::WA_DontShowOnScreen);

@@ -244,6 +244,7 @@ TEST_F(EditWindowTest, ALayoutIsEditedAsPlainText) {
   EXPECT_EQ(State(), "open modified apply");
   Press(kApply);
   EXPECT_EQ(std::get<Text>(ReadSettings(file).general->Rows(1)->Value(u"HEADER_LAYOUT")), u"<b>\n&\u00fc");
+  EXPECT_EQ(win32::TextOf(::FindWindowExW(window->Window(), nullptr, L"STATIC", nullptr)), u"Saved");
 }
 
 TEST_F(EditWindowTest, AKeyShowsAllKeys) {
