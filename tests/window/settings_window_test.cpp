@@ -291,7 +291,7 @@ TEST_F(SettingsWindowTest, ALayoutIsEditedAsPlainText) {
   };
   const std::function<void(QDialog&)> ends[] = {
       cancel,
-      [](QDialog& dialog) { QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape); },
+      [](QDialog& dialog) { QTest::keyClick(dialog.findChild<QPlainTextEdit*>(), Qt::Key_Escape); },
       [](QDialog& dialog) { dialog.close(); },
   };
   for (const auto& end : ends) {
