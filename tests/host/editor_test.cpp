@@ -89,6 +89,8 @@ class Protected {
 ///     put OLD -> NEW (somebody else does, in the row of REGION), copy FILE (of the tests), remove (the file)
 ///     show FILE, look WIDGET WIDGET (and so on, what they hold)
 ///
+/// Behind "--" stand the details of a question.
+///
 /// The state: "window", what is seen of it: modified, Apply can be pressed, the panel is older than a change; of each
 /// file how often it has been written, with its general row; and aside "message", "steps", what can be undone, done
 /// again and gone back from, and "recent", the files used last.
@@ -113,7 +115,7 @@ class EditorPlayer : public Player, public EditorWindow {
   void ShowMeaning(const Snapshot&, const Snapshot&) override {}
   void ShowState(const EditorState& shown) override { window_ = shown; }
   Choice Ask(const Question& question) override {
-    TellAll(question.text + (question.further.empty() ? "" : "\n") + question.further);
+    TellAll(question.text + "\n" + question.further + (question.details.empty() ? "" : "\n--\n" + question.details));
     if (answers_.empty()) return Choice::Cancel;
     const Choice answer = answers_.front();
     answers_.pop_front();
@@ -190,7 +192,9 @@ std::string EditorPlayer::WithoutFolder(std::string text) const {
 }
 
 void EditorPlayer::TellAll(const std::string& text) {
-  ForEach(WithoutFolder(text), "\n", [this](const std::string& line) { Tell(line); });
+  ForEach(WithoutFolder(text), "\n", [this](const std::string& line) {
+    if (!line.empty()) Tell(line);
+  });
 }
 
 void EditorPlayer::Open(const std::string& how) {

@@ -140,7 +140,10 @@ class SettingsWindowTest : public testing::Test {
     }
     return names;
   }
-  std::string Changed() const { return "The settings have changed.\nSave them in " + file + "?"; }
+  std::string TitleChanged(const std::string& from, const std::string& to) const {
+    return "The settings have changed.\nSave them in " + file + "?\n\nWhat has changed:\nGeneral\n  Print title: '" +
+           from + "' is now '" + to + "'";
+  }
 
   const QTemporaryDir folder;
   std::string before = ReadFile(PRNPROP_EXAMPLES "/small.json");
@@ -158,7 +161,7 @@ TEST_F(SettingsWindowTest, TheUserIsAskedBeforeItCloses) {
   QTest::keyClicks(&Find<QLineEdit>("txtGenMarginTop"), QStringLiteral("32768"));
   EXPECT_EQ(Find<QLabel>("status").text().toStdString(), "Top 1032768 is no number up to 32767: 10 kept");
   Type("!");
-  Answer(QMessageBox::Discard, Changed());
+  Answer(QMessageBox::Discard, TitleChanged("Orders by region", "Orders by region!"));
   QTest::keyClick(window->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Cancel), Qt::Key_Return);
   EXPECT_EQ(State(), "closed modified apply") << "Enter presses the button that has the focus";
   Open();
@@ -405,7 +408,7 @@ TEST_F(SettingsWindowTest, AChangeOfTheTabOrTheOrderReadsBack) {
 
   QTest::keyClick(&Find<QListView>("lstPrint(1)"), Qt::Key_PageUp, Qt::ControlModifier);
   Type("?");
-  Answer(QMessageBox::Discard, Changed());
+  Answer(QMessageBox::Discard, TitleChanged("Orders by region!", "Orders by region!?"));
   QTest::keyClick(&Find<QLineEdit>("txtGenPrnTitle"), Qt::Key_Escape);
   EXPECT_FALSE(window->isVisible());
 }

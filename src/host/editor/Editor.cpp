@@ -40,6 +40,7 @@ Editor::~Editor() { settings_.Control().Disconnect(*this); }
 void Editor::Begin() {
   now_ = {.host = settings_.Host(), .page = std::make_shared<PageContent>(ContentOf(GetDialog()))};
   saved_ = now_;
+  message_.clear();
   steps_ = {};
   typing_ = nullptr;
   printOrder_ = PrintOrder(now_.page->page);
@@ -372,6 +373,7 @@ void Editor::Reload() {
     return Tell("The file could not be loaded again.", error.what());
   }
   BeginStep(nullptr, "Reload");
+  now_.notes.clear();
   EndStep(ContentOf(GetDialog()));
   now_.readNumber = now_.number;
   steps_.Last().after = saved_ = now_;
@@ -436,22 +438,39 @@ void Editor::ShowDifferences() {
 }
 
 bool Editor::AcceptsSave(std::string text, std::string further, std::string details) {
-  return window_.Ask({.kind = Question::Kind::Warning,
-                      .text = std::move(text),
-                      .further = std::move(further),
-                      .details = std::move(details),
-                      .choices = {Choice::Save, Choice::Cancel},
-                      .preset = Choice::Cancel}) == Choice::Save;
+  Question question{.kind = Question::Kind::Warning,
+                    .text = std::move(text),
+                    .further = std::move(further),
+                    .details = std::move(details),
+                    .choices = {Choice::Save, Choice::Cancel},
+                    .preset = Choice::Cancel};
+  TellChanges(question);
+  return window_.Ask(question) == Choice::Save;
+}
+
+void Editor::TellChanges(Question& question) const {
+  constexpr std::size_t kFew = 6;
+  std::vector<std::string> lines;
+  try {
+    lines = LinesOf(DifferencesOf(settings_.File(), settings_.Now(), WordsBesideCaptions(UserLanguage())));
+  } catch (const std::exception&) {
+    // The question is asked all the same.
+  }
+  if (lines.empty()) return;
+  lines.insert(lines.begin(), "What has changed:");
+  std::string& place = lines.size() <= kFew ? question.further : question.details;
+  place += (place.empty() ? "" : "\n\n") + Joined(lines, "\n");
 }
 
 bool Editor::MayClose() {
   if (isDone_ || (Read() && !settings_.IsChanged())) return true;
-  switch (
-      window_.Ask({.kind = Question::Kind::Question,
-                   .text = "The settings have changed.",
-                   .further = settings_.Target().empty() ? "Save them?" : "Save them in " + settings_.Target() + "?",
-                   .choices = {Choice::Save, Choice::Discard, Choice::Cancel},
-                   .preset = Choice::Save})) {
+  Question question{.kind = Question::Kind::Question,
+                    .text = "The settings have changed.",
+                    .further = settings_.Target().empty() ? "Save them?" : "Save them in " + settings_.Target() + "?",
+                    .choices = {Choice::Save, Choice::Discard, Choice::Cancel},
+                    .preset = Choice::Save};
+  TellChanges(question);
+  switch (window_.Ask(question)) {
     case Choice::Save:
       return Save();
     case Choice::Discard:

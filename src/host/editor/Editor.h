@@ -143,6 +143,8 @@ class Editor : private ORXQueryPrnPropEvents {
   std::string ProtectionNote() const;
   std::vector<std::string> LinesOfNotes() const;
   std::string Message() const;
+  /// Tells what has changed since the file: a few lines below what is asked, many for whoever asks for them.
+  void TellChanges(Question& question) const;
   /// What could not be stored has been told, and is forgotten where it stands no more.
   void DropNotes() { now_.notes = NotesOn(GetDialog(), *now_.page); }
   bool AcceptsFields();

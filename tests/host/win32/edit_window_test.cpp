@@ -173,7 +173,9 @@ TEST_F(EditWindowTest, EscapeAsksAndEachAnswerDoesWhatItSays) {
   for (const auto& row : rows) {
     Open();
     TypeTitle();
-    Answer(row.button, "The settings have changed.\r\n\r\nSave them in " + file + "?");
+    Answer(row.button, "The settings have changed.\r\n\r\nSave them in " + file +
+                           "?\r\n\r\nWhat has changed:\r\nGeneral\r\n  Print title: '" + sales + "' is now '7" + sales +
+                           "'");
     Key(VK_ESCAPE);
     EXPECT_EQ(State() + Title(), row.state);
   }
