@@ -122,8 +122,8 @@ SettingsWindow::SettingsWindow(EditedSettings& settings, QWidget* parent)
   down->addLayout(across, 1);
   status_->setObjectName(QStringLiteral("status"));
   auto* const told = new QHBoxLayout;
-  told->addWidget(status_);
   told->addWidget(order_);
+  told->addWidget(status_);
   down->addLayout(told);
   down->addWidget(MakeButtons());
   BoundDialog();
