@@ -438,6 +438,8 @@ TEST_F(SettingsWindowTest, ALineBelowTheDialogTellsInAWindowThatGetsNoWider) {
                                               std::string(100, 'R') + "&lt;b&gt;&amp;S</qt>");
   Press("preview");
   EXPECT_EQ(window->minimumSizeHint().width(), least);
+  window->resize(9000, window->height());
+  EXPECT_EQ(line.toolTip(), QString()) << "there is room for it";
   EXPECT_GE(line.y(), Find<QWidget>("tstPrint").mapTo(window.get(), Find<QWidget>("tstPrint").rect().bottomLeft()).y());
 }
 

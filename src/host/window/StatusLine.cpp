@@ -14,8 +14,6 @@ StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
 void StatusLine::Say(const QString& text) {
   if (text == this->text()) return;
   setText(text);
-  // Whole, and with each "&".
-  setAccessibleName(text);
   FitToolTip();
   if (text.isEmpty()) return;
   QAccessibleEvent alert(this, QAccessible::Alert);
