@@ -1,6 +1,5 @@
 #include "host/window/ChangesView.h"
 
-#include <QLocale>
 #include <QTextCursor>
 
 #include "host/Differences.h"
@@ -16,7 +15,7 @@ ChangesView::ChangesView(QWidget* parent) : QTextEdit(parent) {
 }
 
 void ChangesView::Show(const Snapshot& before, const Snapshot& after) {
-  const auto differences = DifferencesOf(before, after, WordsBesideCaptions(QLocale().name().toStdString()));
+  const auto differences = DifferencesOf(before, after, WordsBesideCaptions(UserLanguage()));
   clear();
   QTextCursor cursor(document());
   const auto add = [&](const QString& text, QFont::Weight weight, int indent) {
