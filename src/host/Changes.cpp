@@ -18,9 +18,13 @@
 #include "tables/CellCodecs.h"
 #include "tables/Conversions.h"
 #include "tables/TableCalls.h"
+#include "views/Translation.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
+
+using views::Filled;
+using views::Translated;
 
 /// By column, of those that the control writes; none for one that it never reads.
 using Kinds = std::unordered_map<Text, std::optional<CellKind>>;
@@ -134,18 +138,20 @@ bool IsLayout(TextView column) { return column.ends_with(u"_LAYOUT"); }
 std::string ReasonOf(ChangeKind kind, TextView column, bool isStructure) {
   switch (kind) {
     case ChangeKind::ColumnDropped:
-      if (column == u"IS_STRUCTURE") return "only written in the row of a structure";
-      return isStructure ? "not written in the row of a structure" : "the control does not write this column";
+      if (column == u"IS_STRUCTURE") return Translated("only written in the row of a structure");
+      return isStructure ? Translated("not written in the row of a structure")
+                         : Translated("the control does not write this column");
     case ChangeKind::LayoutEmptied:
-      return "a layout is written, never read";
+      return Translated("a layout is written, never read");
     case ChangeKind::Replaced:
-      return column == u"PR_COL2_HEADER" ? "always the text of PR_COL1_HEADER" : "always this text";
+      return column == u"PR_COL2_HEADER" ? Translated("always the text of PR_COL1_HEADER")
+                                         : Translated("always this text");
     case ChangeKind::UnknownCode:
-      return "unknown code, counts as the default";
+      return Translated("unknown code, counts as the default");
     case ChangeKind::NumberChanged:
-      return "only a whole number is kept";
+      return Translated("only a whole number is kept");
     case ChangeKind::TextChanged:
-      return "the name as the characteristic has it";
+      return Translated("the name as the characteristic has it");
     case ChangeKind::CodeNormalized:
       return "same meaning";
     case ChangeKind::TypeChanged:
@@ -199,11 +205,13 @@ std::string WhyDropped(const TableMember& member, const Row& row, const Owners& 
   const Text name = TextOf(row, u"IOBJNM");
   const std::string quoted = ToUtf8(u"\"" + name + u"\"");
   if (member.table == &SettingsDocument::dimension) {
-    return name.empty() ? "a structure without a name does not exist" : "only two structures are kept";
+    return name.empty() ? Translated("a structure without a name does not exist")
+                        : Translated("only two structures are kept");
   }
-  if (member.table == &SettingsDocument::member) return quoted + " names no structure that comes back";
-  if (!owners.characteristics.contains(name)) return quoted + " names no characteristic";
-  return "no characteristic is spelled " + quoted + "; of such rows only the first is found";
+  if (member.table == &SettingsDocument::member)
+    return Filled(Translated("{0} names no structure that comes back"), {quoted});
+  if (!owners.characteristics.contains(name)) return Filled(Translated("{0} names no characteristic"), {quoted});
+  return Filled(Translated("no characteristic is spelled {0}; of such rows only the first is found"), {quoted});
 }
 
 /// Adds the rows that stand at another place among those that come back.

@@ -10,6 +10,7 @@
 #include "host/ExitStatus.h"
 #include "host/Files.h"
 #include "host/Load.h"
+#include "host/UserLanguage.h"
 #include "host/Utf8.h"
 
 namespace ORXKMPrintProp::host {
@@ -28,7 +29,8 @@ std::vector<PageDifferences> Compare(const DiffOptions& options) {
   const auto to = SettingsOf(after);
   ORXQueryPrnProp control;
   if (texts) control.ORXControlTexts(texts);
-  return DifferencesOf(*from, *to, WordsBesideCaptions(UserLanguage()));
+  // Without a text table the captions are English.
+  return DifferencesOf(*from, *to, DifferenceWordsIn(texts ? UserLanguage() : "en"));
 }
 
 void PrintJson(const DiffOptions& options, int status, const char* error,

@@ -32,7 +32,7 @@ const DifferenceWords& DifferenceWordsIn(std::string_view language) {
       .dateTo = u"Ende der Gültigkeit der Hierarchie",
       .position = u"Position",
   };
-  return language == "de" || language.starts_with("de_") || language.starts_with("de-") ? german : english;
+  return language == "de" ? german : english;
 }
 
 }  // namespace ORXKMPrintProp::host

@@ -48,7 +48,7 @@ struct DifferenceWords {
   Text position = u"position";
 };
 
-/// @param language as a locale is called, "de" or "de_DE.UTF-8". For an unknown one the words are English.
+/// @param language by ISO 639. For an unknown one the words are English.
 const DifferenceWords& DifferenceWordsIn(std::string_view language);
 
 }  // namespace ORXKMPrintProp::host

@@ -1,8 +1,6 @@
 #include "host/Differences.h"
 
 #include <algorithm>
-#include <cstdlib>
-#include <initializer_list>
 #include <map>
 #include <span>
 #include <type_traits>
@@ -15,9 +13,12 @@
 #include "host/Terminal.h"
 #include "host/Utf8.h"
 #include "texts/LookupText.h"
+#include "views/Translation.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
+
+using views::Filled;
 
 enum class ValueKind { Text, Number, Width, Flag, Choice, Layout };
 
@@ -195,21 +196,6 @@ Text InnerCaption(TextView key) {
   };
   if (caption == DefaultOf(key) && isIn(0, u'A', u'Z') && isIn(1, u'a', u'z')) caption[0] += u'a' - u'A';
   return caption;
-}
-
-Text Filled(TextView sentence, std::initializer_list<TextView> values) {
-  Text filled;
-  for (std::size_t i = 0; i < sentence.size(); ++i) {
-    const bool isPlace = sentence[i] == u'{' && i + 2 < sentence.size() && sentence[i + 2] == u'}';
-    const std::size_t number = isPlace ? sentence[i + 1] - std::size_t{u'0'} : values.size();
-    if (number < values.size()) {
-      filled += values.begin()[number];
-      i += 2;
-    } else {
-      filled += sentence[i];
-    }
-  }
-  return filled;
 }
 
 template <class Item>
@@ -535,18 +521,6 @@ std::vector<PageDifferences> DifferencesOf(const PrnPropCls& before, const PrnPr
     ++page;
   }
   return differences;
-}
-
-const DifferenceWords& WordsBesideCaptions(std::string_view language) {
-  return DifferenceWordsIn(gTextTable ? language : "en");
-}
-
-std::string UserLanguage() {
-  for (const char* const name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {
-    const char* const value = std::getenv(name);
-    if (value && *value) return value;
-  }
-  return {};
 }
 
 std::vector<PageDifferences> DifferencesOf(const Snapshot& before, const Snapshot& after,

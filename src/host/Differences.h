@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "host/DifferenceWords.h"
@@ -32,12 +31,6 @@ std::vector<PageDifferences> DifferencesOf(const PrnPropCls& before, const PrnPr
 
 /// The same between what two snapshots say. @throws LoadError too
 std::vector<PageDifferences> DifferencesOf(const Snapshot& before, const Snapshot& after, const DifferenceWords& words);
-
-/// The words of that language; English ones while there is no text table, since the captions are English then.
-const DifferenceWords& WordsBesideCaptions(std::string_view language);
-
-/// As the environment says, for messages; empty where it says nothing.
-std::string UserLanguage();
 
 /// In UTF-8, the lines of each page further in and below its caption.
 std::vector<std::string> LinesOf(const std::vector<PageDifferences>& differences);

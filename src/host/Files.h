@@ -16,6 +16,9 @@ inline std::string InputName(const std::string& path) { return path == kStandard
 /// Whether somebody sees what is written to the stream.
 bool IsTerminal(std::FILE* stream);
 
+/// The language that the system knows of its user beside what stands in his environment, by ISO 639; empty for none.
+std::string SystemLanguage();
+
 /// The whole file, or all of standard input. @throws DocumentError (file and reason)
 std::string ReadFile(const std::string& path);
 

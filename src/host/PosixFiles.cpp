@@ -118,6 +118,8 @@ class TemporaryFile {
 
 bool IsTerminal(std::FILE* stream) { return ::isatty(::fileno(stream)) != 0; }
 
+std::string SystemLanguage() { return {}; }
+
 std::string ReadFile(const std::string& path) {
   const bool standard = path == kStandardStream;
   Descriptor opened(standard ? -1 : ::open(path.c_str(), O_RDONLY | O_CLOEXEC));

@@ -45,7 +45,7 @@ bool IsPrinted(const Row& characteristic) { return AxisFromCell(RawText(characte
 
 Text PageLimit(const Row& general) {
   const Text pages = LineText(general, u"MAX_PAGES");
-  return pages == u"0" ? Text() : pages + (pages == u"1" ? u" page" : u" pages");
+  return pages == u"0" ? Text() : pages;
 }
 
 Presentation PresentationOf(const Row& row) {

@@ -13,31 +13,34 @@
 #include "host/SettingsDocument.h"
 #include "host/Terminal.h"
 #include "host/Utf8.h"
+#include "host/Words.h"
 #include "tables/CellCodecs.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
 
 using namespace ModPrnGen;
+using views::Filled;
 
 Text If(bool condition, TextView words) { return Text(condition ? words : TextView()); }
 
-TextView Alignment(const Row& row, TextView column) {
+Text Alignment(const Row& row, TextView column) {
   switch (AlignFromCell(RawText(row, column))) {
     case PP_PRN_ALIGN_RIGHT:
-      return u"right";
+      return WordFor(u"ID_PRN_COLALIGN2", "right");
     case PP_PRN_ALIGN_CENTER:
-      return u"centered";
+      return WordFor(u"ID_PRN_COLALIGN3", "centered");
     default:
-      return u"left";
+      return WordFor(u"ID_PRN_COLALIGN1", "left");
   }
 }
 
 /// "left 24": how a column is aligned, and its width when it has one.
 Text Placing(const Row& row, TextView alignColumn, TextView widthColumn) {
   const int width = Number(row, widthColumn);
-  const Text size = Flag(row, u"PR_AUTO_WIDTH") ? u"auto" : width != 0 ? Digits(width) : Text();
-  return Joined({Text(Alignment(row, alignColumn)), size}, u" ");
+  const Text automatic = If(Flag(row, u"PR_AUTO_WIDTH"), WordFor(u"ID_PRN_COLAUTOWIDTH", "auto"));
+  const Text size = automatic.empty() && width != 0 ? Digits(width) : automatic;
+  return Joined({Alignment(row, alignColumn), size}, u" ");
 }
 
 /// What prints in the two columns of a characteristic or an attribute; the second one may be empty.
@@ -47,11 +50,12 @@ struct Columns {
 };
 
 Columns ColumnsOf(const Row& row) {
-  static constexpr TextView key = u"key";
-  static constexpr TextView description = u"description";
+  const Text key = WordFor(u"ID_DLG_VALPRES_3", "key");
+  const Text description = WordFor(u"ID_DLG_VALPRES_2", "description");
   const auto [keyFirst, both] = PresentationOf(row);
-  const auto column = [&](TextView what, TextView align, TextView width, TextView fix) {
-    return Joined({Text(what), Placing(row, align, width), If(Flag(row, fix), u"each page")});
+  const auto column = [&](const Text& what, TextView align, TextView width, TextView fix) {
+    const Text eachPage = WordFor(u"ID_PRN_COLEACHPAGE", "each page");
+    return Joined({what, Placing(row, align, width), If(Flag(row, fix), eachPage)});
   };
   return {column(keyFirst ? key : description, u"PR_COL1_ALIGN", u"PR_COL1_WIDTH", u"PR_COL1_FIX"),
           both ? column(keyFirst ? description : key, u"PR_COL2_ALIGN", u"PR_COL2_WIDTH", u"PR_COL2_FIX") : Text()};
@@ -64,16 +68,19 @@ Text Details(const Row& row) {
     const int level = Number(row, u"STRT_LVL");
     const Text version = LineText(row, u"VERSION");
     const Text dateTo = LineText(row, u"DATETO");
-    hierarchy = Joined({u"with hierarchy", LineText(row, u"HIENM")}, u" ");
-    hierarchy = Joined({hierarchy, If(level != 0, u"level " + Digits(level)),
-                        If(!version.empty(), u"version " + version), If(!dateTo.empty(), u"to " + dateTo)});
+    hierarchy = Joined({TranslatedText("with hierarchy"), LineText(row, u"HIENM")}, u" ");
+    hierarchy = Joined({hierarchy, If(level != 0, Filled(TranslatedText("level {0}"), {Digits(level)})),
+                        If(!version.empty(), Filled(TranslatedText("version {0}"), {version})),
+                        If(!dateTo.empty(), Filled(TranslatedText("to {0}"), {dateTo}))});
   }
   // By the value of the enumeration, as further below.
-  static constexpr TextView sums[] = {u"", u"totals suppressed on condition", u"totals always suppressed"};
-  return Joined(
-      {If(Flag(row, u"PR_QUERY_BREAK"), u"new cover page"), If(Flag(row, u"PR_PAGE_BREAK"), u"new page"),
-       If(Flag(row, u"PR_BREAK_AREA"), u"new block"), hierarchy, Text(sums[NoSumsFromCell(RawText(row, u"NOSUMS"))])},
-      u"; ");
+  const Text sums[] = {
+      {}, TranslatedText("totals suppressed on condition"), TranslatedText("totals always suppressed")};
+  return Joined({If(Flag(row, u"PR_QUERY_BREAK"), WordFor(u"ID_PRN_QUERYBREAK", "new cover page")),
+                 If(Flag(row, u"PR_PAGE_BREAK"), WordFor(u"ID_PRN_PAGEBREAK", "new page")),
+                 If(Flag(row, u"PR_BREAK_AREA"), WordFor(u"ID_PRN_BREAKAREA", "new block")), hierarchy,
+                 sums[NoSumsFromCell(RawText(row, u"NOSUMS"))]},
+                u"; ");
 }
 
 /// Lines of cells, with columns as wide as their widest cell.
@@ -139,35 +146,45 @@ Text Numbered(std::size_t indent, std::size_t number, const Text& name) {
 }
 
 void ShowPage(const Row& row, Grid& grid) {
-  const auto line = [&](TextView what, const Text& value) {
-    if (!value.empty()) grid.Line({u"  " + Text(what), value});
+  const auto line = [&](const Text& what, const Text& value) {
+    if (!value.empty()) grid.Line({u"  " + what, value});
   };
-  const auto margin = [&](TextView side, TextView column) {
+  const auto margin = [&](const Text& side, TextView column) {
     const int size = Number(row, column);
-    return If(size != 0, Text(side) + u" " + Digits(size));
+    return If(size != 0, side + u" " + Digits(size));
   };
   const auto code = [&](TextView column) { return RawText(row, column); };
-  static constexpr TextView directions[] = {u"horizontal", u"vertical"};
-  static constexpr TextView sums[] = {u"top left", u"bottom right"};
+  const Text directions[] = {WordFor(u"ID_PRN_HORIZONTAL", "horizontal"), WordFor(u"ID_PRN_VERTICAL", "vertical")};
+  const Text sums[] = {WordFor(u"ID_PRN_SUMPOSIT_1", "top left"), WordFor(u"ID_PRN_SUMPOSIT_2", "bottom right")};
   static constexpr TextView signs[] = {u"-X", u"X-", u"(X)"};
-  static constexpr TextView units[] = {u"left of the value", u"right of the value", u"in the heading",
-                                       u"not displayed"};
+  const Text units[] = {WordFor(u"ID_PRN_CURUNITPOS_1", "left of the value"),
+                        WordFor(u"ID_PRN_CURUNITPOS_2", "right of the value"), TranslatedText("in the heading"),
+                        WordFor(u"ID_PRN_CURUNITPOS_4", "not displayed")};
+  const Text limit = PageLimit(row);
+  const Text pages = limit == u"1" ? TranslatedText("{0} page") : TranslatedText("{0} pages");
 
-  grid.Heading({u"Page"});
-  line(u"Title", LineText(row, u"TITLE"));
-  line(u"Page order", Text(directions[DirectionFromCell(code(u"PRINT_DIRECTION"))]));
-  line(u"At most", PageLimit(row));
-  line(u"Margins", Joined({margin(u"top", u"MARGIN_TOP"), margin(u"bottom", u"MARGIN_BOTTOM"),
-                           margin(u"left", u"MARGIN_LEFT"), margin(u"right", u"MARGIN_RIGHT")}));
-  line(u"Totals", Text(sums[SumPositFromCell(code(u"SUMPOSIT"))]));
-  line(u"Signs", Text(signs[SignPrsntFromCell(code(u"SIGNPRSNT"))]));
-  line(u"Currency and unit", Text(units[CurUnitPositionFromCell(code(u"CURUNITPOSITION"))]));
-  line(u"Options", Joined({If(Flag(row, u"HIDE_ZERO"), u"no zeros"), If(Flag(row, u"NOMULTTXT"), u"no repeated texts"),
-                           If(Flag(row, u"NO_LINES"), u"no lines"), If(Flag(row, u"USE_COLORS"), u"colored headers")}));
+  grid.Heading({TranslatedText("Page")});
+  line(WordFor(u"ID_PRN_PRINTTITLE", "Title"), LineText(row, u"TITLE"));
+  line(WordFor(u"ID_PRN_PRINTDIRECTION", "Page order"), directions[DirectionFromCell(code(u"PRINT_DIRECTION"))]);
+  line(WordFor(u"ID_PRN_MAXPAGES", "At most"), If(!limit.empty(), Filled(pages, {limit})));
+  line(WordFor(u"ID_PRN_PAGEMARGINS", "Margins"),
+       Joined({margin(WordFor(u"ID_PRN_MARGINTOP", "top"), u"MARGIN_TOP"),
+               margin(WordFor(u"ID_PRN_MARGINBOTTOM", "bottom"), u"MARGIN_BOTTOM"),
+               margin(WordFor(u"ID_PRN_MARGINLEFT", "left"), u"MARGIN_LEFT"),
+               margin(WordFor(u"ID_PRN_MARGINRIGHT", "right"), u"MARGIN_RIGHT")}));
+  line(WordFor(u"ID_PRN_SUMPOSIT", "Totals"), sums[SumPositFromCell(code(u"SUMPOSIT"))]);
+  line(WordFor(u"ID_PRN_SIGNPRSNT", "Signs"), Text(signs[SignPrsntFromCell(code(u"SIGNPRSNT"))]));
+  line(WordFor(u"ID_PRN_CURUNITPOS", "Currency and unit"), units[CurUnitPositionFromCell(code(u"CURUNITPOSITION"))]);
+  line(TranslatedText("Options"),
+       Joined({If(Flag(row, u"HIDE_ZERO"), WordFor(u"ID_DLG_CHK_SUPPRESSZEROS", "no zeros")),
+               If(Flag(row, u"NOMULTTXT"), WordFor(u"ID_PRN_NOMULTTEXTS", "no repeated texts")),
+               If(Flag(row, u"NO_LINES"), WordFor(u"ID_PRN_NOLINES", "no lines")),
+               If(Flag(row, u"USE_COLORS"), WordFor(u"ID_PRN_USECOLORS", "colored headers"))}));
 }
 
 void ShowCharacteristics(std::span<const Owner> characteristics, Grid& grid) {
-  grid.Heading({u"Print characteristics", u"Title", u"Column 1", u"Column 2"});
+  grid.Heading({WordFor(u"ID_PRN_CHARPRINT", "Print characteristics"), WordFor(u"ID_PRN_COLTITLE", "Title"),
+                WordFor(u"ID_PRN_COL1", "Column 1"), WordFor(u"ID_PRN_COL2", "Column 2")});
   std::size_t number = 0;
   const auto line = [&](std::size_t indent, std::size_t itemNumber, const Text& name, const Row& row) {
     const Columns columns = ColumnsOf(row);
@@ -181,22 +198,23 @@ void ShowCharacteristics(std::span<const Owner> characteristics, Grid& grid) {
       line(6, ++attributeNumber, AttributeName(*attribute), *attribute);
     }
   }
-  if (number == 0) grid.Detail(u"  none");
+  if (number == 0) grid.Detail(u"  " + TranslatedText("none"));
 }
 
 void ShowStructure(const Owner& structure, Grid& grid) {
-  grid.Heading({OwnerName(*structure.row), u"Title", u"Column"});
+  grid.Heading({OwnerName(*structure.row), WordFor(u"ID_PRN_COLTITLE", "Title"), TranslatedText("Column")});
   std::size_t number = 0;
   for (const RowRef& element : structure.printed) {
     grid.Line({Numbered(2, ++number, ElementName(*element)), LineText(*element, u"PR_COL1_HEADER"),
                Placing(*element, u"PR_COL1_ALIGN", u"PR_COL1_WIDTH")});
   }
-  if (number == 0) grid.Detail(u"  none");
+  if (number == 0) grid.Detail(u"  " + TranslatedText("none"));
 }
 
 /// The names of what hangs below each owner and is not printed, a line for each.
-void ShowHidden(TextView what, const std::vector<std::pair<Text, Rows>>& owners, Text (*name)(const Row&), Grid& grid) {
-  Text label = u"  " + Text(what);
+void ShowHidden(const Text& what, const std::vector<std::pair<Text, Rows>>& owners, Text (*name)(const Row&),
+                Grid& grid) {
+  Text label = u"  " + what;
   for (const auto& [owner, rows] : owners) {
     std::vector<Text> names;
     for (const RowRef& row : rows) names.push_back(name(*row));
@@ -250,10 +268,10 @@ void Show(const Snapshot& readBack, bool color, std::ostream& out) {
   for (const Owner& owner : structures) elements.emplace_back(OwnerName(*owner.row), owner.hidden);
 
   Grid rest(color, out);
-  ShowHidden(u"Characteristics", {{Text(), hidden}}, OwnerName, rest);
-  ShowHidden(u"Attributes", attributes, AttributeName, rest);
-  ShowHidden(u"Structure elements", elements, ElementName, rest);
-  rest.PrintBelow(u"Not printed");
+  ShowHidden(WordFor(u"ID_PRN_CHAR", "Characteristics"), {{Text(), hidden}}, OwnerName, rest);
+  ShowHidden(WordFor(u"ID_PRN_ATTR", "Attributes"), attributes, AttributeName, rest);
+  ShowHidden(TranslatedText("Structure elements"), elements, ElementName, rest);
+  rest.PrintBelow(TranslatedText("Not printed"));
 }
 
 void Show(const std::string& path, bool color, std::ostream& out) {

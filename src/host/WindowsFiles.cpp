@@ -148,6 +148,13 @@ class TemporaryFile {
 
 bool IsTerminal(std::FILE* stream) { return ::_isatty(::_fileno(stream)) != 0; }
 
+std::string SystemLanguage() {
+  wchar_t language[9] = L"";
+  ::GetLocaleInfoW(MAKELCID(::GetUserDefaultUILanguage(), SORT_DEFAULT), LOCALE_SISO639LANGNAME, language, 9);
+  const std::wstring_view name(language);
+  return {name.begin(), name.end()};
+}
+
 std::string ReadFile(const std::string& path) {
   const bool standard = path == kStandardStream;
   const Handle opened(standard ? INVALID_HANDLE_VALUE : Open(Wide(path), GENERIC_READ));

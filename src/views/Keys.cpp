@@ -4,6 +4,8 @@
 #include <cstdlib>
 #include <utility>
 
+#include "views/Translation.h"
+
 namespace ORXKMPrintProp::views {
 namespace {
 
@@ -203,50 +205,50 @@ std::optional<std::int16_t> TabOf(const SSTab& tabs, const KeyPress& press, bool
   return {};
 }
 
-std::span<const KeyRow> KeyTable() {
+std::vector<KeyRow> KeyTable() {
   using enum KeyRow::Place;
-  static constexpr KeyRow kRows[] = {
-      {Dialog, "Tab and Shift+Tab", "lead to the next field and to the one before"},
-      {Dialog, "Ctrl+Tab and Ctrl+PgDown", "bring the next page to the top"},
-      {Dialog, "Ctrl+Shift+Tab and Ctrl+PgUp", "bring the page before to the top"},
-      {Tabs, "Arrows, Home and End", "bring another page to the top"},
-      {AnyList, "Arrows, PgUp, PgDown, Home and End", "lead to another entry"},
-      {AnyList, "Letters", "lead to the entry that begins with them"},
-      {ListOfSeveral, "Space", "selects the entry, or takes it out of the selection"},
-      {ListOfSeveral, "Shift with arrows, PgUp, PgDown, Home and End", "selects all entries on the way"},
-      {ListOfSeveral, "Ctrl+A", "selects all entries"},
-      {ListOfSeveral, "Ctrl+Shift+A", "takes all entries out of the selection"},
-      {PrintList, "Alt+Up and Alt+Down", "move the entry up and down in the print order"},
-      {ComboBox, "Up, Down, Home and End", "pick another entry"},
-      {ComboBox, "Letters", "pick the entry that begins with them"},
-      {ComboBox, "F4 and Alt+Down", "open the list"},
-      {Button, "Space and Enter", "press the button"},
-      {CheckBox, "Space", "ticks the box, or takes the tick out"},
+  return {
+      {Dialog, Translated("Tab and Shift+Tab"), Translated("lead to the next field and to the one before")},
+      {Dialog, Translated("Ctrl+Tab and Ctrl+PgDown"), Translated("bring the next page to the top")},
+      {Dialog, Translated("Ctrl+Shift+Tab and Ctrl+PgUp"), Translated("bring the page before to the top")},
+      {Tabs, Translated("Arrows, Home and End"), Translated("bring another page to the top")},
+      {AnyList, Translated("Arrows, PgUp, PgDown, Home and End"), Translated("lead to another entry")},
+      {AnyList, Translated("Letters"), Translated("lead to the entry that begins with them")},
+      {ListOfSeveral, Translated("Space"), Translated("selects the entry, or takes it out of the selection")},
+      {ListOfSeveral, Translated("Shift with arrows, PgUp, PgDown, Home and End"),
+       Translated("selects all entries on the way")},
+      {ListOfSeveral, Translated("Ctrl+A"), Translated("selects all entries")},
+      {ListOfSeveral, Translated("Ctrl+Shift+A"), Translated("takes all entries out of the selection")},
+      {PrintList, Translated("Alt+Up and Alt+Down"), Translated("move the entry up and down in the print order")},
+      {ComboBox, Translated("Up, Down, Home and End"), Translated("pick another entry")},
+      {ComboBox, Translated("Letters"), Translated("pick the entry that begins with them")},
+      {ComboBox, Translated("F4 and Alt+Down"), Translated("open the list")},
+      {Button, Translated("Space and Enter"), Translated("press the button")},
+      {CheckBox, Translated("Space"), Translated("ticks the box, or takes the tick out")},
   };
-  return kRows;
 }
 
-const char* WordsOf(KeyRow::Place place) {
+std::string WordsOf(KeyRow::Place place) {
   using enum KeyRow::Place;
   switch (place) {
     case Dialog:
-      return "in the whole dialog";
+      return Translated("in the whole dialog");
     case Tabs:
-      return "on the tabs";
+      return Translated("on the tabs");
     case AnyList:
-      return "in a list";
+      return Translated("in a list");
     case ListOfSeveral:
-      return "in a list of entries to select";
+      return Translated("in a list of entries to select");
     case PrintList:
-      return "in a list of what is printed";
+      return Translated("in a list of what is printed");
     case ComboBox:
-      return "in a box with a list";
+      return Translated("in a box with a list");
     case Button:
-      return "on a button";
+      return Translated("on a button");
     case CheckBox:
-      return "on a check box";
+      return Translated("on a check box");
   }
-  return "";
+  return {};
 }
 
 std::string KeysSpoken(const ListBox& list) {
@@ -257,7 +259,7 @@ std::string KeysSpoken(const ListBox& list) {
   for (const KeyRow& row : KeyTable()) {
     const bool isMeant = IsOfSeveral(list) ? row.place == ListOfSeveral || (row.place == PrintList && isReordered)
                                            : row.place == AnyList;
-    if (isMeant) spoken += (spoken.empty() ? "" : " ") + std::string(row.keys) + " " + row.does + ".";
+    if (isMeant) spoken += (spoken.empty() ? "" : " ") + row.keys + " " + row.does + ".";
   }
   return spoken;
 }

@@ -4,7 +4,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -67,17 +66,17 @@ std::optional<std::int16_t> PickOf(const ComboBox& combo, const KeyPress& press,
 /// tabs themselves also the arrows, Home and End.
 std::optional<std::int16_t> TabOf(const SSTab& tabs, const KeyPress& press, bool isOnTabs);
 
-/// For a person, in English: "Space" "selects the entry, ...".
+/// For a person, in the program's language: "Space" "selects the entry, ...".
 struct KeyRow {
   enum class Place { Dialog, Tabs, AnyList, ListOfSeveral, PrintList, ComboBox, Button, CheckBox };
 
   Place place;
-  const char* keys;
-  const char* does;
+  std::string keys;
+  std::string does;
 };
-std::span<const KeyRow> KeyTable();
+std::vector<KeyRow> KeyTable();
 /// Where these keys are for: "in the whole dialog", "in a list".
-const char* WordsOf(KeyRow::Place place);
+std::string WordsOf(KeyRow::Place place);
 
 /// What is particular about the keys of a list, in a sentence each, for a screen reader.
 std::string KeysSpoken(const ListBox& list);

@@ -26,7 +26,7 @@ std::string TextOf(const PageSketch& sketch) {
   text += std::string(sketch.colored ? ", colored" : "") + (sketch.ruled ? ", ruled" : "") + "\n";
   for (std::size_t id = 0; id < sketch.layouts.size(); ++id) {
     if (sketch.layouts[id].empty()) continue;
-    text += ToUtf8(kPageLayoutNames[id]) + ":";
+    text += ToUtf8(PageLayoutName(id)) + ":";
     for (const Text& line : sketch.layouts[id]) text += "|" + ToUtf8(line);
     text += "\n";
   }

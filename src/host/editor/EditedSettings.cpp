@@ -11,11 +11,15 @@
 #include "host/Load.h"
 #include "host/Terminal.h"
 #include "host/Utf8.h"
+#include "host/Words.h"
 #include "host/editor/NewSettings.h"
 #include "tables/RunTimeError.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
+
+using views::Filled;
+using views::Translated;
 
 /// @throws LoadError
 std::vector<std::string> LossesOf(const SettingsDocument& document) {
@@ -26,9 +30,10 @@ std::vector<std::string> LossesOf(const SettingsDocument& document) {
     for (const Change& change : table.changes) {
       const bool isLayout = change.kind == ChangeKind::LayoutEmptied;
       if (!change.loss || (isLayout && (!isDimension || kept.contains(change.row)))) continue;
-      std::string line = std::string(table.table) + ", row " + std::to_string(change.row);
-      if (!change.column.empty()) line += ", column " + ToUtf8(change.column);
-      line += ": " + (isLayout ? "only the first characteristic of a name keeps its layout" : change.reason);
+      std::string line = Filled(Translated("{0}, row {1}"), {table.table, std::to_string(change.row)});
+      if (!change.column.empty()) line = Filled(Translated("{0}, column {1}"), {line, ToUtf8(change.column)});
+      line += ": ";
+      line += isLayout ? Translated("only the first characteristic of a name keeps its layout") : change.reason;
       losses.push_back(OneLine(line));
     }
   }
@@ -153,7 +158,8 @@ void EditedSettings::CheckRestorable(const Snapshot& readBack) {
     isSame = IsSame(SnapshotOf(copy), readBack);
   }
   if (!isSame) {
-    throw RunTimeError(ErrorKind::Table, u"Names that stand more than once in the settings can't be told apart.");
+    throw RunTimeError(ErrorKind::Table,
+                       TranslatedText("Names that stand more than once in the settings can't be told apart."));
   }
 }
 

@@ -13,9 +13,13 @@
 #include "host/editor/StatusMessage.h"
 #include "tables/RunTimeError.h"
 #include "views/SpokenName.h"
+#include "views/Translation.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
+
+using views::Filled;
+using views::Translated;
 
 std::string Joined(std::span<const std::string> lines, const char* separator) {
   std::string joined;
@@ -29,6 +33,8 @@ bool IsField(const Widget& widget) {
 }
 
 }  // namespace
+
+std::string ProgramName() { return Translated("Print settings"); }
 
 Editor::Editor(EditedSettings& settings, EditorWindow& window) : settings_(settings), window_(window) {
   Begin();
@@ -58,7 +64,7 @@ bool Editor::Open() {
 
 bool Editor::OpenRecent(const std::string& file) {
   if (StampOf(file) != FileStamp{}) return Open(file);
-  Tell("The file is no longer there.", file);
+  Tell(Translated("The file is no longer there."), file);
   window_.Remember(Without(window_.Remembered(), file));
   return false;
 }
@@ -67,7 +73,7 @@ bool Editor::OpenInPlace(const EditOptions& options) {
   try {
     settings_.Open(ToEdit(options));
   } catch (const std::exception& error) {
-    Tell("The file could not be opened.", error.what());
+    Tell(Translated("The file could not be opened."), error.what());
     return false;
   }
   Begin();
@@ -87,9 +93,11 @@ void Editor::RememberFile() {
 
 std::string Editor::Title(std::string_view modified) const {
   const Text name = std::filesystem::path(FromUtf8(settings_.Target())).filename().u16string();
-  return (name.empty() ? "Untitled" : ToUtf8(name)) + std::string(modified) +
-         (settings_.IsReadOnly() ? " (read-only)" : "") + " - Print settings";
+  return (name.empty() ? Translated("Untitled") : ToUtf8(name)) + std::string(modified) +
+         (settings_.IsReadOnly() ? " " + Translated("(read-only)") : "") + " - " + ProgramName();
 }
+
+void Editor::OnFailed(const std::string& why) { Tell(Translated("That could not be done."), why); }
 
 void Editor::Show() {
   RememberFile();
@@ -192,7 +200,7 @@ void Editor::Revert() {
   target.page = std::make_shared<PageContent>(std::move(place));
   target.notes.clear();
   if (!GoTo(target)) return;
-  steps_.Add({.before = before, .after = now_, .name = "Revert"});
+  steps_.Add({.before = before, .after = now_, .name = Translated("Revert")});
   ShowState();
 }
 
@@ -206,7 +214,7 @@ bool Editor::GoTo(const Moment& moment) {
     try {
       EditedSettings::CheckRestorable(*moment.host.tables);
     } catch (const RunTimeError& error) {
-      Tell("That can't be undone.", ToUtf8(error.Message()));
+      Tell(Translated("That can't be undone."), ToUtf8(error.Message()));
       return false;
     }
     // Ahead of the load: the page that is left is stored.
@@ -258,7 +266,7 @@ bool Editor::Read() {
   try {
     settings_.Read();
   } catch (const RunTimeError& error) {
-    Tell("The settings can't be read back.", ToUtf8(error.Message()));
+    Tell(Translated("The settings can't be read back."), ToUtf8(error.Message()));
     return false;
   }
   now_.host = settings_.Host();
@@ -308,7 +316,7 @@ void Editor::ShowState() {
 
 std::string Editor::ProtectionNote() const {
   const std::string& why = settings_.Protection();
-  return why.empty() ? "" : "Opened read-only, since it could not be saved. " + why;
+  return why.empty() ? "" : Translated("Opened read-only, since it could not be saved.") + " " + why;
 }
 
 bool Editor::Accept() { return isDone_ = Save(); }
@@ -348,20 +356,21 @@ bool Editor::SaveElsewhere() {
 }
 
 bool Editor::SaveIn(const std::string& file) {
-  static constexpr const char* kFailed = "The settings could not be saved.";
+  const auto fail = [this](const std::string& why) {
+    Tell(Translated("The settings could not be saved."), why);
+    return false;
+  };
   try {
     settings_.SaveIn(file);
   } catch (const DocumentError& error) {
-    Tell(kFailed, error.what());
-    return false;
+    return fail(error.what());
   } catch (const RunTimeError& error) {
-    Tell(kFailed, ToUtf8(error.Message()));
-    return false;
+    return fail(ToUtf8(error.Message()));
   }
   now_.host = settings_.Host();
   DropNotes();
   saved_ = now_;
-  message_ = {"Saved"};
+  message_ = {Translated("Saved")};
   Show();
   return true;
 }
@@ -370,9 +379,9 @@ void Editor::Reload() {
   try {
     settings_.Reload();
   } catch (const std::exception& error) {
-    return Tell("The file could not be loaded again.", error.what());
+    return Tell(Translated("The file could not be loaded again."), error.what());
   }
-  BeginStep(nullptr, "Reload");
+  BeginStep(nullptr, Translated("Reload"));
   now_.notes.clear();
   EndStep(ContentOf(GetDialog()));
   now_.readNumber = now_.number;
@@ -382,7 +391,8 @@ void Editor::Reload() {
 }
 
 bool Editor::AcceptsFields() {
-  return now_.notes.empty() || AcceptsSave("Not everything is stored as it was typed.", Joined(LinesOfNotes(), "\n"));
+  return now_.notes.empty() ||
+         AcceptsSave(Translated("Not everything is stored as it was typed."), Joined(LinesOfNotes(), "\n"));
 }
 
 bool Editor::AcceptsLosses() {
@@ -390,9 +400,9 @@ bool Editor::AcceptsLosses() {
   std::vector<std::string> lines;
   for (const std::string& loss : settings_.Losses()) lines.push_back("\u2022 " + loss);
   if (lines.empty()) return true;
-  const std::string count = lines.size() == 1
-                                ? "One thing that the file says can't be kept."
-                                : std::to_string(lines.size()) + " things that the file says can't be kept.";
+  const std::string count = lines.size() == 1 ? Translated("One thing that the file says can't be kept.")
+                                              : Filled(Translated("{0} things that the file says can't be kept."),
+                                                       {std::to_string(lines.size())});
   const std::string all = Joined(lines, "\n");
   if (lines.size() <= kShown) return AcceptsSave(count, all);
   return AcceptsSave(count, Joined(std::span(lines).first(kShown), "\n") + "\n\u2026", all);
@@ -402,13 +412,13 @@ Choice Editor::ChoiceOnOvertaking() {
   while (settings_.IsTargetOvertaken()) {
     Question question{
         .kind = Question::Kind::Warning,
-        .text = "The file has changed since it was opened.",
-        .further = "A save would replace what now stands in " + settings_.Target() + ".",
+        .text = Translated("The file has changed since it was opened."),
+        .further = Filled(Translated("A save would replace what now stands in {0}."), {settings_.Target()}),
         .choices = {Choice::Reload, Choice::SaveAs, Choice::ShowDifferences, Choice::SaveAllTheSame, Choice::Cancel},
         .preset = Choice::Cancel};
     if (!settings_.IsTargetThere()) {
-      question.text = "The file is gone since it was opened.";
-      question.further = "A save would make " + settings_.Target() + " anew.";
+      question.text = Translated("The file is gone since it was opened.");
+      question.further = Filled(Translated("A save would make {0} anew."), {settings_.Target()});
       question.choices = {Choice::SaveAs, Choice::SaveAllTheSame, Choice::Cancel};
     }
     const Choice choice = window_.Ask(question);
@@ -423,13 +433,14 @@ void Editor::ShowDifferences() {
   try {
     const auto file = SettingsOf(ReadSettings(settings_.Target()));
     const auto now = SettingsOf(DocumentOf(settings_.Now()));
-    lines = LinesOf(DifferencesOf(*file, *now, WordsBesideCaptions(UserLanguage())));
+    lines = LinesOf(DifferencesOf(*file, *now, DifferenceWordsIn(views::CurrentLanguage().code)));
   } catch (const std::exception& error) {
-    return Tell("The file can't be compared.", error.what());
+    return Tell(Translated("The file can't be compared."), error.what());
   }
   constexpr std::size_t kShown = 15;
   Question told{.kind = Question::Kind::Information,
-                .text = lines.empty() ? "The settings say the same as the file." : "A save changes this in the file:",
+                .text = lines.empty() ? Translated("The settings say the same as the file.")
+                                      : Translated("A save changes this in the file:"),
                 .further = Joined(lines, "\n")};
   if (lines.size() > kShown) {
     told.details = std::exchange(told.further, Joined(std::span(lines).first(kShown), "\n") + "\n\u2026");
@@ -452,12 +463,12 @@ void Editor::TellChanges(Question& question) const {
   constexpr std::size_t kFew = 6;
   std::vector<std::string> lines;
   try {
-    lines = LinesOf(DifferencesOf(settings_.File(), settings_.Now(), WordsBesideCaptions(UserLanguage())));
+    lines = LinesOf(DifferencesOf(settings_.File(), settings_.Now(), DifferenceWordsIn(views::CurrentLanguage().code)));
   } catch (const std::exception&) {
     // The question is asked all the same.
   }
   if (lines.empty()) return;
-  lines.insert(lines.begin(), "What has changed:");
+  lines.insert(lines.begin(), Translated("What has changed:"));
   std::string& place = lines.size() <= kFew ? question.further : question.details;
   place += (place.empty() ? "" : "\n\n") + Joined(lines, "\n");
 }
@@ -465,8 +476,10 @@ void Editor::TellChanges(Question& question) const {
 bool Editor::MayClose() {
   if (isDone_ || (Read() && !settings_.IsChanged())) return true;
   Question question{.kind = Question::Kind::Question,
-                    .text = "The settings have changed.",
-                    .further = settings_.Target().empty() ? "Save them?" : "Save them in " + settings_.Target() + "?",
+                    .text = Translated("The settings have changed."),
+                    .further = settings_.Target().empty()
+                                   ? Translated("Save them?")
+                                   : Filled(Translated("Save them in {0}?"), {settings_.Target()}),
                     .choices = {Choice::Save, Choice::Discard, Choice::Cancel},
                     .preset = Choice::Save};
   TellChanges(question);

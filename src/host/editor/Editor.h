@@ -13,9 +13,12 @@
 
 namespace ORXKMPrintProp::host {
 
+/// As the titles of its windows have it.
+std::string ProgramName();
+
 enum class Choice { Ok, Save, Discard, Reload, SaveAs, ShowDifferences, SaveAllTheSame, Cancel };
 
-/// What a message box tells or asks; all of it is plain text in UTF-8.
+/// What a message box tells or asks; all of it is plain text in UTF-8, in the current language.
 struct Question {
   enum class Kind { Failure, Warning, Question, Information };
 
@@ -97,7 +100,7 @@ class Editor : private ORXQueryPrnPropEvents {
   /// the mouse are, and read the tables.
   void OnUsed(const Widget& widget);
   /// An operation of the user has failed. @param why one line
-  void OnFailed(const std::string& why) { Tell("That could not be done.", why); }
+  void OnFailed(const std::string& why);
 
   // Where there is nothing to undo, to do again, or to go back from, and while an entry is dragged, nothing happens.
 

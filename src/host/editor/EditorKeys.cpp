@@ -1,38 +1,42 @@
 #include "host/editor/EditorKeys.h"
 
-#include <iterator>
+#include <initializer_list>
 
 #include "views/Keys.h"
+#include "views/Translation.h"
 
 namespace ORXKMPrintProp::host {
-namespace {
 
-constexpr EditorKey kOfEveryWindow[] = {
-    {"in the window", "Enter", "saves and closes, as OK does"},
-    {"in the window", "Escape", "closes, as Cancel does"},
-    {"in the window", "Ctrl+S", "saves, as Apply does"},
-    {"in the window", "Ctrl+Shift+S", "saves in another file"},
-    {"in the window", "Ctrl+O", "opens another file"},
-    {"in the window", "Ctrl+N", "begins new settings"},
-    {"in the window", "Ctrl+Z", "takes the last change back"},
-    {"in the window", "Ctrl+Shift+Z and Ctrl+Y", "make it again"},
-    {"in the window", "F5", "reads the settings back"},
-    {"in the window", "F1", "shows all keys"},
-};
-constexpr EditorKey kWithPanel[] = {
-    {"in the window", "Ctrl+F", "finds an entry of the list at hand by any part of its text"},
-    {"in the field to find an entry", "Enter and F3", "find the next one"},
-    {"in the field to find an entry", "Escape", "goes back to the list"},
-    {"in the panel", "F8 and Shift+F8", "lead to the next cell that differs and to the one before"},
-    {"in the panel", "Ctrl++, Ctrl+- and Ctrl+0", "make the page larger, smaller and as wide as the panel"},
-    {"in the panel", "Arrows", "scroll the page"},
-};
-
-}  // namespace
+using views::Translated;
 
 std::vector<EditorKey> EditorKeys(bool withPanel) {
-  std::vector<EditorKey> keys(std::begin(kOfEveryWindow), std::end(kOfEveryWindow));
-  if (withPanel) keys.insert(keys.end(), std::begin(kWithPanel), std::end(kWithPanel));
+  const std::string window = Translated("in the window");
+  std::vector<EditorKey> keys{
+      {window, Translated("Enter"), Translated("saves and closes, as OK does")},
+      {window, Translated("Escape"), Translated("closes, as Cancel does")},
+      {window, Translated("Ctrl+S"), Translated("saves, as Apply does")},
+      {window, Translated("Ctrl+Shift+S"), Translated("saves in another file")},
+      {window, Translated("Ctrl+O"), Translated("opens another file")},
+      {window, Translated("Ctrl+N"), Translated("begins new settings")},
+      {window, Translated("Ctrl+Z"), Translated("takes the last change back")},
+      {window, Translated("Ctrl+Shift+Z and Ctrl+Y"), Translated("make it again")},
+      {window, "F5", Translated("reads the settings back")},
+      {window, "F1", Translated("shows all keys")},
+  };
+  if (withPanel) {
+    const std::string field = Translated("in the field to find an entry");
+    const std::string panel = Translated("in the panel");
+    const std::initializer_list<EditorKey> further{
+        {window, Translated("Ctrl+F"), Translated("finds an entry of the list at hand by any part of its text")},
+        {field, Translated("Enter and F3"), Translated("find the next one")},
+        {field, Translated("Escape"), Translated("goes back to the list")},
+        {panel, Translated("F8 and Shift+F8"), Translated("lead to the next cell that differs and to the one before")},
+        {panel, Translated("Ctrl++, Ctrl+- and Ctrl+0"),
+         Translated("make the page larger, smaller and as wide as the panel")},
+        {panel, Translated("Arrows"), Translated("scroll the page")},
+    };
+    keys.insert(keys.end(), further);
+  }
   for (const views::KeyRow& row : views::KeyTable()) keys.push_back({views::WordsOf(row.place), row.keys, row.does});
   return keys;
 }
@@ -44,7 +48,7 @@ std::string EditorKeysInLines(bool withPanel) {
       where = key.where;
       lines += where + ":\n";
     }
-    lines += std::string("  ") + key.keys + ": " + key.does + "\n";
+    lines += "  " + key.keys + ": " + key.does + "\n";
   }
   return lines;
 }

@@ -5,11 +5,11 @@
 
 namespace ORXKMPrintProp::host {
 
-/// For a person, in English: "in the window", "Ctrl+S", "saves, as Apply does".
+/// For a person, in the current language: "in the window", "Ctrl+S", "saves, as Apply does".
 struct EditorKey {
-  const char* where;
-  const char* keys;
-  const char* does;
+  std::string where;
+  std::string keys;
+  std::string does;
 };
 
 /// All keys of an editor: those of its window, and those of the dialog in it.

@@ -1,5 +1,7 @@
 #include "host/editor/LayoutText.h"
 
+#include "views/Translation.h"
+
 namespace ORXKMPrintProp::host {
 
 TextView LineEndOf(TextView text) { return text.find(u"\r\n") == TextView::npos ? u"\n" : u"\r\n"; }
@@ -20,8 +22,8 @@ Text WithLineEnds(TextView text, TextView lineEnd) {
 
 Question LayoutIsThrownAway() {
   return {.kind = Question::Kind::Question,
-          .text = "The layout has changed.",
-          .further = "Throw away what was typed?",
+          .text = views::Translated("The layout has changed."),
+          .further = views::Translated("Throw away what was typed?"),
           .choices = {Choice::Discard, Choice::Cancel},
           .preset = Choice::Cancel};
 }

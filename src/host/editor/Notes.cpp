@@ -4,6 +4,7 @@
 
 #include "host/Terminal.h"
 #include "host/Utf8.h"
+#include "host/Words.h"
 #include "views/SpokenName.h"
 
 namespace ORXKMPrintProp::host {
@@ -21,9 +22,10 @@ Text SubjectOf(const Dialog& dialog, const PageContent& shown) {
 }
 
 Text WordsOn(const Dialog& dialog, const PageContent& shown, const Field& field) {
-  const Text& text = field.text.empty() ? u"(empty)" : field.text;
-  return SubjectOf(dialog, shown) + views::SpokenName(dialog, *field.widget).Spoken() + u" " + text +
-         u" is no number up to 32767: " + *field.kept + u" kept";
+  const Text text = field.text.empty() ? TranslatedText("(empty)") : field.text;
+  return SubjectOf(dialog, shown) +
+         views::Filled(TranslatedText("{0} {1} is no number up to 32767: {2} kept"),
+                       {views::SpokenName(dialog, *field.widget).Spoken(), text, *field.kept});
 }
 
 bool IsOn(const Note& note, const Field& field, const PageContent& shown) {

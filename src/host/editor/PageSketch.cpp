@@ -13,12 +13,14 @@
 #include "host/Show.h"
 #include "host/Terminal.h"
 #include "host/Utf8.h"
+#include "host/Words.h"
 #include "tables/CellCodecs.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
 
 using namespace ModPrnGen;
+using views::Filled;
 
 /// The dialog sets no more breaks; a document may, and each brings lines of its own.
 constexpr std::size_t kMostGroups = 3;
@@ -73,8 +75,8 @@ class Sketcher {
     Page();
     Columns();
     NoteEveryPage();
-    NoteSums(PP_PRN_NOSUMS_ALWAYS, u"No totals of: ");
-    NoteSums(PP_PRN_NOSUMS_CONDITION, u"Totals on condition of: ");
+    NoteSums(PP_PRN_NOSUMS_ALWAYS, TranslatedText("No totals of: {0}"));
+    NoteSums(PP_PRN_NOSUMS_CONDITION, TranslatedText("Totals on condition of: {0}"));
     Lines();
     NoteLayouts();
     return std::move(sketch_);
@@ -90,23 +92,27 @@ class Sketcher {
     for (std::size_t id = 0; id < sketch_.layouts.size(); ++id) {
       sketch_.layouts[id] = LayoutLines(RawText(general_, kPageLayouts[id]), kMostLayoutLines);
     }
-    if (const Text limit = PageLimit(general_); !limit.empty()) sketch_.notes.push_back(u"At most " + limit);
+    if (const Text limit = PageLimit(general_); !limit.empty()) {
+      Note(WordFor(u"ID_PRN_MAXPAGES", "Maximal number of pages"), limit);
+    }
     NoteMargins();
     const bool isAcross = DirectionFromCell(RawText(general_, u"PRINT_DIRECTION")) == PP_PRN_DIR_HORIZONTAL;
-    sketch_.notes.push_back(isAcross ? u"Pages in horizontal order" : u"Pages in vertical order");
+    Note(WordFor(u"ID_PRN_PRINTDIRECTION", "Print direction"),
+         isAcross ? WordFor(u"ID_PRN_HORIZONTAL", "horizontal") : WordFor(u"ID_PRN_VERTICAL", "vertical"));
   }
 
   /// The sketch draws margins up to a size, and none below 0.
   void NoteMargins() {
-    static constexpr TextView sides[] = {u"top ", u"bottom ", u"left ", u"right "};
+    const Text sides[] = {WordFor(u"ID_PRN_MARGINTOP", "top"), WordFor(u"ID_PRN_MARGINBOTTOM", "bottom"),
+                          WordFor(u"ID_PRN_MARGINLEFT", "left"), WordFor(u"ID_PRN_MARGINRIGHT", "right")};
     std::vector<Text> words;
     bool areDrawn = true;
     for (std::size_t side = 0; side < std::size(sides); ++side) {
       const int margin = sketch_.margins[side];
       areDrawn = areDrawn && margin >= 0 && margin <= PageSketch::kMostMargin;
-      words.push_back(Text(sides[side]) + Digits(margin));
+      words.push_back(sides[side] + u" " + Digits(margin));
     }
-    if (!areDrawn) sketch_.notes.push_back(u"Margins: " + Joined(words));
+    if (!areDrawn) Note(WordFor(u"ID_PRN_PAGEMARGINS", "Margins"), Joined(words));
   }
 
   void Columns() {
@@ -147,9 +153,10 @@ class Sketcher {
   void AddTextColumns(const Row& row, Source source) {
     const auto [keyFirst, both] = PresentationOf(row);
     const auto add = [&](bool isKey, TextView title, TextView width, TextView align, TextView fix) {
-      SketchColumn column{.title = LineText(row, title),
-                          .what = isKey ? Text(u"key") : Text(u"description"),
-                          .everyPage = Flag(row, fix)};
+      SketchColumn column{
+          .title = LineText(row, title),
+          .what = isKey ? WordFor(u"ID_DLG_VALPRES_3", "key") : WordFor(u"ID_DLG_VALPRES_2", "description"),
+          .everyPage = Flag(row, fix)};
       if (column.title.empty()) column.title = source.name;
       Place(row, width, align, column);
       source.isKey = isKey;
@@ -162,28 +169,31 @@ class Sketcher {
   void NoteEveryPage() {
     const auto isOnEach = [](const SketchColumn& column) { return column.everyPage; };
     if (std::any_of(sketch_.columns.begin(), sketch_.columns.end(), isOnEach)) {
-      sketch_.notes.push_back(u"Columns with a thick line are on each page");
+      sketch_.notes.push_back(TranslatedText("Columns with a thick line are on each page"));
     }
   }
 
   /// The lines show the totals of a few characteristics only.
-  void NoteSums(PP_NoSums noSums, TextView words) {
-    NoteNames(words, [&](std::size_t level) { return NoSumsFromCell(RawText(*levels_[level], u"NOSUMS")) == noSums; });
+  void NoteSums(PP_NoSums noSums, const Text& sentence) {
+    NoteNames(sentence,
+              [&](std::size_t level) { return NoSumsFromCell(RawText(*levels_[level], u"NOSUMS")) == noSums; });
   }
 
   /// The lines have the totals rows of a few characteristics only.
   void NoteLayouts() {
-    NoteNames(u"Layouts of further totals rows: ",
+    NoteNames(TranslatedText("Layouts of further totals rows: {0}"),
               [&](std::size_t level) { return HasLayout(level) && !drawnLayouts_.contains(level); });
   }
 
+  void Note(const Text& what, const Text& value) { sketch_.notes.push_back(what + u": " + value); }
+
   template <class IsNamed>
-  void NoteNames(TextView words, IsNamed isNamed) {
+  void NoteNames(const Text& sentence, IsNamed isNamed) {
     std::vector<Text> names;
     for (std::size_t level = 0; level < levels_.size(); ++level) {
       if (isNamed(level)) names.push_back(OwnerName(*levels_[level]));
     }
-    if (const Text list = Joined(names, u"; "); !list.empty()) sketch_.notes.push_back(Text(words) + list);
+    if (const Text list = Joined(names, u"; "); !list.empty()) sketch_.notes.push_back(Filled(sentence, {list}));
   }
 
   void Add(SketchColumn column, Source source) {
@@ -208,7 +218,7 @@ class Sketcher {
       return true;
     };
     if (!add([&](std::size_t level) { return BreakBy(level).has_value(); })) {
-      sketch_.notes.push_back(u"There are more breaks than these");
+      sketch_.notes.push_back(TranslatedText("There are more breaks than these"));
     }
     add([&](std::size_t level) { return HasLayout(level); });
     if (groups.empty() && count > 1) groups.insert(0);
@@ -308,7 +318,8 @@ class Sketcher {
       std::size_t last = row;
       while (!begin && first > 0 && rows_[first].changed > level) --first;
       while (begin && last + 1 < rows_.size() && rows_[last + 1].changed > level) ++last;
-      AddSums(Text(noSums == PP_PRN_NOSUMS_CONDITION ? u"Total, on condition" : u"Total"), level, first, last);
+      const bool isOnCondition = noSums == PP_PRN_NOSUMS_CONDITION;
+      AddSums(isOnCondition ? TranslatedText("Total, on condition") : TranslatedText("Total"), level, first, last);
       AddLayout(level);
     }
   }
@@ -334,7 +345,7 @@ class Sketcher {
     return static_cast<std::size_t>(first - sources_.begin());
   }
 
-  void AddOverall() { AddSums(u"Overall total", 0, 0, rows_.size() - 1); }
+  void AddOverall() { AddSums(TranslatedText("Overall total"), 0, 0, rows_.size() - 1); }
 
   /// The words stand in the first column of the characteristic.
   void AddSums(const Text& words, std::size_t level, std::size_t first, std::size_t last) {
@@ -359,7 +370,7 @@ class Sketcher {
   Text NumberText(int number) const {
     if (number == 0 && Flag(general_, u"HIDE_ZERO")) return {};
     Text text = Digits(std::abs(number));
-    if (text.size() > 3) text.insert(text.size() - 3, 1, u',');
+    if (text.size() > 3) text.insert(text.size() - 3, TranslatedText(","));
     if (number < 0) {
       switch (SignPrsntFromCell(RawText(general_, u"SIGNPRSNT"))) {
         case PP_PRN_SIGN_PREFIX:
@@ -388,22 +399,40 @@ class Sketcher {
 
 }  // namespace
 
+Text PageLayoutName(std::size_t layout) {
+  switch (layout) {
+    case kTopPage:
+      return WordFor(u"ID_PRN_TOPPAGE", "Top page");
+    case kHeadPart:
+      return WordFor(u"ID_PRN_HEADPART", "Head part");
+    case kFootPart:
+      return WordFor(u"ID_PRN_FOOTPART", "Foot part");
+    default:
+      return WordFor(u"ID_PRN_ENDPAGE", "End page");
+  }
+}
+
+Text BreakName(SketchLineKind kind) {
+  return kind == SketchLineKind::CoverPage ? WordFor(u"ID_PRN_QUERYBREAK", "new cover page")
+         : kind == SketchLineKind::NewPage ? WordFor(u"ID_PRN_PAGEBREAK", "new page")
+                                           : WordFor(u"ID_PRN_BREAKAREA", "new block");
+}
+
 PageSketch SketchOf(const Snapshot& readBack) { return Sketcher(readBack).Draw(); }
 
 std::string WordsOf(const Snapshot& readBack) {
   std::ostringstream words;
   Show(readBack, false, words);
-  const char* heading = "\nLayouts\n";
+  std::string heading = "\n" + views::Translated("Layouts") + "\n";
   const auto add = [&](const Text& what, const Text& layout) {
     const Text text = Joined(LayoutLines(layout, kMostLayoutLines), u" ");
-    if (!layout.empty()) words << std::exchange(heading, "") << "  " << ToUtf8(what) << ": " << ToUtf8(text) << "\n";
+    if (!layout.empty()) words << std::exchange(heading, {}) << "  " << ToUtf8(what) << ": " << ToUtf8(text) << "\n";
   };
   const Row& general = *readBack.General().rows.at(0);
-  for (std::size_t id = 0; id < std::size(kPageLayoutNames); ++id) {
-    add(Text(kPageLayoutNames[id]), RawText(general, kPageLayouts[id]));
-  }
+  for (std::size_t id = 0; id < kPageLayoutCount; ++id) add(PageLayoutName(id), RawText(general, kPageLayouts[id]));
   for (const RowRef& row : readBack.Dimension().rows) {
-    if (IsPrinted(*row)) add(u"Totals row of " + OwnerName(*row), RawText(*row, kTotalsLayout));
+    if (!IsPrinted(*row)) continue;
+    add(Filled(TranslatedText("Totals row of {0}"), {OwnerName(*row)}), RawText(*row, kTotalsLayout));
   }
   return words.str();
 }

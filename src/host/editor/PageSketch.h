@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -11,7 +12,9 @@ namespace ORXKMPrintProp::host {
 
 /// The layouts of the page, by their buttons' IDs.
 enum PageLayout { kTopPage, kHeadPart, kFootPart, kEndPage };
-inline constexpr TextView kPageLayoutNames[] = {u"Top page", u"Head part", u"Foot part", u"End page"};
+inline constexpr std::size_t kPageLayoutCount = 4;
+/// As their buttons are called.
+Text PageLayoutName(std::size_t layout);
 
 /// A column of the printed page.
 struct SketchColumn {
@@ -25,6 +28,9 @@ struct SketchColumn {
 
 /// `TotalsLayout` has the layout of the totals row above it, in the column in which the row's words stand.
 enum class SketchLineKind { CoverPage, NewPage, NewBlock, Values, Totals, TotalsLayout };
+
+/// What a break of that kind is called.
+Text BreakName(SketchLineKind kind);
 
 struct SketchLine {
   SketchLineKind kind = SketchLineKind::Values;
@@ -41,17 +47,18 @@ struct PageSketch {
   std::array<int, 4> margins{};  ///< top, bottom, left, right
   bool colored = false;          ///< the headings
   bool ruled = true;             ///< lines between the cells
-  /// The lines of the page's layouts, in the order of `kPageLayoutNames`; no lines where none is set.
-  std::array<std::vector<Text>, std::size(kPageLayoutNames)> layouts;
+  /// The lines of the page's layouts, by `PageLayout`; no lines where none is set.
+  std::array<std::vector<Text>, kPageLayoutCount> layouts;
   std::vector<SketchColumn> columns;
   std::vector<SketchLine> lines;
   std::vector<Text> notes;  ///< what a single page can't show
 };
 
-/// Computed from the tables as the control gives them back, and nothing else.
+/// Computed from the tables as the control gives them back, and nothing else. The words are those of the text table in
+/// use, and where it has none ours in the language that the program speaks.
 PageSketch SketchOf(const Snapshot& readBack);
 
-/// The page in words, lines in UTF-8: what `prnprop show` prints, and the layouts.
+/// The page in such words, lines in UTF-8: what `prnprop show` prints, and the layouts.
 std::string WordsOf(const Snapshot& readBack);
 
 }  // namespace ORXKMPrintProp::host

@@ -5,18 +5,21 @@
 #include "host/PrintRows.h"
 #include "host/Terminal.h"
 #include "host/Utf8.h"
+#include "host/Words.h"
 #include "model/PrnCharCls.h"
 #include "views/SpokenName.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
 
+using views::Filled;
+
 std::string Line(TextView words) { return ToUtf8(OneLine(words)); }
 
-/// "no page", "new block at Month"; in another language the caption and the entry as they are.
+/// "no page", "new block at Month"; in another language, or of captions in one, the caption and the entry as they are.
 Text WordsOnBreak(const Text& caption, const PageContent::Field& selector) {
   constexpr TextView kNew = u"New ";
-  if (!caption.starts_with(kNew)) return caption + u": " + selector.text;
+  if (views::CurrentLanguage().code != "en" || !caption.starts_with(kNew)) return caption + u": " + selector.text;
   const Text what = caption.substr(kNew.size());
   return selector.number == 0 ? u"no " + what : u"new " + what + u" at " + selector.text;
 }
@@ -34,8 +37,9 @@ std::vector<std::string> WordsOnOrder(const Dialog& dialog, const Widget& used, 
   if (former.page != now.page) return words;
   const ListBox* const print = PrintListOf(dialog, now.page);
   if (&used == print && print->ListIndex() >= 0) {
-    words.push_back(Line(print->List(print->ListIndex()) + u" is now " + Digits(print->ListIndex() + 1) + u" of " +
-                         Digits(print->ListCount())));
+    words.push_back(
+        Line(Filled(TranslatedText("{0} is now {1} of {2}"),
+                    {print->List(print->ListIndex()), Digits(print->ListIndex() + 1), Digits(print->ListCount())})));
   }
   std::vector<Text> breaks;
   for (std::size_t i = 0; i < now.fields.size(); ++i) {
@@ -43,7 +47,7 @@ std::vector<std::string> WordsOnOrder(const Dialog& dialog, const Widget& used, 
     if (!IsBreakSelector(*field.widget) || field.text == former.fields[i].text) continue;
     breaks.push_back(WordsOnBreak(views::SpokenName(dialog, *field.widget).Spoken(), field));
   }
-  if (!breaks.empty()) words.push_back(Line(u"Order changed: " + Joined(breaks)));
+  if (!breaks.empty()) words.push_back(Line(Filled(TranslatedText("Order changed: {0}"), {Joined(breaks)})));
   return words;
 }
 
@@ -53,11 +57,13 @@ std::vector<std::string> WordsOnPage(const Dialog& dialog) {
   const ListBox* const print = PrintListOf(dialog, page);
   if (!print) return words;
   if (print->SelCount() > 1) {
-    words.push_back(Line(Digits(print->SelCount()) + u" selected: their settings show when one is selected"));
+    words.push_back(Line(
+        Filled(TranslatedText("{0} selected: their settings show when one is selected"), {Digits(print->SelCount())})));
   }
   if (page == kCharTab && print->ListCount() >= kMaxPrintCharacteristics) {
-    words.push_back(Line(views::SpokenName(dialog, *print).Spoken() + u": " + Digits(print->ListCount()) + u" of " +
-                         Digits(kMaxPrintCharacteristics) + u" used"));
+    words.push_back(Line(Filled(
+        TranslatedText("{0}: {1} of {2} used"),
+        {views::SpokenName(dialog, *print).Spoken(), Digits(print->ListCount()), Digits(kMaxPrintCharacteristics)})));
   }
   return words;
 }

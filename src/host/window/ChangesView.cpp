@@ -3,6 +3,8 @@
 #include <QTextCursor>
 
 #include "host/Differences.h"
+#include "host/window/Translation.h"
+#include "views/Translation.h"
 #include "views/qt/QtText.h"
 
 namespace ORXKMPrintProp::host {
@@ -15,7 +17,7 @@ ChangesView::ChangesView(QWidget* parent) : QTextEdit(parent) {
 }
 
 void ChangesView::Show(const Snapshot& before, const Snapshot& after) {
-  const auto differences = DifferencesOf(before, after, WordsBesideCaptions(UserLanguage()));
+  const auto differences = DifferencesOf(before, after, DifferenceWordsIn(views::CurrentLanguage().code));
   clear();
   QTextCursor cursor(document());
   const auto add = [&](const QString& text, QFont::Weight weight, int indent) {
@@ -27,7 +29,7 @@ void ChangesView::Show(const Snapshot& before, const Snapshot& after) {
     cursor.setBlockFormat(block);
     cursor.insertText(text, characters);
   };
-  if (differences.empty()) add(QStringLiteral("Nothing has changed."), QFont::Normal, 0);
+  if (differences.empty()) add(Tr("Nothing has changed."), QFont::Normal, 0);
   for (const PageDifferences& page : differences) {
     add(qt::ToQString(page.caption), QFont::Bold, 0);
     for (const Text& line : page.lines) add(qt::ToQString(line), QFont::Normal, 1);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "host/Terminal.h"
+#include "host/window/Translation.h"
 #include "views/qt/QtText.h"
 #include "views/qt/WidgetView.h"
 
@@ -67,9 +68,9 @@ QVariant ComparedModel::data(const QModelIndex& index, int role) const {
   if (role == Qt::BackgroundRole) return QBrush(kMarked);
   if (role == Qt::ForegroundRole) return QBrush(kMarkedInk);
   const QString file = qt::ToQString(OneLine(cell.file));
-  const QString told = isGone                     ? QStringLiteral("The row does not come back")
-                       : file.trimmed().isEmpty() ? QStringLiteral("Empty in the file")
-                                                  : QStringLiteral("In the file: ") + file;
+  const QString told = isGone                     ? Tr("The row does not come back")
+                       : file.trimmed().isEmpty() ? Tr("Empty in the file")
+                                                  : Tr("In the file: {0}", file);
   return role == Qt::ToolTipRole ? qt::ToolTipOf(told) : told;
 }
 

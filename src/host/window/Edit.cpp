@@ -9,10 +9,12 @@
 #include "host/Files.h"
 #include "host/Load.h"
 #include "host/Program.h"
+#include "host/UserLanguage.h"
 #include "host/editor/EditedSettings.h"
 #include "host/window/Display.h"
 #include "host/window/Remembered.h"
 #include "host/window/SettingsWindow.h"
+#include "host/window/Translation.h"
 #include "views/qt/QtPlatform.h"
 
 namespace ORXKMPrintProp::host {
@@ -21,7 +23,7 @@ namespace {
 
 /// To somebody who has started the program from the desktop and sees no standard error.
 void Tell(const std::string& words) {
-  QMessageBox box(QMessageBox::Critical, QStringLiteral("Print settings"), QString::fromStdString(words));
+  QMessageBox box(QMessageBox::Critical, QString::fromStdString(ProgramName()), QString::fromStdString(words));
   box.setTextFormat(Qt::PlainText);
   box.exec();
 }
@@ -34,6 +36,7 @@ EditProgram::EditProgram() {
   application_ = std::make_unique<QApplication>(argc_, argv_);
   QGuiApplication::setDesktopFileName(QStringLiteral("prnprop"));
   BeginToRemember();
+  translation_ = std::make_unique<Translation>(UserLanguage());
   platform_ = std::make_unique<qt::QtPlatform>();
 }
 

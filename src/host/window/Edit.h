@@ -13,6 +13,7 @@ namespace ORXKMPrintProp::host {
 struct EditOptions;
 class EditedSettings;
 class SettingsWindow;
+class Translation;
 
 /// The program of a document that is edited in a window.
 class EditProgram {
@@ -36,6 +37,7 @@ class EditProgram {
   char name_[8] = "prnprop";
   char* argv_[2] = {name_, nullptr};
   std::unique_ptr<QApplication> application_;
+  std::unique_ptr<Translation> translation_;
   std::unique_ptr<qt::QtPlatform> platform_;
   std::unique_ptr<EditedSettings> settings_;
   std::unique_ptr<SettingsWindow> window_;

@@ -5,6 +5,7 @@
 #include <QFileInfo>
 
 #include "host/window/Remembered.h"
+#include "host/window/Translation.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
@@ -29,11 +30,11 @@ FileMenu::FileMenu(Editor& editor, QWidget* parent) : QMenu(parent), editor_(edi
 
 void FileMenu::ShowRecent() {
   clear();
-  addAction(QStringLiteral("&New\tCtrl+N"), this, [this] { editor_.New(); });
-  addAction(QStringLiteral("&Open...\tCtrl+O"), this, [this] { editor_.Open(); });
+  addAction(Tr("&New\tCtrl+N"), this, [this] { editor_.New(); });
+  addAction(Tr("&Open...\tCtrl+O"), this, [this] { editor_.Open(); });
   addSeparator();
-  addAction(QStringLiteral("&Save\tCtrl+S"), this, [this] { editor_.Save(); });
-  addAction(QStringLiteral("Save &as...\tCtrl+Shift+S"), this, [this] { editor_.SaveAs(); });
+  addAction(Tr("&Save\tCtrl+S"), this, [this] { editor_.Save(); });
+  addAction(Tr("Save &as...\tCtrl+Shift+S"), this, [this] { editor_.SaveAs(); });
   addSeparator();
   for (qsizetype number = 0; const std::string& file : RememberedFiles()) {
     addAction(Caption(++number, QFile::decodeName(file.c_str())), this, [this, file] { editor_.OpenRecent(file); });

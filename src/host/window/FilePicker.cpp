@@ -4,14 +4,16 @@
 #include <QFileDialog>
 #include <QFileInfo>
 
+#include "host/window/Translation.h"
+
 namespace ORXKMPrintProp::host {
 
 std::optional<std::string> PickFileIn(QWidget* parent, FileUse use, const std::string& proposed) {
   const bool saves = use == FileUse::Save;
-  QFileDialog dialog(parent, saves ? QStringLiteral("Save settings as") : QStringLiteral("Open settings"));
+  QFileDialog dialog(parent, saves ? Tr("Save settings as") : Tr("Open settings"));
   dialog.setAcceptMode(saves ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setFileMode(saves ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
-  dialog.setNameFilters({QStringLiteral("Settings documents (*.json)"), QStringLiteral("All files (*)")});
+  dialog.setNameFilters({Tr("Settings documents (*.json)"), Tr("All files (*)")});
   dialog.setDefaultSuffix(QStringLiteral("json"));
   if (!proposed.empty()) {
     const QFileInfo file(QFile::decodeName(proposed.c_str()));

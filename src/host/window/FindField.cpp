@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include "host/window/Translation.h"
 #include "views/Search.h"
 #include "views/qt/PrnPropView.h"
 #include "views/qt/QtText.h"
@@ -17,9 +18,9 @@ FindField::FindField(qt::PrnPropView& view, QWidget* over)
   setFrameShape(QFrame::StyledPanel);
   setAutoFillBackground(true);
   text_->setObjectName(QStringLiteral("find"));
-  text_->setAccessibleName(QStringLiteral("Find an entry"));
-  text_->setPlaceholderText(QStringLiteral("Find an entry"));
-  text_->setToolTip(QStringLiteral("Any part of its text; Enter or F3 for the next one, Escape for the list"));
+  text_->setAccessibleName(Tr("Find an entry"));
+  text_->setPlaceholderText(Tr("Find an entry"));
+  text_->setToolTip(Tr("Any part of its text; Enter or F3 for the next one, Escape for the list"));
   told_->setObjectName(QStringLiteral("found"));
   auto* const column = new QVBoxLayout(this);
   column->setContentsMargins(3, 3, 3, 3);
@@ -31,7 +32,7 @@ FindField::FindField(qt::PrnPropView& view, QWidget* over)
 }
 
 void FindField::Open() {
-  Tell(view_.ListAtHand() ? QString() : QStringLiteral("No list on this page"));
+  Tell(view_.ListAtHand() ? QString() : Tr("No list on this page"));
   view_.ShowCaretOf(view_.ListAtHand());
   show();
   raise();
@@ -47,10 +48,10 @@ void FindField::FindNext() {
 void FindField::Find(views::SearchFrom from) {
   ListBox* const list = view_.ListAtHand();
   view_.ShowCaretOf(list);
-  if (!list) return Tell(QStringLiteral("No list on this page"));
+  if (!list) return Tell(Tr("No list on this page"));
   const auto entry = views::FindEntry(*list, qt::ToText(text_->text()), from);
   if (entry && *entry != list->ListIndex()) view_.Perform(*list, [&] { list->UserMoveCaret(*entry); });
-  Tell(entry || text_->text().isEmpty() ? QString() : QStringLiteral("Not found"));
+  Tell(entry || text_->text().isEmpty() ? QString() : Tr("Not found"));
 }
 
 void FindField::Tell(const QString& words) {

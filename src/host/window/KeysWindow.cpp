@@ -6,21 +6,24 @@
 #include <QVBoxLayout>
 
 #include "host/editor/EditorKeys.h"
+#include "host/window/Translation.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
 
 QString TableOfKeys() {
   QString table = QStringLiteral("<table cellpadding='3'>");
-  QString where;
+  std::string where;
   for (const EditorKey& key : EditorKeys(true)) {
-    if (where != QLatin1String(key.where)) {
-      where = QLatin1String(key.where);
+    if (where != key.where) {
+      where = key.where;
+      const QString heading = QString::fromStdString(where);
       table += QStringLiteral("<tr><th colspan='2' align='left'>%1</th></tr>")
-                   .arg(where.left(1).toUpper() + where.mid(1).toHtmlEscaped());
+                   .arg(heading.left(1).toUpper() + heading.mid(1).toHtmlEscaped());
     }
-    table += QStringLiteral("<tr><td>%1</td><td>%2</td></tr>")
-                 .arg(QString::fromUtf8(key.keys).toHtmlEscaped(), QString::fromUtf8(key.does).toHtmlEscaped());
+    table +=
+        QStringLiteral("<tr><td>%1</td><td>%2</td></tr>")
+            .arg(QString::fromStdString(key.keys).toHtmlEscaped(), QString::fromStdString(key.does).toHtmlEscaped());
   }
   return table + QStringLiteral("</table>");
 }
@@ -29,7 +32,7 @@ QString TableOfKeys() {
 
 void ShowKeys(QWidget* parent) {
   QDialog dialog(parent);
-  dialog.setWindowTitle(QStringLiteral("Keys"));
+  dialog.setWindowTitle(Tr("Keys"));
   QTextBrowser table;
   table.setHtml(TableOfKeys());
   table.setAccessibleName(dialog.windowTitle());

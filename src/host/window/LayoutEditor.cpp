@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "host/editor/LayoutText.h"
+#include "host/window/Translation.h"
 #include "views/qt/QtText.h"
 
 namespace ORXKMPrintProp::host {
@@ -18,7 +19,7 @@ class LayoutEditor : public QDialog {
   LayoutEditor(const Text& name, const Text& layout, bool readOnly, const std::function<Choice(const Question&)>& ask,
                QWidget* parent)
       : QDialog(parent), ask_(ask) {
-    setWindowTitle(QStringLiteral("Layout: ") + qt::ToQString(name));
+    setWindowTitle(Tr("Layout: {0}", qt::ToQString(name)));
     edit_.setPlainText(qt::ToQString(layout));
     edit_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     edit_.setAccessibleName(windowTitle());

@@ -16,6 +16,7 @@
 #include "host/window/ComparedView.h"
 #include "host/window/PagePanel.h"
 #include "host/window/Remembered.h"
+#include "host/window/Translation.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
@@ -42,10 +43,10 @@ MeaningPanel::MeaningPanel(std::function<bool()> read, QWidget* parent)
     : QWidget(parent),
       read_(std::move(read)),
       state_(new QLabel(this)),
-      refresh_(new QPushButton(QStringLiteral("&Refresh"), this)) {
+      refresh_(new QPushButton(Tr("&Refresh"), this)) {
   refresh_->setObjectName(QStringLiteral("refresh"));
   refresh_->setAutoDefault(true);
-  refresh_->setToolTip(QStringLiteral("Reads the settings back, which stores the page as it is; Undo leads back"));
+  refresh_->setToolTip(Tr("Reads the settings back, which stores the page as it is; Undo leads back"));
   connect(refresh_, &QPushButton::clicked, this, read_);
   state_->setObjectName(QStringLiteral("state"));
   state_->setWordWrap(true);
@@ -64,10 +65,10 @@ void MeaningPanel::MakeTabs() {
   tabs_ = new QTabWidget(this);
   page_ = new PagePanel(read_, this);
   page_->SetStale(isStale_);
-  tabs_->addTab(page_, QStringLiteral("Page"));
+  tabs_->addTab(page_, Tr("Page"));
   changes_ = new ChangesView(this);
-  changes_->setAccessibleName(QStringLiteral("Changes"));
-  tabs_->addTab(changes_, QStringLiteral("Changes"));
+  changes_->setAccessibleName(Tr("Changes"));
+  tabs_->addTab(changes_, Tr("Changes"));
   for (const TableTab& table : TableTabs()) {
     views_.push_back(new ComparedView(this));
     views_.back()->setAccessibleName(QLatin1String(table.caption));
@@ -80,12 +81,11 @@ void MeaningPanel::MakeTabs() {
   });
   auto& column = static_cast<QBoxLayout&>(*layout());
   column.insertWidget(1, tabs_, 1);
-  next_ = new QPushButton(QStringLiteral("&Next difference"), this);
+  next_ = new QPushButton(Tr("&Next difference"), this);
   next_->setObjectName(QStringLiteral("nextDifference"));
   next_->setAutoDefault(true);
   next_->setToolTip(
-      QStringLiteral("Goes to the next cell that is another than in the file (F8), "
-                     "or back to the one before (Shift+F8)"));
+      Tr("Goes to the next cell that is another than in the file (F8), or back to the one before (Shift+F8)"));
   connect(next_, &QPushButton::clicked, this, [this] { GoToMark(true); });
   column.insertWidget(2, next_, 0, Qt::AlignRight);
   for (const bool forward : {true, false}) {
@@ -117,8 +117,7 @@ void MeaningPanel::SetStale(bool isStale) {
   QFont bold = font();
   bold.setBold(isStale);
   state_->setFont(bold);
-  state_->setText(isStale ? QStringLiteral("Older than your last change.")
-                          : QStringLiteral("As the settings are read back."));
+  state_->setText(isStale ? Tr("Older than your last change.") : Tr("As the settings are read back."));
 }
 
 void MeaningPanel::showEvent(QShowEvent* event) {
@@ -160,7 +159,7 @@ void MeaningPanel::FillTable(std::size_t table) {
   if (view.HasMarks()) caption += QStringLiteral(" *");
   const int page = tabs_->indexOf(&view);
   tabs_->setTabText(page, caption);
-  tabs_->setTabToolTip(page, view.HasMarks() ? QStringLiteral("Differs from the file") : QString());
+  tabs_->setTabToolTip(page, view.HasMarks() ? Tr("Differs from the file") : QString());
 }
 
 void MeaningPanel::ShowFront() {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "host/window/SignButton.h"
+#include "host/window/Translation.h"
 #include "views/Keys.h"
 #include "views/qt/PrnPropView.h"
 
@@ -23,13 +24,13 @@ OrderButtons::OrderButtons(Dialog& dialog, qt::PrnPropView& view, std::function<
       dialog_(dialog),
       view_(view),
       isReadOnly_(std::move(isReadOnly)),
-      up_(MakeSignButton("Up", u'\u25B2', this)),
-      down_(MakeSignButton("Down", u'\u25BC', this)) {
+      up_(MakeSignButton(QStringLiteral("up"), Tr("Up"), u'\u25B2', this)),
+      down_(MakeSignButton(QStringLiteral("down"), Tr("Down"), u'\u25BC', this)) {
   auto* const row = new QHBoxLayout(this);
   row->setContentsMargins(0, 0, 0, 0);
   row->setSpacing(2);
-  up_->setToolTip(QStringLiteral("Moves the entry up in the print order (Alt+Up)"));
-  down_->setToolTip(QStringLiteral("Moves the entry down in the print order (Alt+Down)"));
+  up_->setToolTip(Tr("Moves the entry up in the print order (Alt+Up)"));
+  down_->setToolTip(Tr("Moves the entry down in the print order (Alt+Down)"));
   for (const auto& [button, step] : {std::pair(up_, std::int16_t{-1}), {down_, std::int16_t{1}}}) {
     row->addWidget(button);
     connect(button, &QPushButton::clicked, this, [this, step = step] {

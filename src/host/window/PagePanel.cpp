@@ -22,10 +22,12 @@
 
 #include "host/DocumentError.h"
 #include "host/Files.h"
+#include "host/editor/Editor.h"
 #include "host/window/Follower.h"
 #include "host/window/PagePrinting.h"
 #include "host/window/PageSketchView.h"
 #include "host/window/Remembered.h"
+#include "host/window/Translation.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
@@ -146,37 +148,37 @@ QPushButton* PagePanel::MakeButton(const QString& caption, const QString& name, 
 }
 
 QBoxLayout* PagePanel::MakeControls() {
-  smaller_ = MakeButton(QStringLiteral("\u2212"), QStringLiteral("smaller"),
-                        QStringLiteral("Makes the page smaller (Ctrl+-)"), [this] { ZoomBy(-1); });
-  smaller_->setAccessibleName(QStringLiteral("Smaller"));
+  smaller_ = MakeButton(QStringLiteral("\u2212"), QStringLiteral("smaller"), Tr("Makes the page smaller (Ctrl+-)"),
+                        [this] { ZoomBy(-1); });
+  smaller_->setAccessibleName(Tr("Smaller"));
   zoom_ = new QComboBox(this);
   zoom_->setObjectName(QStringLiteral("zoom"));
-  zoom_->setAccessibleName(QStringLiteral("Size of the page"));
-  zoom_->setToolTip(QStringLiteral(
-      "Fit width makes the page as small as it can be read, and folds one that is wider still (Ctrl+0)"));
-  zoom_->addItem(QStringLiteral("Fit width"), kFitWidth);
+  zoom_->setAccessibleName(Tr("Size of the page"));
+  zoom_->setToolTip(
+      Tr("Fit width makes the page as small as it can be read, and folds one that is wider still (Ctrl+0)"));
+  zoom_->addItem(Tr("Fit width"), kFitWidth);
   for (const int percent : kZoomSteps) zoom_->addItem(QString::number(percent) + QStringLiteral(" %"), percent);
   connect(zoom_, &QComboBox::currentIndexChanged, this, [this] {
     Remember(kZoom, zoom_->currentData());
     ShowZoom();
   });
-  larger_ = MakeButton(QStringLiteral("+"), QStringLiteral("larger"), QStringLiteral("Makes the page larger (Ctrl++)"),
+  larger_ = MakeButton(QStringLiteral("+"), QStringLiteral("larger"), Tr("Makes the page larger (Ctrl++)"),
                        [this] { ZoomBy(1); });
-  larger_->setAccessibleName(QStringLiteral("Larger"));
+  larger_->setAccessibleName(Tr("Larger"));
   for (QPushButton* const button : {smaller_, larger_}) button->setMaximumWidth(button->sizeHint().height());
 
-  follow_ = new QCheckBox(QStringLiteral("&Follow changes"), this);
+  follow_ = new QCheckBox(Tr("&Follow changes"), this);
   follow_->setObjectName(QStringLiteral("follow"));
-  follow_->setToolTip(QStringLiteral("Reads the settings back whenever you pause, as Refresh does"));
+  follow_->setToolTip(Tr("Reads the settings back whenever you pause, as Refresh does"));
   connect(follow_, &QCheckBox::toggled, this, [this](bool isOn) {
     Remember(kFollow, isOn);
     follower_->SetOn(isOn);
   });
-  pdf_ = MakeButton(QStringLiteral("P&DF..."), QStringLiteral("pdf"),
-                    QStringLiteral("Reads the settings back and saves the page as a PDF file"), [this] { SavePdf(); });
-  pdf_->setAccessibleName(QStringLiteral("Save as PDF..."));
-  print_ = MakeButton(QStringLiteral("Pr&int..."), QStringLiteral("print"),
-                      QStringLiteral("Reads the settings back and prints the page"), [this] { Print(); });
+  pdf_ = MakeButton(Tr("P&DF..."), QStringLiteral("pdf"),
+                    Tr("Reads the settings back and saves the page as a PDF file"), [this] { SavePdf(); });
+  pdf_->setAccessibleName(Tr("Save as PDF..."));
+  print_ = MakeButton(Tr("Pr&int..."), QStringLiteral("print"), Tr("Reads the settings back and prints the page"),
+                      [this] { Print(); });
 
   auto* const controls = new QBoxLayout(QBoxLayout::LeftToRight);
   auto* const sizes = new QHBoxLayout;
@@ -240,7 +242,7 @@ void PagePanel::ZoomBy(int steps) {
 
 void PagePanel::SavePdf() {
   if (!read_()) return;
-  QFileDialog dialog(this, QStringLiteral("Save as PDF"));
+  QFileDialog dialog(this, Tr("Save as PDF"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setNameFilter(QStringLiteral("PDF (*.pdf)"));
   dialog.setDefaultSuffix(QStringLiteral("pdf"));
@@ -253,14 +255,14 @@ void PagePanel::SavePdf() {
     SaveFile(dialog.selectedFiles().front().toStdString(),
              std::string_view(pdf.constData(), static_cast<std::size_t>(pdf.size())));
   } catch (const DocumentError& error) {
-    Tell(QStringLiteral("The page could not be saved."), QString::fromUtf8(error.what()));
+    Tell(Tr("The page could not be saved."), QString::fromUtf8(error.what()));
   }
 }
 
 void PagePanel::Print() {
   if (!read_()) return;
   if (QPrinterInfo::availablePrinterNames().isEmpty()) {
-    return Tell(QStringLiteral("There is no printer."), QStringLiteral("The page can be saved as a PDF file."));
+    return Tell(Tr("There is no printer."), Tr("The page can be saved as a PDF file."));
   }
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(window()->windowTitle());
@@ -269,12 +271,13 @@ void PagePanel::Print() {
   dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
   if (dialog.exec() != QDialog::Accepted) return;
   if (!PrintPage(printer, sketch_->Sketch(), sketch_->font())) {
-    Tell(QStringLiteral("The page could not be printed."), QStringLiteral("The printer does not take it."));
+    Tell(Tr("The page could not be printed."), Tr("The printer does not take it."));
   }
 }
 
 void PagePanel::Tell(const QString& what, const QString& why) {
-  QMessageBox box(QMessageBox::Critical, QStringLiteral("Print settings"), what + u'\n' + why, QMessageBox::Ok, this);
+  QMessageBox box(QMessageBox::Critical, QString::fromStdString(ProgramName()), what + u'\n' + why, QMessageBox::Ok,
+                  this);
   box.setTextFormat(Qt::PlainText);
   box.exec();
 }

@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "host/window/Translation.h"
+
 namespace ORXKMPrintProp::host {
 namespace {
 
@@ -40,7 +42,7 @@ PageSketchView::PageSketchView(QWidget* parent) : QWidget(parent) {
   small.setPointSizeF(small.pointSizeF() * 0.85);
   setFont(small);
   setFocusPolicy(Qt::StrongFocus);
-  setAccessibleName(QStringLiteral("Sketch of the printed page"));
+  setAccessibleName(Tr("Sketch of the printed page"));
 }
 
 void PageSketchView::Show(const Snapshot& readBack) {

@@ -30,6 +30,7 @@
 #include "host/window/SignButton.h"
 #include "host/window/SpokenWindow.h"
 #include "host/window/StatusLine.h"
+#include "host/window/Translation.h"
 #include "views/qt/PrnPropView.h"
 #include "views/qt/QtText.h"
 
@@ -41,22 +42,38 @@ using qt::ToQString;
 struct ChoiceButton {
   Choice choice;
   QMessageBox::StandardButton button;
-  const char* caption = nullptr;  ///< instead of the button's own
 };
 constexpr ChoiceButton kChoices[] = {
     {Choice::Ok, QMessageBox::Ok},
     {Choice::Save, QMessageBox::Save},
     {Choice::Discard, QMessageBox::Discard},
-    {Choice::Reload, QMessageBox::Retry, "&Reload"},
-    {Choice::SaveAs, QMessageBox::SaveAll, "Save &as..."},
-    {Choice::ShowDifferences, QMessageBox::Open, "Show &what differs"},
-    {Choice::SaveAllTheSame, QMessageBox::Ignore, "&Save all the same"},
+    {Choice::Reload, QMessageBox::Retry},
+    {Choice::SaveAs, QMessageBox::SaveAll},
+    {Choice::ShowDifferences, QMessageBox::Open},
+    {Choice::SaveAllTheSame, QMessageBox::Ignore},
     {Choice::Cancel, QMessageBox::Cancel},
 };
 
-const ChoiceButton& RowOf(Choice choice) {
-  return *std::find_if(std::begin(kChoices), std::end(kChoices),
-                       [&](const ChoiceButton& row) { return row.choice == choice; });
+QMessageBox::StandardButton ButtonOf(Choice choice) {
+  return std::find_if(std::begin(kChoices), std::end(kChoices),
+                      [&](const ChoiceButton& row) { return row.choice == choice; })
+      ->button;
+}
+
+/// Instead of the button's own; empty for that.
+QString CaptionOf(Choice choice) {
+  switch (choice) {
+    case Choice::Reload:
+      return Tr("&Reload");
+    case Choice::SaveAs:
+      return Tr("Save &as...");
+    case Choice::ShowDifferences:
+      return Tr("Show &what differs");
+    case Choice::SaveAllTheSame:
+      return Tr("&Save all the same");
+    default:
+      return {};
+  }
 }
 
 QMessageBox::Icon IconOf(Question::Kind kind) {
@@ -94,8 +111,8 @@ QString DroppedFile(const QDropEvent& event) {
 }
 
 /// @param what would be done, empty for nothing
-QString StepTip(const char* verb, const std::string& what, const QList<QKeySequence>& keys) {
-  QString tip = QLatin1String(verb);
+QString StepTip(const QString& verb, const std::string& what, const QList<QKeySequence>& keys) {
+  QString tip = verb;
   if (!what.empty()) tip += QStringLiteral(": ") + QString::fromStdString(what);
   return tip + QStringLiteral(" (") + keys.front().toString(QKeySequence::NativeText) + u')';
 }
@@ -180,16 +197,16 @@ void SettingsWindow::BoundDialog() {
 
 QWidget* SettingsWindow::MakeButtons() {
   auto* const bar = new QWidget(this);
-  auto* const file = new QPushButton(QStringLiteral("Fi&le"), bar);
+  auto* const file = new QPushButton(Tr("Fi&le"), bar);
   file->setObjectName(QStringLiteral("file"));
   file->setAutoDefault(true);
   file->setMenu(new FileMenu(editor_, file));
-  preview_ = new QPushButton(QStringLiteral("&Preview"), bar);
+  preview_ = new QPushButton(Tr("&Preview"), bar);
   preview_->setObjectName(QStringLiteral("preview"));
   preview_->setCheckable(true);
   preview_->setChecked(true);
   preview_->setAutoDefault(true);
-  preview_->setToolTip(QStringLiteral("Shows beside the dialog what the settings mean"));
+  preview_->setToolTip(Tr("Shows beside the dialog what the settings mean"));
   connect(preview_, &QPushButton::toggled, this, &SettingsWindow::Fold);
   connect(preview_, &QPushButton::clicked, this, [](bool unfolds) { host::Remember(kPreview, unfolds); });
 
@@ -209,10 +226,10 @@ QWidget* SettingsWindow::MakeButtons() {
   OnKey(*this, QKeySequence::Find, [find] { find->Open(); });
   OnKey(*this, Qt::Key_F3, [find] { find->FindNext(); });
   OnKey(*this, Qt::Key_F1, [this] { ShowKeys(this); });
-  undo_ = MakeStepButton("Undo", u'\u21B6', kUndoKeys, &Editor::Undo);
-  redo_ = MakeStepButton("Redo", u'\u21B7', kRedoKeys, &Editor::Redo);
-  revert_ = MakeStepButton("Revert", u'\u27F2', {}, &Editor::Revert);
-  revert_->setToolTip(QStringLiteral("Goes back to what was opened or saved last"));
+  undo_ = MakeStepButton(QStringLiteral("undo"), Tr("Undo"), u'\u21B6', kUndoKeys, &Editor::Undo);
+  redo_ = MakeStepButton(QStringLiteral("redo"), Tr("Redo"), u'\u21B7', kRedoKeys, &Editor::Redo);
+  revert_ = MakeStepButton(QStringLiteral("revert"), Tr("Revert"), u'\u27F2', {}, &Editor::Revert);
+  revert_->setToolTip(Tr("Goes back to what was opened or saved last"));
 
   auto* const row = new QHBoxLayout(bar);
   row->setContentsMargins(0, 0, 0, 0);
@@ -228,9 +245,9 @@ QWidget* SettingsWindow::MakeButtons() {
   return bar;
 }
 
-QPushButton* SettingsWindow::MakeStepButton(const char* name, char16_t sign, const QList<QKeySequence>& keys,
-                                            void (Editor::*step)()) {
-  auto* const button = MakeSignButton(name, sign, this);
+QPushButton* SettingsWindow::MakeStepButton(const QString& objectName, const QString& name, char16_t sign,
+                                            const QList<QKeySequence>& keys, void (Editor::*step)()) {
+  auto* const button = MakeSignButton(objectName, name, sign, this);
   connect(button, &QPushButton::clicked, this, [this, step] { (editor_.*step)(); });
   for (const QKeySequence& key : keys) OnKey(*this, key, [this, step] { (editor_.*step)(); });
   return button;
@@ -311,8 +328,8 @@ void SettingsWindow::ShowState(const EditorState& state) {
   SetEnabled(*redo_, state.canRedo);
   SetEnabled(*revert_, state.canRevert);
   order_->Update();
-  undo_->setToolTip(StepTip("Undo", state.undo, kUndoKeys));
-  redo_->setToolTip(StepTip("Redo", state.redo, kRedoKeys));
+  undo_->setToolTip(StepTip(undo_->accessibleName(), state.undo, kUndoKeys));
+  redo_->setToolTip(StepTip(redo_->accessibleName(), state.redo, kRedoKeys));
 }
 
 void SettingsWindow::SetEnabled(QPushButton& button, bool enabled) {
@@ -324,21 +341,20 @@ void SettingsWindow::SetEnabled(QPushButton& button, bool enabled) {
 Choice SettingsWindow::Ask(const Question& question) {
   // Over the window that waits for an answer already, if one does.
   QWidget* const waiting = QApplication::activeModalWidget();
-  QMessageBox box(IconOf(question.kind), QStringLiteral("Print settings"), QString::fromStdString(question.text), {},
-                  waiting ? waiting : this);
+  QMessageBox box(IconOf(question.kind), QString::fromStdString(ProgramName()), QString::fromStdString(question.text),
+                  {}, waiting ? waiting : this);
   for (const Choice choice : question.choices) {
-    const ChoiceButton& row = RowOf(choice);
-    QPushButton* const button = box.addButton(row.button);
-    if (row.caption) button->setText(QLatin1String(row.caption));
+    QPushButton* const button = box.addButton(ButtonOf(choice));
+    if (const QString caption = CaptionOf(choice); !caption.isEmpty()) button->setText(caption);
   }
   box.setInformativeText(QString::fromStdString(question.further));
   // The box has no say over the format of that one.
   for (auto* const label : box.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
   if (!question.details.empty()) box.setDetailedText(QString::fromStdString(question.details));
-  box.setDefaultButton(RowOf(question.preset).button);
+  box.setDefaultButton(ButtonOf(question.preset));
   const int pressed = box.exec();
   const auto chosen = std::find_if(question.choices.begin(), question.choices.end(),
-                                   [&](Choice choice) { return RowOf(choice).button == pressed; });
+                                   [&](Choice choice) { return ButtonOf(choice) == pressed; });
   return chosen == question.choices.end() ? Choice::Cancel : *chosen;
 }
 

@@ -50,7 +50,8 @@ class SettingsWindow : public QWidget, private EditorWindow {
   void Focus(const Widget& widget) override;
 
   QWidget* MakeButtons();
-  QPushButton* MakeStepButton(const char* name, char16_t sign, const QList<QKeySequence>& keys, void (Editor::*step)());
+  QPushButton* MakeStepButton(const QString& objectName, const QString& name, char16_t sign,
+                              const QList<QKeySequence>& keys, void (Editor::*step)());
   /// A button that is disabled under the focus gives it back to the dialog.
   void SetEnabled(QPushButton& button, bool enabled);
   void Fold(bool unfold);

@@ -8,9 +8,11 @@
 #include <cmath>
 #include <memory>
 
+#include "host/UserLanguage.h"
 #include "host/editor/WindowCommands.h"
 #include "host/window/Display.h"
 #include "host/window/SettingsWindow.h"
+#include "host/window/Translation.h"
 #include "views/qt/PrnPropView.h"
 #include "views/qt/QtPlatform.h"
 
@@ -42,6 +44,7 @@ std::string Shot(const ShotOptions& options) {
   char name[] = "prnprop";
   char* argv[] = {name, nullptr};
   QApplication application(argc, argv);
+  const Translation translation(UserLanguage());
   qt::QtPlatform platform;
   EditedSettings settings(options.settings, platform);
   settings.Control().GetDialog().TabStrip().UserPick(static_cast<std::int16_t>(options.page));

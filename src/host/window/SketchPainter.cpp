@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "host/PrintRows.h"
+#include "host/Words.h"
 #include "views/qt/QtText.h"
 
 namespace ORXKMPrintProp::host {
@@ -156,7 +157,7 @@ void SketchPainter::AddGap(SketchPaper& paper) const {
 
 void SketchPainter::AddLayout(SketchPaper& paper, PageLayout layout) const {
   if (sketch_.layouts[layout].empty()) return;
-  AddText(paper, {small_, kFaint, kLayout}, Text(kPageLayoutNames[layout]), true);
+  AddText(paper, {small_, kFaint, kLayout}, PageLayoutName(layout), true);
   for (const Text& line : sketch_.layouts[layout]) AddText(paper, {plain_, kInk, kLayout}, line, false);
   AddGap(paper);
 }
@@ -165,7 +166,8 @@ void SketchPainter::AddBand(SketchPaper& paper, const Band& band, bool isOnly) c
   if (!isOnly) {
     const auto number = [](std::size_t column) { return Digits(static_cast<int>(column)); };
     AddText(paper, {small_, kFaint},
-            u"Columns " + number(band.first + 1) + u" to " + number(band.end) + u" of " + number(widths_.size()),
+            views::Filled(TranslatedText("Columns {0} to {1} of {2}"),
+                          {number(band.first + 1), number(band.end), number(widths_.size())}),
             band.first > 0);
   }
   paper.strips.push_back({2 * lineHeight_ + Length(kThick), false, [this, band](QPainter& painter, int left, int top) {
@@ -242,9 +244,7 @@ void SketchPainter::PaintCells(QPainter& painter, const SketchLine& line, const 
 }
 
 void SketchPainter::PaintBreak(QPainter& painter, SketchLineKind kind, const QRect& box) const {
-  const Text words = kind == SketchLineKind::CoverPage ? u"new cover page"
-                     : kind == SketchLineKind::NewPage ? u"new page"
-                                                       : u"new block";
+  const Text words = BreakName(kind);
   const int gap = Length(kGap);
   const int advance = QFontMetrics(small_, device_).horizontalAdvance(ToQString(words));
   const int middle = box.top() + lineHeight_ / 2;

@@ -6,6 +6,7 @@
 #include <exception>
 
 #include "tables/RunTimeError.h"
+#include "views/Translation.h"
 #include "views/qt/QtText.h"
 
 namespace ORXKMPrintProp::qt {
@@ -57,7 +58,7 @@ void WidgetView::Attempt(const std::function<void()>& action) {
   } catch (const std::exception& error) {
     report(QString::fromUtf8(error.what()));
   } catch (...) {
-    report(QStringLiteral("A handler failed without telling why."));
+    report(QString::fromStdString(views::Translated("A handler failed without telling why.")));
   }
 }
 
