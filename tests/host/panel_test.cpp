@@ -1,14 +1,18 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <cstdlib>
 #include <sstream>
 
+#include "control/ORXQueryPrnProp.h"
 #include "control/SharedValues.h"
 #include "host/Differences.h"
 #include "host/Files.h"
 #include "host/Load.h"
 #include "host/Show.h"
 #include "host/Terminal.h"
+#include "host/UserLanguage.h"
 #include "host/Utf8.h"
 #include "host/editor/ComparedTable.h"
 #include "host/editor/EditedSettings.h"
@@ -69,6 +73,61 @@ TEST(PageSketchTest, DrawsWhatTheSettingsSay) {
   }
 }
 
+TEST(PageSketchTest, SpeaksInTheWordsOfTheTextTableWhereItHasSome) {
+  ReleaseSharedValues();
+  SettingsDocument document = ReadSettings(PRNPROP_EXAMPLES "/german.json");
+  document.general->Rows(1)->Value(u"MARGIN_TOP", 70);
+  document.general->Rows(1)->Value(u"USE_COLORS", u"X");
+  document.general->Rows(1)->Value(u"NO_LINES", u"X");
+  document.dimension->Rows(2)->Value(u"PR_BREAK_AREA", u"X");
+  ORXQueryPrnProp control;
+  control.ORXControlTexts(document.texts);
+  const PageSketch sketch = SketchOf(SnapshotOf(document));
+  std::vector<Text> words{sketch.columns[0].what, sketch.columns[1].what};
+  for (const auto kind : {SketchLineKind::CoverPage, SketchLineKind::NewPage, SketchLineKind::NewBlock}) {
+    words.push_back(BreakName(kind));
+  }
+  for (std::size_t layout = 0; layout < kPageLayoutCount; ++layout) words.push_back(PageLayoutName(layout));
+  words.insert(words.end(), sketch.notes.begin(), sketch.notes.begin() + 3);
+  std::string told = WordsOf(SnapshotOf(document));
+  told.resize(told.find("\nWerte"));
+  for (const Text& word : words) told += ToUtf8(word) + "\n";
+  EXPECT_EQ(told, R"(Page
+  Drucktitel                    Umsätze nach Region und Kunde
+  Druckrichtung                 Vertikal
+  Maximale Seitenzahl           50 pages
+  Seitenränder                  Oben 70, Unten 15, Links 20, Rechts 10
+  Summenposition                unten/rechts
+  Vorzeichendarstellung         X-
+  Position Währungen/Einheiten  Keine Anzeige
+  Options                       Keine Nullen anzeigen, Keine Merkmalswiederholungen, Keine Linien drucken, Farben verwenden
+
+Druckmerkmale    Spaltenüberschrift  Spalte 1                                Spalte 2
+   1  Region     Region              Bezeichnung, Links 24, Auf jeder Seite  Schlüssel, Links 6
+      neues Deckblatt; with hierarchy GEBIETE, level 2, version 2025, to 2025-12-31
+   2  Artikel    Artikel             Bezeichnung, Links Breite automatisch
+      neue Seite; totals suppressed on condition
+       1  Größe  Größe               Schlüssel, Zentriert 6
+       2  Farbe  Farbe               Bezeichnung, Links Breite automatisch
+   3  Kunde      Kunde               Schlüssel, Rechts 10, Auf jeder Seite   Bezeichnung, Links 32
+      neuer Block
+       1  Ort    Ort                 Bezeichnung, Links 24
+Bezeichnung
+Schlüssel
+neues Deckblatt
+neue Seite
+neuer Block
+Deckblatt
+Kopfteil
+Fußteil
+Abschlußseite
+Maximale Seitenzahl: 50
+Seitenränder: Oben 70, Unten 15, Links 20, Rechts 10
+Druckrichtung: Vertikal
+)");
+  ReleaseSharedValues();
+}
+
 TEST(ComparedTableTest, RowsStandBesideTheirOwnRowOfTheFile) {
   const auto rowsOf = [](const std::string& rows) {
     return SnapshotOf(ParseSettings(R"({"member":[)" + rows + "]}", "rows")).Member();
@@ -111,6 +170,33 @@ TEST(ComparedTableTest, ATextThatIsCutShowsWhatDiffers) {
       {u"abcdef", u"", u"abcdef"},
   };
   for (const auto& [text, other, cut] : rows) EXPECT_EQ(ToUtf8(CutToDifference(text, other)), ToUtf8(cut));
+}
+
+TEST(UserLanguageTest, IsWhatTheEnvironmentSaysOrTheSystemKnows) {
+  const char* const names[] = {"LC_ALL", "LC_MESSAGES", "LANG", "LANGUAGE"};
+  const auto set = [](const char* name, const std::string& value) {
+#ifdef _WIN32
+    ::_putenv_s(name, value.c_str());
+#else
+    ::setenv(name, value.c_str(), 1);
+#endif
+  };
+  std::vector<std::string> former;
+  for (const char* const name : names) former.emplace_back(std::getenv(name) ? std::getenv(name) : "");
+  const std::pair<std::array<const char*, 4>, std::string> rows[] = {
+      {{"de_DE.UTF-8", "fr_FR", "en_US", ""}, "de"},
+      {{"", "de_AT@euro", "en_US", ""}, "de"},
+      {{"", "", "de", ""}, "de"},
+      {{"", "", "en_US.UTF-8", "de_DE:en"}, "de"},
+      {{"C.UTF-8", "de", "de", "de"}, ""},
+      {{"", "", "POSIX", "de"}, ""},
+      {{"", "", "", "de"}, SystemLanguage()},
+  };
+  for (const auto& [values, language] : rows) {
+    for (std::size_t i = 0; i < std::size(names); ++i) set(names[i], values[i]);
+    EXPECT_EQ(UserLanguage(), language) << values[0] << "|" << values[1] << "|" << values[2] << "|" << values[3];
+  }
+  for (std::size_t i = 0; i < std::size(names); ++i) set(names[i], former[i]);
 }
 
 TEST(DifferencesTest, NoSettingIsForgotten) {

@@ -37,7 +37,10 @@
 #include "host/editor/EditedSettings.h"
 #include "host/editor/PageSketch.h"
 #include "host/window/PagePrinting.h"
+#include "host/window/PageSketchView.h"
 #include "host/window/Remembered.h"
+#include "host/window/Translation.h"
+#include "views/qt/PrnPropView.h"
 #include "views/qt/QtPlatform.h"
 #include "views/qt/QtText.h"
 
@@ -140,6 +143,9 @@ class SettingsWindowTest : public testing::Test {
     }
     return names;
   }
+  /// Goes through all that opens, and notes what is read and heard of it besides the document and its dialog.
+  QStringList AllWords();
+
   std::string TitleChanged(const std::string& from, const std::string& to) const {
     return "The settings have changed.\nSave them in " + file + "?\n\nWhat has changed:\nGeneral\n  Print title: '" +
            from + "' is now '" + to + "'";
@@ -155,6 +161,119 @@ class SettingsWindowTest : public testing::Test {
   std::deque<std::function<void(QDialog&)>> answers;
   QTimer timer;
 };
+
+/// The words of the widget and of what is in it, a line each; of the dialog's own only what is told of keys.
+QStringList WordsIn(const QWidget& root) {
+  QStringList words;
+  const auto add = [&](const QString& text) { words += text.split(u'\n', Qt::SkipEmptyParts); };
+  QList<const QWidget*> widgets = root.findChildren<const QWidget*>();
+  widgets.prepend(&root);
+  for (const QWidget* const widget : widgets) {
+    const bool isOfDialog = widget->parentWidget() && root.findChild<qt::PrnPropView*>() &&
+                            root.findChild<qt::PrnPropView*>()->isAncestorOf(widget);
+    if (isOfDialog) {
+      if (qobject_cast<const QListView*>(widget)) add(widget->accessibleDescription());
+      continue;
+    }
+    for (const char* const name : {"windowTitle", "accessibleName", "toolTip", "placeholderText", "plainText"}) {
+      add(widget->property(name).toString());
+    }
+    if (const auto* const label = qobject_cast<const QLabel*>(widget)) add(label->text());
+    if (const auto* const button = qobject_cast<const QAbstractButton*>(widget)) add(button->text());
+    if (const auto* const combo = qobject_cast<const QComboBox*>(widget)) add(combo->itemText(0));
+    if (const auto* const sketch = dynamic_cast<const PageSketchView*>(widget)) add(sketch->Words());
+    if (const auto* const tabs = qobject_cast<const QTabWidget*>(widget)) {
+      for (int tab = 0; tab < tabs->count(); ++tab) add(tabs->tabText(tab) + u'\n' + tabs->tabToolTip(tab));
+    }
+    if (const auto* const menu = qobject_cast<const QMenu*>(widget)) {
+      for (const QAction* const action : menu->actions()) add(action->text().section(QStringLiteral(" - "), 0, 0));
+    }
+    if (const auto* const table = qobject_cast<const QTableView*>(widget)) {
+      const QAbstractItemModel& model = *table->model();
+      for (int cell = 0; cell < model.rowCount() * model.columnCount(); ++cell) {
+        add(model.index(cell / model.columnCount(), cell % model.columnCount()).data(Qt::ToolTipRole).toString());
+      }
+    }
+  }
+  return words;
+}
+
+QStringList SettingsWindowTest::AllWords() {
+  QStringList words;
+  const auto note = [&words](const QWidget& widget) { words += WordsIn(widget); };
+  const auto answer = [&](std::initializer_list<QMessageBox::StandardButton> buttons) {
+    for (const auto button : buttons) {
+      answers.push_back([note, button](QDialog& dialog) {
+        note(dialog);
+        dynamic_cast<QMessageBox&>(dialog).button(button)->click();
+      });
+    }
+  };
+  const auto pickNoFile = [&] {
+    answers.push_back([&words](QDialog& dialog) {
+      words += dialog.windowTitle();
+      words += dynamic_cast<QFileDialog&>(dialog).nameFilters();
+      dialog.reject();
+    });
+  };
+  const auto key = [this](Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    window->activateWindow();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    QTest::keyClick(window->focusWidget(), key, modifiers);
+  };
+  // A column that the control does not know.
+  SaveFile(file, std::string(before).replace(before.find("\"POSIT\": 1"), 0, "\"COLOR\": 3, "));
+  OpenWithPage();
+  emit window->findChild<QMenu*>()->aboutToShow();
+  answers.push_back([note](QDialog& dialog) {
+    note(dialog);
+    dialog.reject();
+  });
+  key(Qt::Key_F1);
+  key(Qt::Key_F, Qt::ControlModifier);
+  note(*window);
+  key(Qt::Key_Escape);
+  answers.push_back([note](QDialog& dialog) {
+    note(dialog);
+    QTest::keyClicks(dialog.findChild<QPlainTextEdit*>(), QStringLiteral("x"));
+    QTimer::singleShot(0, &dialog, &QDialog::reject);
+  });
+  answer({QMessageBox::Discard});
+  Press("cmdPrintLayout(1)");
+  QTest::keyClick(&Find<QLineEdit>("txtGenPrnTitle"), Qt::Key_PageDown, Qt::ControlModifier);
+  QWidget& list = Find<QListView>("lstPrint(1)");
+  QTest::keyClick(&list, Qt::Key_Down, Qt::AltModifier);
+  note(*window);
+  QTest::keyClick(&list, Qt::Key_A, Qt::ControlModifier);
+  note(Find<QLabel>("status"));
+  Press("revert");
+  QTest::keyClick(&list, Qt::Key_PageUp, Qt::ControlModifier);
+
+  Type("!");
+  QTest::keyClicks(&Find<QLineEdit>("txtGenMarginTop"), QStringLiteral("32768"));
+  note(*window);
+  Press("refresh");
+  window->findChild<QTabWidget*>()->setCurrentIndex(1);
+  note(*window);
+  pickNoFile();
+  Press("pdf");
+  answer({QMessageBox::Ok});
+  Press("print");
+  answer({QMessageBox::Save, QMessageBox::Save});
+  pickNoFile();
+  key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+  SaveFile(file, before);
+  answer({QMessageBox::Save, QMessageBox::Save, QMessageBox::Open, QMessageBox::Ok, QMessageBox::Cancel});
+  Press(QDialogButtonBox::Apply);
+  QFile::remove(QString::fromStdString(file));
+  answer({QMessageBox::Save, QMessageBox::Save, QMessageBox::Cancel});
+  Press(QDialogButtonBox::Apply);
+  SaveFile(file, before);
+  answer({QMessageBox::Discard});
+  pickNoFile();
+  key(Qt::Key_O, Qt::ControlModifier);
+  return words;
+}
 
 TEST_F(SettingsWindowTest, TheUserIsAskedBeforeItCloses) {
   Open();
@@ -702,6 +821,37 @@ TEST_F(SettingsWindowTest, ThePageGoesToAFileOrAPrinterOrTheUserIsTold) {
   Press("pdf");
   isTold("There is no printer.\nThe page can be saved as a PDF file.");
   Press("print");
+}
+
+TEST_F(SettingsWindowTest, AllThatIsReadOrHeardIsInTheUsersLanguage) {
+  QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+  qputenv("CUPS_SERVER", "/nowhere");
+  const QStringList english = AllWords();
+  const Translation translation("de");
+  const QStringList german = AllWords();
+  QStringList same;
+  for (const QString& word : german) {
+    const bool isWord = std::any_of(word.begin(), word.end(), [](QChar c) { return c.isLetter(); });
+    if (isWord && english.contains(word) && !same.contains(word)) same.append(word);
+  }
+  EXPECT_EQ(same.join(u'|').toStdString(),
+            "Enter|Escape|F5|F1|general|dimension *|member|attribute|dimension|&1 a.json|OK|Layout: Head part|"
+            "general *|General|PDF (*.pdf)");
+  for (const std::string& told : {
+           std::string("a.json[*] - Druckeinstellungen"),
+           std::string("Abbrechen"),
+           std::string("Wiederherstellen (Strg+Umschalt+Z)"),
+           std::string("Rückgängig: Top (Strg+Z)"),
+           std::string("In der Datei: Orders by region"),
+           std::string(
+               "Region steht jetzt auf Platz 2 von 2. Reihenfolge geändert: New page: <None>, New block: Customer"),
+           std::string("Top 1032768 ist keine Zahl bis 32767: 10 bleibt"),
+           std::string("• dimension, Zeile 1, Spalte COLOR: diese Spalte wird nicht geschrieben"),
+           std::string("  Print title: 'Orders by region' ist jetzt 'Orders by region!'"),
+           "Beim Speichern würde der jetzige Inhalt von " + file + " ersetzt.",
+       }) {
+    EXPECT_TRUE(german.contains(QString::fromStdString(told))) << told;
+  }
 }
 
 TEST(PagePrinting, PutsAllOfThePageOnSheetsAndDividesNoPartWithoutNeed) {

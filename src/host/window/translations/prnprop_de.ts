@@ -353,7 +353,7 @@
     </message>
     <message>
         <source>The file is gone since it was opened.</source>
-        <translation>Die Datei ist nicht mehr vorhanden, seit sie geöffnet wurde.</translation>
+        <translation>Die Datei wurde gelöscht oder verschoben, seit sie geöffnet wurde.</translation>
     </message>
     <message>
         <source>A save would make {0} anew.</source>
@@ -765,7 +765,7 @@
     </message>
     <message>
         <source>&amp;Follow changes</source>
-        <translation>A&amp;utomatischamp;Immer aktuell</translation>
+        <translation>&amp;Immer aktuell</translation>
     </message>
     <message>
         <source>Reads the settings back whenever you pause, as Refresh does</source>
