@@ -155,7 +155,13 @@ Refusal ListBox::UserMouseDown(std::int16_t entry, std::int16_t button) {
   if (button == kLeftButton) held_ = true;
   Place(entry);
   Raise(MouseDown, button);
-  if (button == kLeftButton && held_ && Has(entry)) Selected(entry, !IsMulti() || !Selected(entry));
+  if (button != kLeftButton || !held_ || !Has(entry)) return Refusal::None;
+  if (IsMulti()) {
+    Mark(entry, !Selected(entry));
+  } else {
+    SelectOnly(entry);
+  }
+  Raise(Click);
   return Refusal::None;
 }
 

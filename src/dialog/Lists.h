@@ -19,7 +19,8 @@ class EntryWidget : public Widget {
   EntryWidget(WidgetContext& context, const LayoutRow& row);
   ~EntryWidget() override;
 
-  /// The user's action or a write has changed `ListIndex` or a selection. No other operation raises it.
+  /// A write has changed `ListIndex` or a selection, or the user has clicked an entry of a list, the selected one too,
+  /// or picked another one in a combo box. No other operation raises it.
   std::function<void()> Click;
 
   /// Places an entry; its ItemData is 0 and it is not selected. `NewIndex` is then where it went.

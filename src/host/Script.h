@@ -41,7 +41,7 @@ struct ScriptStep {
   std::function<Refusal(ScriptActions& actions)> act;
 };
 
-/// A line that is not understood. `what()` is one line: the script, the number and the text of the line.
+/// A line that is not understood. `what()` is one line: the script, the number and the text of the line, and why.
 class ScriptError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
