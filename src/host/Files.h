@@ -33,15 +33,17 @@ FileStamp StampOf(const std::string& path);
 
 bool IsFolder(const std::string& path);
 
-/// Tells ahead of any work whether `SaveFile` has a chance to replace or make a regular file: the folder must be
-/// there and take files, and a file that is there must be one that can be written. @throws DocumentError (file and
-/// reason)
+/// Tells ahead of any work whether `SaveFile` has a chance to replace or make a regular file: a file that is there must
+/// be one that can be written, else the folder must be there and take files. @throws DocumentError (file and reason)
 void CheckReplaceable(const std::string& path);
 
 /// Puts the content in the place of the file in one step, or makes the file. A file that is there keeps its
 /// permissions and, where the system lets it, its owner; a symbolic link stays, and what it points to is replaced.
+/// A file of several names (hard links), or in a folder that takes no other file, is written where it is.
 /// What is not a regular file, such as a device or a pipe, is written to as it is.
-/// @throws DocumentError (file and reason). A regular file is untouched then, and nothing is left behind beside it.
+/// What a save that was killed has left in the folder is cleared.
+/// @throws DocumentError (file and reason). A regular file holds what it held then, and nothing is left behind beside
+/// it.
 void SaveFile(const std::string& path, std::string_view content);
 
 }  // namespace ORXKMPrintProp::host

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <cwchar>
 #include <system_error>
 #include <utility>
 
@@ -58,9 +59,10 @@ class Handle {
   HANDLE handle_;
 };
 
-HANDLE Open(const std::wstring& path, DWORD access, DWORD disposition = OPEN_EXISTING) {
-  return ::CreateFileW(path.c_str(), access, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                       disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
+constexpr DWORD kShared = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+HANDLE Open(const std::wstring& path, DWORD access, DWORD disposition = OPEN_EXISTING, DWORD shared = kShared) {
+  return ::CreateFileW(path.c_str(), access, shared, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
 }
 
 bool Write(const Handle& file, std::string_view content) {
@@ -72,6 +74,21 @@ bool Write(const Handle& file, std::string_view content) {
     content.remove_prefix(written);
   }
   return true;
+}
+
+/// All that can still be read. @throws DocumentError
+std::string ReadAll(HANDLE file, const std::string& name) {
+  std::string content;
+  char buffer[1 << 16];
+  for (;;) {
+    DWORD count = 0;
+    if (!::ReadFile(file, buffer, sizeof buffer, &count, nullptr)) {
+      if (::GetLastError() == ERROR_BROKEN_PIPE) return content;  // how a pipe ends
+      Fail(name);
+    }
+    if (count == 0) return content;
+    content.append(buffer, count);
+  }
 }
 
 /// What stands at the end of the links.
@@ -87,6 +104,8 @@ struct Target {
     isThere = true;
     isRegular = ::GetFileType(opened.Get()) == FILE_TYPE_DISK;
     if (!isRegular) return;
+    BY_HANDLE_FILE_INFORMATION about{};
+    hasOneName = !::GetFileInformationByHandle(opened.Get(), &about) || about.nNumberOfLinks <= 1;
     std::wstring followed(::GetFinalPathNameByHandleW(opened.Get(), nullptr, 0, FILE_NAME_NORMALIZED), L'\0');
     const auto room = static_cast<DWORD>(followed.size());
     const DWORD length = ::GetFinalPathNameByHandleW(opened.Get(), followed.data(), room, FILE_NAME_NORMALIZED);
@@ -101,12 +120,16 @@ struct Target {
   std::wstring path;
   bool isThere = false;
   bool isRegular = true;
+  bool hasOneName = true;
 };
 
-/// A file that goes away with this object unless it has been moved to its place.
+/// A file that goes away with this object unless it has been moved to its place. Of those that programs have left that
+/// were killed the folder is cleared.
 class TemporaryFile {
  public:
-  explicit TemporaryFile(const std::wstring& folder) : file_(Create(folder)) {}
+  explicit TemporaryFile(const std::wstring& folder) : file_(Create(folder)) {
+    if (isThere_) ClearAbandoned(folder);
+  }
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
   ~TemporaryFile() {
@@ -133,16 +156,72 @@ class TemporaryFile {
          ++attempt) {
       path_ =
           folder + L".prnprop-" + std::to_wstring(::GetCurrentProcessId()) + L"-" + std::to_wstring(attempt) + L".tmp";
-      file = Open(path_, GENERIC_WRITE, CREATE_NEW);
+      file = Open(path_, GENERIC_WRITE, CREATE_NEW, 0);
     }
     isThere_ = file != INVALID_HANDLE_VALUE;
     return file;
+  }
+
+  /// Whether it is the name of a file of a program that is no more.
+  static bool IsAbandoned(const wchar_t* name) {
+    unsigned long process = 0;
+    int end = 0;
+    if (std::swscanf(name, L".prnprop-%lu-%*[0-9].tmp%n", &process, &end) != 1 || name[end] != L'\0') return false;
+    const HANDLE running = ::OpenProcess(SYNCHRONIZE, FALSE, process);
+    if (!running) return ::GetLastError() == ERROR_INVALID_PARAMETER;
+    const bool hasEnded = ::WaitForSingleObject(running, 0) == WAIT_OBJECT_0;
+    ::CloseHandle(running);
+    return hasEnded;
+  }
+
+  /// What another computer has open in the folder stays too, since it is not shared.
+  static void ClearAbandoned(const std::wstring& folder) {
+    WIN32_FIND_DATAW found;
+    const HANDLE search = ::FindFirstFileW((folder + L".prnprop-*.tmp").c_str(), &found);
+    if (search == INVALID_HANDLE_VALUE) return;
+    do {
+      if (IsAbandoned(found.cFileName)) ::DeleteFileW((folder + found.cFileName).c_str());
+    } while (::FindNextFileW(search, &found));
+    ::FindClose(search);
   }
 
   std::wstring path_;
   bool isThere_ = false;
   Handle file_;
 };
+
+/// @return False when the file must be written where it is, since its folder lets nothing take its place.
+bool Replace(const std::string& path, const Target& target, std::string_view content) {
+  const auto isRefused = [&] { return target.isThere && ::GetLastError() == ERROR_ACCESS_DENIED; };
+  TemporaryFile temporary(target.Folder());
+  Handle& file = temporary.File();
+  if (!file.IsOpen() && isRefused()) return false;
+  if (!file.IsOpen() || !Write(file, content) || !::FlushFileBuffers(file.Get()) || !file.Close()) Fail(path);
+  if (!temporary.MoveTo(target)) {
+    if (isRefused()) return false;
+    Fail(path);
+  }
+  return true;
+}
+
+bool Overwrite(const Handle& file, std::string_view content) {
+  return ::SetFilePointerEx(file.Get(), {}, nullptr, FILE_BEGIN) && Write(file, content) &&
+         ::SetEndOfFile(file.Get()) && ::FlushFileBuffers(file.Get());
+}
+
+/// Writes the file where it is; what can't be written leaves what it held.
+void Overwrite(const std::string& path, std::string_view content) {
+  const Handle file(Open(Wide(path), GENERIC_READ | GENERIC_WRITE));
+  FILETIME written{};
+  if (!file.IsOpen() || !::GetFileTime(file.Get(), nullptr, nullptr, &written)) Fail(path);
+  const std::string former = ReadAll(file.Get(), path);
+  if (Overwrite(file, content)) return;
+  const std::string reason = Words(::GetLastError());
+  // What it held has its place on the disk.
+  if (!Overwrite(file, former)) throw DocumentError({.file = path}, reason + "; what it held is lost in part");
+  ::SetFileTime(file.Get(), nullptr, nullptr, &written);
+  throw DocumentError({.file = path}, reason);
+}
 
 }  // namespace
 
@@ -160,18 +239,7 @@ std::string ReadFile(const std::string& path) {
   const Handle opened(standard ? INVALID_HANDLE_VALUE : Open(Wide(path), GENERIC_READ));
   if (!standard && !opened.IsOpen()) FailToOpen(path);
   const HANDLE file = standard ? ::GetStdHandle(STD_INPUT_HANDLE) : opened.Get();
-
-  std::string content;
-  char buffer[1 << 16];
-  for (;;) {
-    DWORD count = 0;
-    if (!::ReadFile(file, buffer, sizeof buffer, &count, nullptr)) {
-      if (::GetLastError() == ERROR_BROKEN_PIPE) return content;  // how a pipe ends
-      Fail(InputName(path));
-    }
-    if (count == 0) return content;
-    content.append(buffer, count);
-  }
+  return ReadAll(file, InputName(path));
 }
 
 FileStamp StampOf(const std::string& path) {
@@ -188,7 +256,7 @@ bool IsFolder(const std::string& path) { return IsFolder(Wide(path)); }
 void CheckReplaceable(const std::string& path) {
   const Target target(path);
   if (!target.isRegular) throw DocumentError({.file = path}, "It is not a regular file");
-  if (!TemporaryFile(target.Folder()).File().IsOpen()) Fail(path);
+  if (!target.isThere && !TemporaryFile(target.Folder()).File().IsOpen()) Fail(path);
 }
 
 void SaveFile(const std::string& path, std::string_view content) {
@@ -198,12 +266,7 @@ void SaveFile(const std::string& path, std::string_view content) {
     if (!device.IsOpen() || !Write(device, content) || !device.Close()) Fail(path);
     return;
   }
-  TemporaryFile temporary(target.Folder());
-  Handle& file = temporary.File();
-  if (!file.IsOpen() || !Write(file, content) || !::FlushFileBuffers(file.Get()) || !file.Close() ||
-      !temporary.MoveTo(target)) {
-    Fail(path);
-  }
+  if (!target.hasOneName || !Replace(path, target, content)) Overwrite(path, content);
 }
 
 }  // namespace ORXKMPrintProp::host
