@@ -12,6 +12,8 @@
 #include <utility>
 
 #include "host/Load.h"
+#include "host/SettingsColumns.h"
+#include "host/Spelling.h"
 #include "host/Utf8.h"
 #include "model/PrnPropCls.h"
 #include "tables/CaseFolding.h"
@@ -133,6 +135,16 @@ std::optional<ChangeKind> KindOfChange(std::optional<CellKind> kind, bool isAxis
   }
 }
 
+/// What to say of a column that nobody knows: the one that was meant, which is empty then.
+std::string ColumnMeant(const char* table, const Text& column, const Row& row) {
+  std::vector<std::string> known;
+  for (const Text& name : KnownColumns(table)) {
+    if (name == column) return {};
+    if (IsEmpty(row.Value(name))) known.push_back(ToUtf8(name));
+  }
+  return DidYouMean(ToUtf8(column), known);
+}
+
 bool IsLayout(TextView column) { return column.ends_with(u"_LAYOUT"); }
 
 std::string ReasonOf(ChangeKind kind, TextView column, bool isStructure) {
@@ -178,6 +190,7 @@ std::vector<Change> CellChanges(const TableRules& rules, const std::vector<Text>
       change.loss = cellKind == CellKind::Code ? !IsBlank(change.from) : !IsEmpty(change.from);
     }
     change.reason = ReasonOf(change.kind, column, isStructure);
+    if (change.kind == ChangeKind::ColumnDropped) change.reason += ColumnMeant(rules.member.name, column, before);
     changes.push_back(std::move(change));
   }
   return changes;

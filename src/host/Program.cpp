@@ -12,12 +12,14 @@
 #include <vector>
 
 #include "host/Check.h"
+#include "host/Completion.h"
 #include "host/Diff.h"
 #include "host/ExitStatus.h"
 #include "host/Files.h"
 #include "host/Load.h"
 #include "host/Readback.h"
 #include "host/Show.h"
+#include "host/Spelling.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
@@ -39,7 +41,10 @@ void AddCheck(CLI::App& program, int& status) {
   check->add_flag("--json", options->json, "One JSON object per document, a line each");
   check->footer(
       "Ends with 0 when nothing is lost, 1 when something would be or a load fails, 3 when a file is not a\n"
-      "settings document. Load errors call the tables GenPropTable, it_dim, it_mem and it_atr.");
+      "settings document. Load errors call the tables GenPropTable, it_dim, it_mem and it_atr.\n"
+      "\n"
+      "Examples:\n"
+      "  prnprop check *.json");
   check->callback([options, &status] { status = Check(options->files, options->json, std::cout, std::cerr); });
 }
 
@@ -47,6 +52,7 @@ void AddShow(CLI::App& program) {
   const auto file = std::make_shared<std::string>();
   CLI::App* const show = program.add_subcommand("show", "Shows what would be printed, and what would not");
   show->add_option("FILE", *file, "Settings document")->required();
+  show->footer("Examples:\n  prnprop show sales.json");
   show->callback([file] { Show(*file, WantsColor(), std::cout); });
 }
 
@@ -63,7 +69,11 @@ void AddDiff(CLI::App& program, int& status, std::optional<int>& failure) {
       "Compares what the settings mean, as they are after a load, and their layouts: other codes or types of the\n"
       "same meaning are no difference, nor is anything that a load drops or that has no effect, such as a width\n"
       "while it is automatic.\n"
-      "Ends with 0 when the settings are the same, 1 when they differ, 2 when anything fails.");
+      "Ends with 0 when the settings are the same, 1 when they differ, 2 when anything fails.\n"
+      "\n"
+      "Examples:\n"
+      "  prnprop diff before.json after.json\n"
+      "  git show HEAD:sales.json | prnprop diff --texts german.json - sales.json");
   diff->callback([options, &status, &failure] {
     failure = kTrouble;
     const std::string inputs[] = {options->before, options->after, options->texts.value_or("")};
@@ -84,6 +94,10 @@ void AddReadback(CLI::App& program) {
   readback->add_option("FILE", options->file, "Settings document")->required();
   readback->add_option("-o,--output", options->out, "File to write or replace, instead of standard output")
       ->type_name("OUT");
+  readback->footer(
+      "Examples:\n"
+      "  prnprop readback sales.json\n"
+      "  prnprop readback -o sales.json sales.json");
   readback->callback([options] { Readback(options->file, options->out, std::cout); });
 }
 
@@ -91,7 +105,58 @@ void AddDrive(CLI::App& program, int& status) {
   const auto options = std::make_shared<DriveOptions>();
   CLI::App* const drive = program.add_subcommand("drive", "Does to the dialog what a script says, without a window");
   AddDriveArguments(*drive, *options);
+  drive->footer(
+      "Examples:\n"
+      "  prnprop drive sales.json set-breaks.drive\n"
+      "  echo state | prnprop drive --read-only sales.json");
   drive->callback([options, &status] { status = Drive(*options, std::cout, std::cerr); });
+}
+
+constexpr const char* kHelp = "help";
+
+/// What stood where a command was needed, or an option of one.
+std::string UnknownWord(const CLI::App& program, const CLI::App* command, const std::string& word) {
+  if (!word.starts_with('-')) {
+    return "there is no command " + word + DidYouMean(word, NamesOfCommands(program));
+  }
+  const std::string option = word.substr(0, word.find('='));
+  return "there is no option " + option + DidYouMean(option, NamesOfOptions(command ? *command : program));
+}
+
+std::string UsageError(const CLI::App& program, const CLI::Error& error) {
+  const auto commands = program.get_subcommands();
+  const CLI::App* const command = commands.empty() ? nullptr : commands.front();
+  const auto unknown = (command ? *command : program).remaining();
+  const bool isUnknown = !unknown.empty() && (!command || unknown.front().starts_with('-'));
+  const bool hasHelp = command && command->get_name() != kHelp;
+  return "prnprop: " + (isUnknown ? UnknownWord(program, command, unknown.front()) : std::string(error.what())) +
+         "\nTry prnprop " + (hasHelp ? command->get_name() + " " : "") + "--help.\n";
+}
+
+void AddHelp(CLI::App& program) {
+  const auto name = std::make_shared<std::string>();
+  CLI::App* const help = program.add_subcommand(kHelp, "Tells how the program, or a command, is used");
+  help->add_option("COMMAND", *name, "The command");
+  help->footer("Examples:\n  prnprop help diff");
+  help->callback([name, &program] {
+    const Names commands = NamesOfCommands(program);
+    if (name->empty()) {
+      std::cout << program.get_formatter()->make_help(&program, program.get_name(), CLI::AppFormatMode::Normal);
+    } else if (std::find(commands.begin(), commands.end(), *name) == commands.end()) {
+      throw CLI::ValidationError(UnknownWord(program, nullptr, *name));
+    } else {
+      std::cout << program.get_subcommand(*name)->help(program.get_name());
+    }
+  });
+}
+
+/// Nobody but the build needs it.
+void AddCompletion(CLI::App& program) {
+  const auto shell = std::make_shared<std::string>();
+  CLI::App* const completion = program.add_subcommand("completion", "Prints what completes the command line");
+  completion->group("");
+  completion->add_option("SHELL", *shell, "bash, zsh or fish")->required()->check(CLI::IsMember(kShells));
+  completion->callback([shell, &program] { std::cout << CompletionFor(*shell, program); });
 }
 
 int Run(int argc, char** argv, const AddCommands& addCommands, std::optional<int>& failure) {
@@ -103,12 +168,7 @@ int Run(int argc, char** argv, const AddCommands& addCommands, std::optional<int
   program.require_subcommand(1);
   // A path that begins with a slash is no option on any system.
   program.allow_windows_style_options(false);
-  program.failure_message([](const CLI::App* failed, const CLI::Error& error) {
-    const auto unknown = failed->remaining();
-    const bool noCommand = failed->get_subcommands().empty() && !unknown.empty();
-    return "prnprop: " + (noCommand ? "there is no command " + unknown.front() : std::string(error.what())) +
-           "\nTry prnprop --help.\n";
-  });
+  program.failure_message([](const CLI::App* failed, const CLI::Error& error) { return UsageError(*failed, error); });
   int status = kSuccess;
   AddCheck(program, status);
   AddShow(program);
@@ -116,6 +176,8 @@ int Run(int argc, char** argv, const AddCommands& addCommands, std::optional<int
   AddReadback(program);
   AddDrive(program, status);
   if (addCommands) addCommands(program, status);
+  AddHelp(program);
+  AddCompletion(program);
   try {
     program.parse(argc, argv);
   } catch (const CLI::ParseError& error) {

@@ -9,6 +9,7 @@
 #include "host/Files.h"
 #include "host/SettingsColumns.h"
 #include "host/SettingsDocument.h"
+#include "host/Spelling.h"
 #include "host/Utf8.h"
 #include "tables/TableCalls.h"
 
@@ -165,7 +166,11 @@ class Builder final : public nlohmann::json_sax<Json> {
     member_ = std::find_if(std::begin(kTableMembers), std::end(kTableMembers),
                            [&](const TableMember& member) { return name == member.name; });
     place_.table = name;
-    if (member_ == std::end(kTableMembers)) Fail("there is no such table");
+    if (member_ == std::end(kTableMembers)) {
+      std::vector<std::string> names;
+      for (const TableMember& member : kTableMembers) names.emplace_back(member.name);
+      Fail("there is no such table" + DidYouMean(name, names));
+    }
     if (document_.*member_->table) Fail("there are two members of this name");
     table_.emplace(name);
     level_ = Level::Table;

@@ -1,13 +1,16 @@
 #include "host/editor/WindowCommands.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <charconv>
 #include <iostream>
 #include <memory>
 #include <string_view>
+#include <vector>
 
 #include "host/Files.h"
 #include "host/Program.h"
+#include "host/Spelling.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
@@ -37,6 +40,21 @@ std::optional<PictureSize> ParsePictureSize(const std::string& text) {
   return PictureSize{.factor = *factor};
 }
 
+/// In the order of their tabs.
+const std::vector<std::string> kPages{"general", "characteristics", "attributes", "structures"};
+
+/// Makes its number of the name of a page. @return what is wrong with it, empty for nothing
+std::string NumberPage(std::string& page) {
+  if (const auto number = NumberIn<std::size_t>(page); number && *number < kPages.size()) return {};
+  const auto found = std::find(kPages.begin(), kPages.end(), CLI::detail::to_lower(page));
+  if (found == kPages.end()) {
+    const std::string meant = DidYouMean(page, kPages);
+    return "there is no page " + page + (meant.empty() ? ", only " + CLI::detail::join(kPages, ", ") : meant);
+  }
+  page = std::to_string(found - kPages.begin());
+  return {};
+}
+
 void AddSettings(CLI::App& command, EditOptions& options, bool needsFile) {
   command.add_option("FILE", options.file, needsFile ? "Settings document" : "Settings document, else new settings")
       ->required(needsFile);
@@ -49,6 +67,10 @@ void AddEdit(CLI::App& program, const WindowCommands& commands, int& status) {
   CLI::App* const edit = program.add_subcommand("edit", "Opens the dialog in a window");
   AddSettings(*edit, *options, false);
   edit->add_option("-o,--output", options->out, "File to save to, instead of FILE")->type_name("OUT");
+  edit->footer(
+      "Examples:\n"
+      "  prnprop edit sales.json\n"
+      "  prnprop edit --texts german.json -o changed.json sales.json");
   edit->callback([options, run = commands.edit, &status] {
     if (options->out.value_or(options->file) == kStandardStream) {
       throw CLI::ValidationError("-o OUT is needed, with the name of a file to save to");
@@ -66,12 +88,17 @@ void AddShot(CLI::App& program, const WindowCommands& commands) {
   const auto options = std::make_shared<Options>();
   CLI::App* const shot = program.add_subcommand("shot", "Draws a page of the dialog, also without a display");
   AddSettings(*shot, options->shot.settings, true);
-  shot->add_option("--page", options->shot.page, "0 General, 1 Characteristics, 2 Attributes, 3 Structures")
+  shot->add_option("--page", options->shot.page, "The page, also by its number from 0 to 3")
       ->required()
-      ->check(CLI::Range(0, 3));
+      ->transform(CLI::Validator(NumberPage, ""))
+      ->type_name(CLI::detail::join(kPages, "|"));
   shot->add_flag("--window", options->shot.window, "The whole window of edit, not the dialog alone");
   shot->add_option("--size", options->size, "A factor such as 2, or WIDTHxHEIGHT in pixels")->type_name("SIZE");
   shot->add_option("-o,--output", options->out, "PNG file to write or replace")->required()->type_name("OUT");
+  shot->footer(
+      "Examples:\n"
+      "  prnprop shot --page characteristics -o page.png sales.json\n"
+      "  prnprop shot --page general --window --size 2 -o window.png sales.json");
   shot->callback([options, draw = commands.shot] {
     const auto size = ParsePictureSize(options->size);
     if (!size) {
