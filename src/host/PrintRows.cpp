@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <map>
 #include <utility>
 
+#include "host/SettingsDocument.h"
 #include "host/Terminal.h"
 #include "tables/CellCodecs.h"
 #include "tables/Conversions.h"
@@ -77,6 +79,26 @@ std::vector<Owner> OwnersOf(const Rows& owners, const Rows& owned) {
     result.push_back(std::move(owner));
   }
   return result;
+}
+
+Printout PrintoutOf(const Snapshot& readBack) {
+  Rows printed, hidden, structures;
+  for (const RowRef& row : readBack.Dimension().rows) {
+    (IsStructure(*row) ? structures : IsPrinted(*row) ? printed : hidden).push_back(row);
+  }
+  SortByPosition(printed);
+  const std::size_t count = printed.size();
+  printed.insert(printed.end(), hidden.begin(), hidden.end());
+  Printout printout{.characteristics = OwnersOf(printed, readBack.Attribute().rows),
+                    .structures = OwnersOf(structures, readBack.Member().rows)};
+  const auto end = printout.characteristics.begin() + static_cast<std::ptrdiff_t>(count);
+  std::move(end, printout.characteristics.end(), std::back_inserter(printout.hidden));
+  printout.characteristics.erase(end, printout.characteristics.end());
+  for (Owner& owner : printout.hidden) {
+    owner.hidden.insert(owner.hidden.begin(), owner.printed.begin(), owner.printed.end());
+    owner.printed.clear();
+  }
+  return printout;
 }
 
 }  // namespace ORXKMPrintProp::host

@@ -3,6 +3,7 @@
 #include <initializer_list>
 #include <vector>
 
+#include "host/Snapshot.h"
 #include "tables/Table.h"
 
 namespace ORXKMPrintProp::host {
@@ -56,5 +57,13 @@ struct Owner {
 
 /// @param owners all characteristics, or all structures.
 std::vector<Owner> OwnersOf(const Rows& owners, const Rows& owned);
+
+/// What would be printed, and what would not.
+struct Printout {
+  std::vector<Owner> characteristics = {};  ///< in print order
+  std::vector<Owner> hidden = {};           ///< characteristics that are not printed, and so nothing below them
+  std::vector<Owner> structures = {};
+};
+Printout PrintoutOf(const Snapshot& readBack);
 
 }  // namespace ORXKMPrintProp::host

@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
+#include <initializer_list>
 #include <iostream>
 #include <memory>
 #include <optional>
@@ -48,12 +49,29 @@ void AddCheck(CLI::App& program, int& status) {
   check->callback([options, &status] { status = Check(options->files, options->json, std::cout, std::cerr); });
 }
 
-void AddShow(CLI::App& program) {
-  const auto file = std::make_shared<std::string>();
+void RefuseTwoFromStandardInput(std::initializer_list<std::string> inputs) {
+  if (std::count(inputs.begin(), inputs.end(), kStandardStream) > 1) {
+    throw CLI::ValidationError("standard input can be read only once");
+  }
+}
+
+void AddShow(CLI::App& program, int& status) {
+  const auto options = std::make_shared<ShowOptions>();
   CLI::App* const show = program.add_subcommand("show", "Shows what would be printed, and what would not");
-  show->add_option("FILE", *file, "Settings document")->required();
-  show->footer("Examples:\n  prnprop show sales.json");
-  show->callback([file] { Show(*file, WantsColor(), std::cout); });
+  show->add_option("FILE", options->file, "Settings document")->required();
+  CLI::Option* const texts =
+      show->add_option("--texts", options->texts, "Document whose text table is used")->type_name("TEXTS");
+  show->add_flag("--json", options->json, "One JSON object, with words that no text table changes")->excludes(texts);
+  show->footer(
+      "Examples:\n"
+      "  prnprop show sales.json\n"
+      "  prnprop show --texts german.json sales.json\n"
+      "  prnprop show --json sales.json | jq .page.title");
+  show->callback([options, &status] {
+    RefuseTwoFromStandardInput({options->file, options->texts.value_or("")});
+    options->color = WantsColor();
+    status = Show(*options, std::cout);
+  });
 }
 
 /// @param failure becomes what the program ends with when anything fails, whatever that is.
@@ -76,10 +94,7 @@ void AddDiff(CLI::App& program, int& status, std::optional<int>& failure) {
       "  git show HEAD:sales.json | prnprop diff --texts german.json - sales.json");
   diff->callback([options, &status, &failure] {
     failure = kTrouble;
-    const std::string inputs[] = {options->before, options->after, options->texts.value_or("")};
-    if (std::count(std::begin(inputs), std::end(inputs), kStandardStream) > 1) {
-      throw CLI::ValidationError("standard input can be read only once");
-    }
+    RefuseTwoFromStandardInput({options->before, options->after, options->texts.value_or("")});
     status = Diff(*options, std::cout);
   });
 }
@@ -171,7 +186,7 @@ int Run(int argc, char** argv, const AddCommands& addCommands, std::optional<int
   program.failure_message([](const CLI::App* failed, const CLI::Error& error) { return UsageError(*failed, error); });
   int status = kSuccess;
   AddCheck(program, status);
-  AddShow(program);
+  AddShow(program, status);
   AddDiff(program, status, failure);
   AddReadback(program);
   AddDrive(program, status);

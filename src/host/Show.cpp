@@ -8,9 +8,13 @@
 #include <utility>
 #include <vector>
 
+#include "control/ORXQueryPrnProp.h"
+#include "control/SharedValues.h"
+#include "host/ExitStatus.h"
 #include "host/Load.h"
 #include "host/PrintRows.h"
 #include "host/SettingsDocument.h"
+#include "host/ShowJson.h"
 #include "host/Terminal.h"
 #include "host/Utf8.h"
 #include "host/Words.h"
@@ -227,17 +231,7 @@ void ShowHidden(const Text& what, const std::vector<std::pair<Text, Rows>>& owne
 }  // namespace
 
 void Show(const Snapshot& readBack, bool color, std::ostream& out) {
-  Rows printed;
-  Rows hidden;
-  Rows structureRows;
-  for (const RowRef& row : readBack.Dimension().rows) {
-    (IsStructure(*row) ? structureRows : IsPrinted(*row) ? printed : hidden).push_back(row);
-  }
-  SortByPosition(printed);
-  Rows all = printed;
-  all.insert(all.end(), hidden.begin(), hidden.end());
-  const auto owners = OwnersOf(all, readBack.Attribute().rows);
-  const auto structures = OwnersOf(structureRows, readBack.Member().rows);
+  const Printout printout = PrintoutOf(readBack);
 
   Grid page(color, out);
   ShowPage(*readBack.General().rows.at(0), page);
@@ -245,39 +239,41 @@ void Show(const Snapshot& readBack, bool color, std::ostream& out) {
 
   out << "\n";
   Grid characteristics(color, out);
-  ShowCharacteristics(std::span(owners).first(printed.size()), characteristics);
+  ShowCharacteristics(printout.characteristics, characteristics);
   characteristics.Print();
 
-  for (const Owner& structure : structures) {
+  for (const Owner& structure : printout.structures) {
     out << "\n";
     Grid elements(color, out);
     ShowStructure(structure, elements);
     elements.Print();
   }
 
-  // Nothing below a characteristic that is not printed is printed.
-  std::vector<std::pair<Text, Rows>> attributes;
-  attributes.reserve(owners.size());
-  for (const Owner& owner : owners) {
-    Rows rows = owner.hidden;
-    if (!IsPrinted(*owner.row)) rows.insert(rows.begin(), owner.printed.begin(), owner.printed.end());
-    attributes.emplace_back(OwnerName(*owner.row), rows);
+  std::vector<std::pair<Text, Rows>> hidden{{Text(), {}}}, attributes, elements;
+  for (const Owner& owner : printout.characteristics) attributes.emplace_back(OwnerName(*owner.row), owner.hidden);
+  for (const Owner& owner : printout.hidden) {
+    hidden[0].second.push_back(owner.row);
+    attributes.emplace_back(OwnerName(*owner.row), owner.hidden);
   }
-  std::vector<std::pair<Text, Rows>> elements;
-  elements.reserve(structures.size());
-  for (const Owner& owner : structures) elements.emplace_back(OwnerName(*owner.row), owner.hidden);
+  for (const Owner& owner : printout.structures) elements.emplace_back(OwnerName(*owner.row), owner.hidden);
 
   Grid rest(color, out);
-  ShowHidden(WordFor(u"ID_PRN_CHAR", "Characteristics"), {{Text(), hidden}}, OwnerName, rest);
+  ShowHidden(WordFor(u"ID_PRN_CHAR", "Characteristics"), hidden, OwnerName, rest);
   ShowHidden(WordFor(u"ID_PRN_ATTR", "Attributes"), attributes, AttributeName, rest);
   ShowHidden(TranslatedText("Structure elements"), elements, ElementName, rest);
   rest.PrintBelow(TranslatedText("Not printed"));
 }
 
-void Show(const std::string& path, bool color, std::ostream& out) {
-  const SettingsDocument document = ReadSettings(path);
+int Show(const ShowOptions& options, std::ostream& out) {
+  if (options.json) return ShowJson(options.file, out);
+  const SharedValuesGuard guard;
+  const SettingsDocument document = ReadSettings(options.file);
+  const MemoryTableRef texts = options.texts ? ReadSettings(*options.texts).texts : document.texts;
   LoadAndReadBack(document);
-  Show(SnapshotOf(document), color, out);
+  ORXQueryPrnProp control;
+  if (texts) control.ORXControlTexts(texts);
+  Show(SnapshotOf(document), options.color, out);
+  return kSuccess;
 }
 
 }  // namespace ORXKMPrintProp::host

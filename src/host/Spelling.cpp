@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <utility>
 
+#include "views/Translation.h"
+
 namespace ORXKMPrintProp::host {
 namespace {
 
@@ -42,7 +44,7 @@ std::string DidYouMean(std::string_view word, const std::vector<std::string>& kn
       nearest = &each;
     }
   }
-  return nearest ? ", did you mean " + *nearest + "?" : "";
+  return nearest ? views::Filled(views::Translated(", did you mean {0}?"), {*nearest}) : "";
 }
 
 }  // namespace ORXKMPrintProp::host

@@ -64,7 +64,7 @@ TEST(PageSketchTest, DrawsWhatTheSettingsSay) {
     const EditedSettings settings({.file = file}, Platform::Plain());
     EXPECT_EQ(TextOf(SketchOf(settings.Now())), ReadFile(folder + name + ".txt")) << name;
     std::ostringstream shown;
-    Show(file, false, shown);
+    Show({.file = file}, shown);
     const std::string layouts =
         "\nLayouts\n  Top page: <top>  one two…\n  Head part: \n  Foot part: " + std::string(199, 'x') +
         "…\n"

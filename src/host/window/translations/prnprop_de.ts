@@ -1019,5 +1019,9 @@
         <source>A handler failed without telling why.</source>
         <translation>Ein Aufruf ist ohne Angabe eines Grundes gescheitert.</translation>
     </message>
+    <message>
+        <source>, did you mean {0}?</source>
+        <translation>, war {0} gemeint?</translation>
+    </message>
 </context>
 </TS>
