@@ -6,6 +6,7 @@ test_packages=(libgtest-dev pkg-config xvfb openbox xdotool dbus-daemon at-spi2-
 bench_packages=(libbenchmark-dev libsqlite3-dev)
 windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools googletest wine wine64
                   libwine-dev)
+picture_packages=(imagemagick)
 fuzz_packages=(clang libclang-rt-14-dev)
 
 # Installs what is missing, and asks before it does when not run as root. Says nothing when nothing is missing.
