@@ -3,6 +3,7 @@
 #include <functional>
 #include <limits>
 #include <map>
+#include <utility>
 
 #include "support/table_text.h"
 #include "support/transcript.h"
@@ -10,6 +11,7 @@
 #include "tables/Collection.h"
 #include "tables/Conversions.h"
 #include "tables/MemoryTable.h"
+#include "tables/PackedText.h"
 #include "tables/RunTimeError.h"
 #include "tables/TableCalls.h"
 #include "texts/LookupText.h"
@@ -84,6 +86,20 @@ TEST(Conversions, RefuseWhatHasNoNotation) {
   EXPECT_EQ(LeadingNumber(u"7\u00e4") + LeadingNumber(u"\u00e47"), 7);
   EXPECT_THROW(ToText(ObjectRef()), RunTimeError);
   EXPECT_EQ(ToText(std::int16_t{-3}) + ToText(Variant(1.5e-7)), u"-30.00000015");
+}
+
+TEST(TextThatIsPacked, ComesBackAsItWas) {
+  const Text texts[] = {u"",       u"X",      u"15 characters .",   u"16 characters ..", Text(u"\0a\0", 3),
+                        u"\u00FF", u"\u0100", u"\u4E00 and \xD800", Text(300, u'a')};
+  PackedText changing;
+  for (const Text& text : texts) {
+    const PackedText packed(text);
+    PackedText copy = packed;
+    changing = copy;
+    EXPECT_EQ(PackedText(std::move(copy)).Unpacked(), text);
+    EXPECT_EQ(changing.Unpacked(), text);
+    EXPECT_EQ(packed.Unpacked(), text);
+  }
 }
 
 TEST(CollectionOfItems, KeepsNumbersAndKeysTogether) {

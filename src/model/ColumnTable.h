@@ -37,7 +37,7 @@ using ColumnsOf = std::span<const ColumnOf<Class>>;
 struct TextCell {
   static constexpr CellKind kKind = CellKind::Text;
   static Text Read(Variant&& cell) { return ToText(std::move(cell)); }
-  static Variant Write(const Text& value) { return value; }
+  static Variant Write(Text value) { return value; }
 };
 
 struct IntegerCell {

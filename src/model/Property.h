@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <utility>
 
+#include "tables/PackedText.h"
 #include "tables/Text.h"
 
 namespace ORXKMPrintProp {
@@ -17,6 +18,17 @@ class Property {
 
  private:
   T value_{};
+};
+
+/// A text is handed out as a copy, since it is kept packed.
+template <>
+class Property<Text> {
+ public:
+  Text operator()() const { return value_.Unpacked(); }
+  void operator()(TextView value) { value_ = PackedText(value); }
+
+ private:
+  PackedText value_;
 };
 
 using TextProperty = Property<Text>;

@@ -122,7 +122,7 @@ Text ToText(std::int32_t number) {
   return Widened(digits, std::to_chars(digits, std::end(digits), number).ptr);
 }
 
-Text ToText(Variant&& value) {
+Text TextOfOther(const Variant& value) {
   return std::visit(
       Overloaded{
           [](std::monostate) { return Text(); },
@@ -133,7 +133,7 @@ Text ToText(Variant&& value) {
             char digits[512];  // the largest double has 309 digits, the smallest 326 behind the point
             return Widened(digits, std::to_chars(digits, std::end(digits), number, std::chars_format::fixed).ptr);
           },
-          [](Text& text) { return std::move(text); },
+          [](const Text& text) { return text; },
           [](const ObjectRef& object) { return ToText(PlainValueOf(object, Object::Wanted::Text)); },
       },
       value);

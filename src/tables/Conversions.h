@@ -11,10 +11,15 @@
 
 namespace ORXKMPrintProp {
 
+Text TextOfOther(const Variant& value);
+
 /// The value as a text: a text unchanged, blanks included; a number in decimal digits, a double in as few as give
 /// it back; a Boolean "True" or "False"; an empty value the empty text; an object what it has for a text.
 /// @throws RunTimeError (Type) for an object that has nothing.
-Text ToText(Variant&& value);
+inline Text ToText(Variant&& value) {
+  Text* const text = std::get_if<Text>(&value);
+  return text ? std::move(*text) : TextOfOther(value);
+}
 
 /// What stands for the object where a text or a number is wanted. @throws RunTimeError (Type), also for none.
 Variant PlainValueOf(const ObjectRef& object, Object::Wanted wanted);

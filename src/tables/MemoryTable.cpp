@@ -4,10 +4,13 @@
 #include <cstring>
 #include <optional>
 #include <span>
+#include <type_traits>
 #include <unordered_map>
 #include <utility>
+#include <variant>
 
 #include "tables/Conversions.h"
+#include "tables/PackedText.h"
 #include "tables/RunTimeError.h"
 
 namespace ORXKMPrintProp {
@@ -53,20 +56,51 @@ class MemoryColumns {
   mutable std::size_t last_ = 0;
 };
 
+/// A cell as the table keeps it.
+using MemoryCell = std::variant<std::monostate, bool, std::int16_t, std::int32_t, double, PackedText, ObjectRef>;
+
+namespace {
+
+MemoryCell Packed(PlainVariant&& value) {
+  return std::visit(
+      []<class Value>(Value& plain) -> MemoryCell {
+        if constexpr (std::is_same_v<Value, Text>) {
+          return PackedText(plain);
+        } else {
+          return std::move(plain);
+        }
+      },
+      value);
+}
+
+Variant Unpacked(const MemoryCell& cell) {
+  return std::visit(
+      []<class Value>(const Value& kept) -> Variant {
+        if constexpr (std::is_same_v<Value, PackedText>) {
+          return kept.Unpacked();
+        } else {
+          return kept;
+        }
+      },
+      cell);
+}
+
+}  // namespace
+
 class MemoryRow final : public Row {
  public:
-  MemoryRow(const MemoryColumns& columns, std::span<Variant> cells, std::int32_t number)
+  MemoryRow(const MemoryColumns& columns, std::span<MemoryCell> cells, std::int32_t number)
       : columns_(columns), cells_(cells), number_(number) {}
 
-  Variant Value(TextView column) const override { return cells_[columns_.At(column)]; }
-  void Value(TextView column, Variant value) override { cells_[columns_.At(column)] = std::move(value); }
+  Variant Value(TextView column) const override { return Unpacked(cells_[columns_.At(column)]); }
+  void Value(TextView column, Variant value) override { cells_[columns_.At(column)] = Packed(std::move(value)); }
   std::int32_t RowNumber() const override { return number_; }
 
-  const Variant& Cell(std::size_t column) const { return cells_[column]; }
+  const MemoryCell& Cell(std::size_t column) const { return cells_[column]; }
 
  private:
   const MemoryColumns& columns_;
-  std::span<Variant> cells_;
+  std::span<MemoryCell> cells_;
   std::int32_t number_;
 };
 
@@ -91,7 +125,7 @@ class MemoryBlock {
 
  private:
   std::shared_ptr<const MemoryColumns> columns_;
-  std::vector<Variant> cells_;
+  std::vector<MemoryCell> cells_;
   std::vector<MemoryRow> rows_;
 };
 
@@ -175,8 +209,8 @@ RowRef MemoryTable::Item(const Text& key) {
   const auto column = static_cast<std::size_t>(keyColumn_) - 1;
   for (const auto& block : blocks_) {
     for (MemoryRow& row : block->Rows()) {
-      const Text* const cell = std::get_if<Text>(&row.Cell(column));
-      if (cell && *cell == key) return {block, &row};
+      const auto* const cell = std::get_if<PackedText>(&row.Cell(column));
+      if (cell && cell->Unpacked() == key) return {block, &row};
     }
   }
   return nullptr;
