@@ -88,6 +88,13 @@ TEST(Conversions, RefuseWhatHasNoNotation) {
   EXPECT_EQ(ToText(std::int16_t{-3}) + ToText(Variant(1.5e-7)), u"-30.00000015");
 }
 
+TEST(Conversions, ReadNumbersAsFarAsTheyGo) {
+  EXPECT_EQ(LeadingNumber(u"5\u0131"), 5) << "ends ahead of what is no digit in any half";
+  const Text zeros(330, u'0');
+  EXPECT_EQ(LeadingNumber(u"0." + zeros + u"1e5"), 0);
+  EXPECT_THROW(LeadingNumber(u"1" + zeros + u"e-5"), RunTimeError);
+}
+
 TEST(TextThatIsPacked, ComesBackAsItWas) {
   const Text texts[] = {u"",       u"X",      u"15 characters .",   u"16 characters ..", Text(u"\0a\0", 3),
                         u"\u00FF", u"\u0100", u"\u4E00 and \xD800", Text(300, u'a')};
@@ -126,6 +133,7 @@ TEST(CollectionOfItems, KeepsNumbersAndKeysTogether) {
 
 TEST(TableInMemory, KeepsRowsThatAreHeldAndRefusesWhatItDoesNotHave) {
   EXPECT_THROW(MemoryTable::Create({u"A", u"A"}), RunTimeError);
+  EXPECT_THROW(AddRow(*MemoryTable::Create({}))->Value(u"A"), RunTimeError);
   auto table = MemoryTable::Create({u"KEY", u"VALUE"});
   AddRow(*table)->Value(u"VALUE", std::int32_t{5});
   EXPECT_THROW(RowsOf(*table)->Item(u"a"), RunTimeError) << "without a key column";

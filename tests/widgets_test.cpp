@@ -1,10 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include "dialog/Dialog.h"
 #include "support/table_text.h"
 #include "support/transcript.h"
 #include "support/user_step.h"
 #include "support/widget_text.h"
+#include "tables/RunTimeError.h"
 #include "texts/LookupText.h"
 
 namespace ORXKMPrintProp::test {
@@ -135,11 +138,13 @@ TEST_F(WidgetsTest, ASortedListTakesAnEntryAheadOfTheFirstThatSortsBehindIt) {
   for (int step = 0; step < 3000; ++step) {
     const Text text(1, static_cast<char16_t>((random(2) == 0 ? u'a' : u'A') + random(20)));
     const std::int16_t count = sorted.ListCount();
-    const int what = count > 30 ? 1 : random(5);
+    const int what = count > 30 ? 1 : random(6);
     if (what == 0) {
       sorted.AddItem(text, random(count + 1));
     } else if (what == 1) {
       if (count > 0) sorted.RemoveItem(random(count));
+    } else if (what == 2) {
+      if (count > 0) sorted.List(random(count), text);
     } else {
       std::int16_t place = 0;
       while (place < count && Platform::Plain().CompareTexts(sorted.List(place), text) <= 0) ++place;
@@ -172,6 +177,24 @@ TEST_F(WidgetsTest, AHandlerMayChangeItsOwnWidget) {
   EXPECT_EQ(StateOf(multi) + " | " + StateOf(combo), " | a b d");
 }
 
+TEST_F(WidgetsTest, AStepThatFailsLeavesNoButtonDown) {
+  int moves = 0;
+  multi.MouseMove = [&](std::int16_t) {
+    ++moves;
+    throw std::runtime_error("host");
+  };
+  multi.ListIndex(0);
+  EXPECT_THROW(multi.UserDragStep(1), std::runtime_error);
+  multi.UserMouseMove(2);
+  EXPECT_EQ(moves, 1);
+}
+
+TEST_F(WidgetsTest, AListTakesWhatItsNumbersCount) {
+  while (multi.ListCount() < 32767) multi.AddItem(u"");
+  EXPECT_THROW(multi.AddItem(u"one more"), RunTimeError);
+  EXPECT_EQ(multi.ListCount(), 32767);
+}
+
 TEST_F(WidgetsTest, KeysGoThroughTheFilterAndTheClipboardPastIt) {
   const auto type = [&](TextView keys) {
     for (const char16_t key : keys) box.UserKey(key);
@@ -180,6 +203,9 @@ TEST_F(WidgetsTest, KeysGoThroughTheFilterAndTheClipboardPastIt) {
   EXPECT_EQ(type(u"a b\n\x1b"), "a b");
   EXPECT_EQ(type(u"\b\bc"), "ac");
   EXPECT_EQ(type(u"\b\b\bx\U0001F600\b"), "x") << "both halves of a character go";
+  box.UserEdit(u"\xDC00\xDC00");
+  EXPECT_EQ(type(u"\b"), "?") << "two that are none go one by one";
+  box.UserEdit(u"x");
   std::vector<int> codes;
   box.KeyPress = [&](std::int16_t& code) {
     codes.push_back(code);
