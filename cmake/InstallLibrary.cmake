@@ -15,7 +15,7 @@ install(EXPORT ORXKMPrintPropTargets NAMESPACE ORXKMPrintProp:: DESTINATION ${pa
 
 configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/ORXKMPrintPropConfig.cmake.in ORXKMPrintPropConfig.cmake
                               INSTALL_DESTINATION ${package_cmake})
-write_basic_package_version_file(ORXKMPrintPropConfigVersion.cmake COMPATIBILITY SameMinorVersion)
+write_basic_package_version_file(ORXKMPrintPropConfigVersion.cmake COMPATIBILITY SameMajorVersion)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/ORXKMPrintPropConfig.cmake
               ${CMAKE_CURRENT_BINARY_DIR}/ORXKMPrintPropConfigVersion.cmake DESTINATION ${package_cmake})
 

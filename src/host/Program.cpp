@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "control/Version.h"
 #include "host/Check.h"
 #include "host/Completion.h"
 #include "host/Diff.h"
@@ -179,7 +180,7 @@ int Run(int argc, char** argv, const AddCommands& addCommands, std::optional<int
       "Looks at the batch-print settings of a query, and edits them. FILE is a settings document, - is\n"
       "standard input.",
       "prnprop");
-  program.set_version_flag("--version", "prnprop " PRNPROP_VERSION);
+  program.set_version_flag("--version", "prnprop " + std::string(kVersion));
   program.require_subcommand(1);
   // A path that begins with a slash is no option on any system.
   program.allow_windows_style_options(false);
