@@ -2,11 +2,14 @@
 
 build_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev qt6-base-dev qt6-l10n-tools
                 qt6-translations-l10n fonts-dejavu-core)
-test_packages=(libgtest-dev pkg-config xvfb openbox xdotool dbus-daemon at-spi2-core python3-gi gir1.2-atspi-2.0)
+test_packages=(libgtest-dev pkg-config xvfb openbox xdotool dbus-daemon at-spi2-core python3-gi gir1.2-atspi-2.0
+               dpkg-dev file)
 bench_packages=(libbenchmark-dev libsqlite3-dev)
 windows_packages=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools googletest wine wine64
                   libwine-dev)
 picture_packages=(imagemagick)
+docs_packages=(doxygen)
+deb_packages=(lintian mmdebstrap)
 fuzz_packages=(clang libclang-rt-14-dev)
 
 # Installs what is missing, and asks before it does when not run as root. Says nothing when nothing is missing.
