@@ -67,7 +67,8 @@ class ORXQueryPrnProp {
   /// `TARGETID`. The former text table stays in use then, and the texts set so far stay set.
   bool ORXControlTexts(TableRef TextTable);
 
-  /// Stores a layout, an opaque text, in the model. It reaches the tables when they are read next.
+  /// Stores a layout in the model. It reaches the tables when they are read next.
+  /// @param FBLayout an opaque text of the host; empty takes the layout away.
   /// @param ButtonID as in `ORXPrintLayoutGet`; numbers of any type count by their value, an empty one as 0.
   /// @param CharIObjName for button 4 the characteristic, by its exact technical name; the first one that bears it
   /// gets the layout, and to find none is not an error. Not looked at for the other buttons.

@@ -1,7 +1,8 @@
 #pragma once
 
-// The values that exist once for each thread that uses controls, not once per control. Each is declared in the folder
-// that gives it its meaning; two live controls of a thread share them all, and the last load wins for both.
+/// @file
+/// The values that exist once for each thread that uses controls, not once per control. Each is declared in the folder
+/// that gives it its meaning; two live controls of a thread share them all, and the last load wins for both.
 
 #include <memory>
 

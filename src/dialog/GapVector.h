@@ -17,7 +17,7 @@ class GapVector {
   T& operator[](std::size_t place) { return slots_[SlotOf(place)]; }
   const T& operator[](std::size_t place) const { return slots_[SlotOf(place)]; }
 
-  /// @param place 0 to `size`, the element's place from now on.
+  /// Puts an element in, at a place from 0 to `size`, which is its place from now on.
   void Insert(std::size_t place, T value) {
     if (gapBegin_ == gapEnd_) Grow();
     MoveGap(place);

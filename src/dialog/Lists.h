@@ -9,7 +9,8 @@
 #include "dialog/GapVector.h"
 #include "dialog/Widgets.h"
 
-// The widgets that hold entries. The rules of Widgets.h hold here too.
+/// @file
+/// The widgets that hold entries. The rules of Widgets.h hold here too.
 
 namespace ORXKMPrintProp {
 
@@ -24,12 +25,14 @@ class EntryWidget : public Widget {
   std::function<void()> Click;
 
   /// Places an entry; its ItemData is 0 and it is not selected. `NewIndex` is then where it went.
+  /// @param text in a list shown on one line, whatever it holds.
   /// @param index 0 to `ListCount`, where the entry goes, also in a sorted list. Without it the entry goes to the
   /// end, in a sorted list ahead of the first entry that sorts behind it.
   /// @throws RunTimeError (Overflow) when there are 32,767 entries.
   void AddItem(Text text, std::optional<std::int16_t> index = {});
   void RemoveItem(std::int16_t index);
   /// What `RemoveItem` does, and then `AddItem` of the same entry with its ItemData; never runs out of memory.
+  /// @param index the entry.
   /// @param to 0 to `ListCount` - 1, where the entry then stands.
   void MoveItem(std::int16_t index, std::int16_t to);
   void Clear();
@@ -39,8 +42,10 @@ class EntryWidget : public Widget {
   void List(std::int16_t index, Text text);
   std::int16_t ListCount() const { return static_cast<std::int16_t>(entries_.size()); }
 
+  /// A number that goes with the entry, of which the user sees nothing.
   std::int32_t ItemData(std::int16_t index) const;
   void ItemData(std::int16_t index, std::int32_t data);
+  /// Where the last entry that was added or moved went, whatever has come and gone since; -1 before the first.
   std::int16_t NewIndex() const { return newIndex_; }
 
   /// The entry that is shown in a combo box, or that has the caret in a list. It stays with its entry when others
@@ -74,13 +79,16 @@ class EntryWidget : public Widget {
   std::int16_t newIndex_ = -1;
 };
 
+/// A field that shows one of its entries, or none; the user can pick another, but not type.
 class ComboBox : public EntryWidget {
  public:
   using EntryWidget::EntryWidget;
 
+  /// Picks the entry. The one that is shown already raises no Click.
   Refusal UserPick(std::int16_t index);
 };
 
+/// A list of which one entry or several are selected, as the layout has it, and one has the caret.
 class ListBox : public EntryWidget {
  public:
   using EntryWidget::EntryWidget;

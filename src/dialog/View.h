@@ -29,7 +29,7 @@ class View {
   virtual void EntryRemoved(EntryWidget&, std::int16_t /*index*/) {}
   virtual void EntriesCleared(EntryWidget&) {}
 
-  /// @param pointer `Dialog::kDefaultPointer` or `Dialog::kDragPointer`, over the whole control.
+  /// The pointer over the whole control, `Dialog::kDefaultPointer` or `Dialog::kDragPointer`.
   virtual void MousePointerChanged(std::int16_t /*pointer*/) {}
 
   /// Shows a modal message with one OK button. Returns when the user has closed it, or at once: nothing waits for the

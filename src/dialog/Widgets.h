@@ -10,15 +10,16 @@
 #include "dialog/View.h"
 #include "tables/Text.h"
 
-// The widgets of the dialog, in memory: the one truth about what the dialog shows. The page logic reads and writes
-// them, a view draws them and hands in what the user does.
-//
-// - Entries count from 0, -1 is none. An index out of range throws RunTimeError (Index) and leaves the widget as it
-//   was.
-// - A write acts at once. When it raises an event, the handler runs to its end inside the write; a handler may
-//   change any widget, the very one whose event it handles too.
-// - The User... operations are the user's side. They do what a user can do, and tell why when he can't; then nothing
-//   happens. A failure of a handler leaves them.
+/// @file
+/// The widgets of the dialog, in memory: the one truth about what the dialog shows. The page logic reads and writes
+/// them, a view draws them and hands in what the user does.
+///
+/// - Entries count from 0, -1 is none. An index out of range throws RunTimeError (Index) and leaves the widget as it
+///   was.
+/// - A write acts at once. When it raises an event, the handler runs to its end inside the write; a handler may
+///   change any widget, the very one whose event it handles too.
+/// - The User... operations are the user's side. They do what a user can do, and tell why when he can't; then nothing
+///   happens. A failure of a handler leaves them.
 
 namespace ORXKMPrintProp {
 
@@ -35,12 +36,14 @@ enum class Refusal { None, NotOnTop, Hidden, Disabled, NoSuchEntry };
 /// The reason in words: "not on top", "hidden", "disabled", "no such entry"; empty for none.
 const char* WordsOf(Refusal refusal);
 
+/// The typeface of a widget.
 struct Font {
   Text Name;
   double Size;  ///< in points
-  int Weight;
+  int Weight;   ///< 400 is normal, 700 bold
 };
 
+/// What all widgets have in common.
 class Widget {
  public:
   Widget(WidgetContext& context, const LayoutRow& row);
@@ -95,25 +98,31 @@ class Widget {
   bool enabled_ = true;
 };
 
+/// A line around widgets, with a caption.
 class Frame : public Widget {
   using Widget::Widget;
 };
 
+/// A caption by itself.
 class Label : public Widget {
   using Widget::Widget;
 };
 
+/// A button.
 class CommandButton : public Widget {
  public:
   using Widget::Widget;
+  /// The user has pressed it.
   std::function<void()> Click;
 
   Refusal UserPress();
 };
 
+/// A box that is ticked or not.
 class CheckBox : public Widget {
  public:
   using Widget::Widget;
+  /// The user or a write has changed `Value`.
   std::function<void()> Click;
 
   /// 0 unchecked, 1 checked; any other value counts as checked.
@@ -126,6 +135,7 @@ class CheckBox : public Widget {
   std::int16_t value_ = 0;
 };
 
+/// A field of one line that the user types in.
 class TextBox : public Widget {
  public:
   using Widget::Widget;
@@ -162,6 +172,7 @@ class TextBox : public Widget {
   Text text_;
 };
 
+/// The tab strip, with a page below each tab.
 class SSTab : public Widget {
  public:
   SSTab(WidgetContext& context, const LayoutRow& row);
@@ -171,6 +182,7 @@ class SSTab : public Widget {
 
   static constexpr std::int16_t kTabs = 4;
 
+  /// The page on top, from 0.
   std::int16_t Tab() const { return context_.tab; }
   void Tab(std::int16_t tab);
 

@@ -34,12 +34,14 @@ using ColumnsOf = std::span<const ColumnOf<Class>>;
 
 // What stands between a cell and a property: `kKind` is the kind of cell, `Read` converts a cell, `Write` a value.
 
+/// Any text.
 struct TextCell {
   static constexpr CellKind kKind = CellKind::Text;
   static Text Read(Variant&& cell) { return ToText(std::move(cell)); }
   static Variant Write(Text value) { return value; }
 };
 
+/// A whole number, which may come as a text or a fraction; written as a number.
 struct IntegerCell {
   static constexpr CellKind kKind = CellKind::WholeNumber;
   static std::int16_t Read(const Variant& cell) { return ToInteger(cell); }
@@ -53,6 +55,7 @@ struct LeadingNumberCell {
   static Variant Write(std::int16_t value) { return ToText(std::int32_t{value}); }
 };
 
+/// A code, by a pair of routines of CellCodecs.h.
 template <auto Decode, auto Encode>
 struct CodeCell {
   static constexpr CellKind kKind = CellKind::Code;
@@ -108,8 +111,8 @@ constexpr ColumnOf<Class> ConstantColumn(TextView name) {
 }
 
 /// Sets the properties from the row, column by column in the order of the table. Nothing is undone when a column
-/// fails: an error of the row leaves as it is, that of a conversion names the place.
-/// @param tableName how a message calls the table.
+/// fails: an error of the row leaves as it is, that of a conversion names the place, in the table that it calls
+/// `tableName`.
 template <class Class>
 void ReadRow(ColumnsOf<Class> columns, TextView tableName, const Row& row, Class& object) {
   for (const ColumnOf<Class>& column : columns) {

@@ -48,8 +48,8 @@ class PrnCharCls : public PrnColumnsCls {
 /// All characteristics of the query, in the order of their rows in the dimension table, structure rows left out.
 class PrnCharCollCls : public CollCls<PrnCharCls> {
  public:
-  /// @param StrIndex1, StrIndex2 become the numbers of the first and the second structure row, -1 for none. A
-  /// further structure row is passed over, with words in `gErrorText`.
+  /// Reads both tables. `StrIndex1` and `StrIndex2` become the numbers of the first and the second structure row, -1
+  /// for none. A further structure row is passed over, with words in `gErrorText`.
   void FromTable(Table& it_dim, Table& it_atr, std::int16_t& StrIndex1, std::int16_t& StrIndex2);
   /// Appends one row per characteristic, and each one's attribute rows as one run.
   void ToTable(Table& it_dim, Table& it_atr) const;

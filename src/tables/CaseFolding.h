@@ -15,6 +15,7 @@ struct FoldedHash {
   using is_transparent = void;
   std::size_t operator()(TextView text) const;
 };
+/// The same.
 struct FoldedEqual {
   using is_transparent = void;
   bool operator()(TextView a, TextView b) const;

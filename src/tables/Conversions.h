@@ -5,9 +5,10 @@
 
 #include "tables/Variant.h"
 
-// The plain conversions between cells, texts and 16-bit integers. Each fails with RunTimeError: Type for a value
-// that cannot be what is asked for, Overflow for a number outside -32,768 to 32,767. Fractions round to the
-// nearest whole number, ties to the even one.
+/// @file
+/// The plain conversions between cells, texts and 16-bit integers. Each fails with RunTimeError: Type for a value
+/// that cannot be what is asked for, Overflow for a number outside -32,768 to 32,767. Fractions round to the
+/// nearest whole number, ties to the even one.
 
 namespace ORXKMPrintProp {
 

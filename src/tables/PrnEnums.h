@@ -4,8 +4,9 @@
 
 namespace ORXKMPrintProp {
 
-// The public enumerations, as the host sees them. They stand beside the cell codecs, which turn them into the
-// codes of the tables. A variable may hold a value outside its enumeration; the encoders say what becomes of it.
+/// @file
+/// The public enumerations, as the host sees them. They stand beside the cell codecs, which turn them into the
+/// codes of the tables. A variable may hold a value outside its enumeration; the encoders say what becomes of it.
 
 /// What prints of a value: its key, its description, or both in two columns.
 enum PP_ValuePresentation : std::int32_t {

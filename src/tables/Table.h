@@ -5,16 +5,17 @@
 
 #include "tables/Variant.h"
 
-namespace ORXKMPrintProp {
+/// @file
+/// What the control needs of a host's table object. The control creates no table and no column: it reads rows,
+/// empties tables, appends rows and sets cells.
+///
+/// - An operation that fails throws RunTimeError, of kind Table where nothing else fits, or what derives from it: the
+///   very object leaves the public operation that the host called.
+/// - A table is called on the thread that has handed it in, and may call the control back from inside an operation.
+/// - The control holds tables until others take their place or it ends, the text table until `ORXControlTexts` takes
+///   another or `ReleaseSharedValues`; rows, lists and columns no longer than the call in which it has asked for them.
 
-// What the control needs of a host's table object. The control creates no table and no column: it reads rows,
-// empties tables, appends rows and sets cells.
-//
-// - An operation that fails throws RunTimeError, of kind Table where nothing else fits, or what derives from it: the
-//   very object leaves the public operation that the host called.
-// - A table is called on the thread that has handed it in, and may call the control back from inside an operation.
-// - The control holds tables until others take their place or it ends, the text table until `ORXControlTexts` takes
-//   another or `ReleaseSharedValues`; rows, lists and columns no longer than the call in which it has asked for them.
+namespace ORXKMPrintProp {
 
 /// One cell per column. Wherever a row comes from (`Rows`, `Add`, `Item`, the enumeration), this is its interface.
 class Row {
@@ -37,6 +38,7 @@ class RowEnumerator {
   virtual RowRef Next() = 0;
 };
 
+/// The rows of a table.
 class RowList {
  public:
   virtual ~RowList() = default;
@@ -51,6 +53,7 @@ class RowList {
 };
 using RowListRef = std::shared_ptr<RowList>;
 
+/// The columns of a table.
 class ColumnList {
  public:
   virtual ~ColumnList() = default;
@@ -59,6 +62,7 @@ class ColumnList {
 };
 using ColumnListRef = std::shared_ptr<ColumnList>;
 
+/// One column of a table.
 class Column {
  public:
   virtual ~Column() = default;
@@ -67,6 +71,7 @@ class Column {
 };
 using ColumnRef = std::shared_ptr<Column>;
 
+/// A table, as the rules of Table.h want it.
 class Table : public Object {
  public:
   virtual std::int32_t RowCount() = 0;

@@ -8,9 +8,10 @@
 #include "tables/Table.h"
 #include "tables/TableOperation.h"
 
-// The calls that the control makes on a host's table, each step of the way checked: a table that gives no object
-// where the contract promises one fails the call (kind Object), and so does one from inside of which other settings
-// have been loaded.
+/// @file
+/// The calls that the control makes on a host's table, each step of the way checked: a table that gives no object
+/// where the contract promises one fails the call (kind Object), and so does one from inside of which other settings
+/// have been loaded.
 
 namespace ORXKMPrintProp {
 

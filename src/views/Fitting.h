@@ -7,8 +7,9 @@
 
 #include "dialog/Dialog.h"
 
-// How captions are made to fit: in narrower letters, then in smaller ones, alike for captions that stand together, and
-// where the smallest do not do, cut.
+/// @file
+/// How captions are made to fit: in narrower letters, then in smaller ones, alike for captions that stand together, and
+/// where the smallest do not do, cut.
 
 namespace ORXKMPrintProp::views {
 
@@ -27,12 +28,17 @@ using Measure = std::function<int(TextView text, const Letters& letters)>;
 /// The greatest letters in which something fits; none where the smallest do not do.
 std::optional<Letters> FittingLetters(const std::function<bool(const Letters& letters)>& fits);
 
+/// What is shown of a text.
 struct FittedText {
   Text text;
   Letters letters;
   bool isCut = false;  ///< it ends with an ellipsis
 };
-/// @param most what the captions beside it have; one that does not fit is cut in the smallest letters.
+/// A text in the greatest letters that fit; one that does not fit in the smallest is cut in these.
+/// @param text in one line.
+/// @param width the room for it, in pixels.
+/// @param measure is asked in several letters.
+/// @param most what the captions beside it have.
 FittedText Fit(TextView text, int width, const Measure& measure, const Letters& most = {});
 
 /// The letters of a dialog's captions. Those of widgets of one kind in one frame, or on one page outside of frames, are
@@ -43,6 +49,7 @@ class CaptionLetters {
   using Needed = std::function<std::optional<Letters>(const Widget& widget)>;
 
   /// @param dialog must outlive it.
+  /// @param needed is asked when letters are wanted that are not known yet.
   CaptionLetters(const Dialog& dialog, Needed needed);
 
   Letters Of(const Widget& widget);
@@ -58,11 +65,14 @@ class CaptionLetters {
   std::unordered_map<const Widget*, std::optional<Letters>> needed_;
 };
 
+/// How the captions of the tabs are shown.
 struct FittedTabs {
   Letters letters;
   bool areCut = false;  ///< each tab has its share of the width, in which its caption is cut
 };
 /// All tabs in letters of one kind.
+/// @param tabs how many there are.
+/// @param width that of the strip, in pixels.
 /// @param needed the width that the tab with that number needs in them, all that is around its caption included.
 FittedTabs FitTabs(int tabs, int width, const std::function<int(int tab, const Letters& letters)>& needed);
 

@@ -9,13 +9,15 @@
 
 #include "views/Search.h"
 
-// What keys do in the widgets that hold entries, and to the tabs. What they do to the text of a box is the toolkit's.
+/// @file
+/// What keys do in the widgets that hold entries, and to the tabs. What they do to the text of a box is the toolkit's.
 
 namespace ORXKMPrintProp::views {
 
 /// `A` is that letter with Ctrl.
 enum class Key { Other, Up, Down, Left, Right, Home, End, PageUp, PageDown, Space, Tab, A };
 
+/// A key with what is held beside it.
 struct KeyPress {
   Key key = Key::Other;
   bool shift = false;
@@ -29,8 +31,8 @@ struct KeyPress {
 /// search. All of it in the steps that a user can do one by one.
 class ListKeys {
  public:
-  /// What the key does, none when it is not for the list. What is done may be the end of this object.
-  /// @param visible how many entries are seen at a time.
+  /// What the key does, none when it is not for the list. What is done may be the end of this object. Page keys go by
+  /// as many entries as are `visible` at a time.
   std::function<void()> ActionOf(ListBox& list, const KeyPress& press, int visible);
 
  private:

@@ -41,11 +41,15 @@ class ListPointer {
 
   bool IsHeld() const { return held_ != 0; }
 
+  /// A button goes down.
   /// @param button that of `ListBox::MouseDown`, 0 for one that means nothing here.
   /// @param isAnotherHeld whether the press comes to a button that is held already; it means nothing then.
+  /// @param y where the pointer is, above and below the list too.
   void Press(std::int16_t button, bool isAnotherHeld, int y);
+  /// The pointer moves.
   /// @param isLeftHeld False where the button went up while something else had the mouse.
   /// @param isAnotherHeld the drag pauses.
+  /// @param y as for `Press`.
   void Move(bool isLeftHeld, bool isAnotherHeld, int y);
   void Release(std::int16_t button);
   /// Ends whatever has begun.

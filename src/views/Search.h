@@ -6,7 +6,8 @@
 
 #include "dialog/Dialog.h"
 
-// How an entry is found by its text, regardless of case.
+/// @file
+/// How an entry is found by its text, regardless of case.
 
 namespace ORXKMPrintProp::views {
 

@@ -10,6 +10,7 @@ namespace ORXKMPrintProp::views {
 std::vector<Widget*> TabOrder(const Dialog& dialog);
 
 /// Where the Tab key leads from a widget: to the next one that the user can reach now.
+/// @param dialog whose order it is.
 /// @param from null for from outside.
 /// @param step 1 forward, -1 back
 /// @return null where the key leads out of the dialog, which is so at both ends.

@@ -7,7 +7,8 @@
 
 #include "views/qt/WidgetView.h"
 
-// The widgets that show a caption.
+/// @file
+/// The widgets that show a caption.
 
 namespace ORXKMPrintProp::qt {
 
@@ -23,6 +24,7 @@ class FrameView : public ViewOf<QGroupBox, Frame> {
   void paintEvent(QPaintEvent* event) override;
 };
 
+/// A caption by itself.
 class LabelView : public ViewOf<QLabel, Label> {
  public:
   LabelView(Label& label, const Reports& reports, QWidget* parent);
@@ -32,6 +34,7 @@ class LabelView : public ViewOf<QLabel, Label> {
   std::optional<int> CaptionRoom() const override;
 };
 
+/// A button with its caption.
 class ButtonView : public ViewOf<QPushButton, CommandButton> {
  public:
   ButtonView(CommandButton& button, const Reports& reports, QWidget* parent);
@@ -43,6 +46,7 @@ class ButtonView : public ViewOf<QPushButton, CommandButton> {
   void keyPressEvent(QKeyEvent* event) override;
 };
 
+/// A check box with its caption.
 class CheckBoxView : public ViewOf<QCheckBox, CheckBox> {
  public:
   CheckBoxView(CheckBox& check, const Reports& reports, QWidget* parent);

@@ -8,6 +8,7 @@
 
 namespace ORXKMPrintProp::qt {
 
+/// A field with the list of entries that opens from it.
 class ComboBoxView : public ViewOf<QComboBox, ComboBox> {
  public:
   ComboBoxView(ComboBox& combo, const Reports& reports, QWidget* parent);

@@ -11,7 +11,9 @@ namespace ORXKMPrintProp::qt {
 /// events are dealt with next, or at `CatchUp`. Until then there are the rows of before, whose texts are those of now.
 class EntryModel : public QAbstractListModel {
  public:
+  /// @param widget must outlive it.
   /// @param showRest shows what is no row's own, as soon as the rows are those of the widget.
+  /// @param parent as for any object.
   EntryModel(const EntryWidget& widget, std::function<void()> showRest, QObject* parent);
 
   int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }

@@ -32,6 +32,7 @@ class PrnPropView : public QWidget, private View {
  public:
   /// @param dialog must outlive the view. That of a control made with a `QtPlatform` has the desktop's interface font
   /// and text order.
+  /// @param parent as for any widget.
   explicit PrnPropView(Dialog& dialog, QWidget* parent = nullptr);
   ~PrnPropView() override;
 

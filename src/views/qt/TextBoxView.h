@@ -6,6 +6,7 @@
 
 namespace ORXKMPrintProp::qt {
 
+/// A field to type in, each key filtered by the widget.
 class TextBoxView : public ViewOf<QLineEdit, TextBox> {
  public:
   TextBoxView(TextBox& box, const Reports& reports, QWidget* parent);
