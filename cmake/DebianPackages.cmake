@@ -35,6 +35,8 @@ the dialog in a window of Qt 6, for CMake.")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME prnprop)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SHLIBDEPS ON)
+# What Qt says by itself, in other languages.
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS qt6-translations-l10n)
 set(CPACK_COMPONENT_PROGRAM_DESCRIPTION
     "look at and edit the batch-print settings of a query
 A reporting client lets its users decide how a query prints: which of its
