@@ -37,8 +37,8 @@ std::string DidYouMean(std::string_view word, const std::vector<std::string>& kn
   const std::string* nearest = nullptr;
   std::size_t least = std::max<std::size_t>(1, word.size() / 3) + 1;
   for (const std::string& each : known) {
-    const auto [shorter, longer] = std::minmax(word.size(), each.size());
-    if (longer - shorter >= least) continue;  // which also spares the work for words of any length
+    const std::size_t difference = std::max(word.size(), each.size()) - std::min(word.size(), each.size());
+    if (difference >= least) continue;  // which also spares the work for words of any length
     if (const std::size_t distance = Distance(word, each); distance < least) {
       least = distance;
       nearest = &each;
