@@ -101,6 +101,8 @@ bool IsHidden(std::string_view name) { return name.starts_with('.'); }
 
 bool IsPattern(std::string_view name) { return name.find_first_of(kWildcards) != std::string_view::npos; }
 
+bool EndsWithSeparator(const std::string& path) { return path.find_last_of(kSeparators) + 1 == path.size(); }
+
 struct Entry {
   std::string name;
   bool isFolder = false;  ///< and no link to one
@@ -169,8 +171,7 @@ class Finder {
   }
 
   static std::string In(const std::string& folder, const std::string& name) {
-    const bool isClosed = folder.empty() || kSeparators.find(folder.back()) != std::string_view::npos;
-    return folder + (isClosed ? "" : "/") + name;
+    return folder + (EndsWithSeparator(folder) ? "" : "/") + name;
   }
 
   void FindBelow(const std::string& folder) {
@@ -210,7 +211,8 @@ class Finder {
       found = std::move(further);
       at = next;
     }
-    std::erase_if(found, [](const std::string& path) { return !IsThere(path); });
+    std::erase_if(found,
+                  [](const std::string& path) { return EndsWithSeparator(path) ? !IsFolder(path) : !IsThere(path); });
     if (found.empty() && Count() == before) Fail(pattern, "no file matches the pattern");
     for (const std::string& path : found) FindNamed(path);
   }
