@@ -10,6 +10,7 @@
 
 #include "host/DocumentError.h"
 #include "host/Files.h"
+#include "host/Paths.h"
 #include "host/Utf8.h"
 #include "tables/CaseFolding.h"
 
@@ -26,13 +27,6 @@ constexpr bool kIsCaseIgnored = false;
 constexpr std::string_view kSeparators = "/";
 #endif
 constexpr std::string_view kWildcards = "*?[";
-
-fs::path PathOf(const std::string& utf8) { return std::u8string(utf8.begin(), utf8.end()); }
-
-std::string NameOf(const fs::path& path) {
-  const std::u8string utf8 = path.u8string();
-  return {utf8.begin(), utf8.end()};
-}
 
 Text Folded(std::string_view name) {
   Text text = FromUtf8(name);
@@ -124,9 +118,7 @@ class Finder {
     found_.names.push_back({path, DocumentError({.file = path}, reason).what()});
   }
 
-  void Fail(const std::string& path, const std::error_code& error) {
-    Fail(path, error.default_error_condition().message());
-  }
+  void Fail(const std::string& path, const std::error_code& error) { Fail(path, WordsOf(error)); }
 
   void FindNamed(const std::string& path) {
     if (!IsFolder(path)) return AddFile(path);
@@ -138,7 +130,7 @@ class Finder {
   void AddFile(const std::string& path) {
     std::error_code error;
     const fs::path absolute = fs::absolute(PathOf(path), error).lexically_normal();
-    Add(path, NameOf(absolute));
+    Add(path, Utf8Of(absolute));
   }
 
   /// @param identity the same for each way to spell the path.
@@ -157,7 +149,7 @@ class Finder {
     std::vector<Entry> entries;
     std::error_code error;
     for (fs::directory_iterator each(PathOf(folder), error), end; !error && each != end; each.increment(error)) {
-      Entry entry{.name = NameOf(each->path().filename())};
+      Entry entry{.name = Utf8Of(each->path().filename())};
       std::error_code unknown;
       entry.isFolder = fs::is_directory(each->symlink_status(unknown));
       if (unknown) Fail(In(folder, entry.name), unknown);
