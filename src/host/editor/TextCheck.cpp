@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <optional>
 #include <utility>
 
 #include "control/SharedValues.h"
@@ -142,27 +143,27 @@ class Checker {
     for (const UsedRow& row : used_) {
       for (std::size_t i = 0; i < row.shown.size(); ++i) {
         const DialogText& place = row.known->places[i];
-        const bool isMeasured = !place.widget.name.empty() && place.receives != Receives::ToolTipText;
-        if (isMeasured && row.shown[i] != place.text) shown.push_back({place, row.shown[i]});
+        if (place.widget.name.empty() || place.receives == Receives::ToolTipText) continue;
+        shown.push_back({place, row.shown[i]});
       }
     }
     const TextRooms measured = measure_(texts_, shown);
+    std::size_t at = 0;
     for (const UsedRow& row : used_) {
       // Of several widgets the one that lacks most.
-      const auto missing = [&](std::size_t i) {
-        const auto& room = measured.rooms[i];
-        return room && shown[i].place.key == row.known->key ? room->needed - room->room : 0;
-      };
-      std::size_t worst = shown.size();
-      for (std::size_t i = 0; i < shown.size(); ++i) {
-        if (missing(i) > (worst == shown.size() ? 0 : missing(worst))) worst = i;
+      std::optional<TextFinding::Measured> worst;
+      Text text;
+      for (; at < shown.size() && shown[at].place.key == row.known->key; ++at) {
+        const auto& room = measured.rooms[at];
+        if (!room || room->needed - room->room <= (worst ? worst->room.needed - worst->room.room : 0)) continue;
+        worst = {shown[at].place.widget.Spelled(), *room, measured.dpi};
+        text = shown[at].text;
       }
-      if (worst == shown.size()) continue;
-      const views::TextRoom room = *measured.rooms[worst];
+      if (!worst) continue;
       Add(Kind::TooLong, row.number, row.known->key,
-          Quoted(shown[worst].text) + u" needs " + Digits(room.needed) + u" of " + Digits(room.room) + u" pixels at " +
-              Digits(measured.dpi) + u" dpi")
-          .measured = {shown[worst].place.widget.Spelled(), room, measured.dpi};
+          Quoted(text) + u" needs " + Digits(worst->room.needed) + u" of " + Digits(worst->room.room) + u" pixels at " +
+              Digits(worst->dpi) + u" dpi")
+          .measured = worst;
     }
   }
 

@@ -49,8 +49,7 @@ struct TextFinding {
   std::optional<Measured> measured = {};
 };
 
-/// What a translator is to know of a text table: row by row, then what is missing, in the order of the dialog. A text
-/// that is no other than the default is not measured.
+/// What a translator is to know of a text table: row by row, then what is missing, in the order of the dialog.
 std::vector<TextFinding> FindingsOf(const MemoryTableRef& texts, const MeasureTexts& measure);
 
 /// A text table with all keys of the dialog and their defaults, in the order of the dialog. A key with several defaults
