@@ -2,260 +2,82 @@
 
 #include <algorithm>
 #include <map>
-#include <nlohmann/json.hpp>
 #include <ostream>
+#include <thread>
 
-#include "host/Changes.h"
-#include "host/ExitStatus.h"
-#include "host/Files.h"
-#include "host/Load.h"
-#include "host/Terminal.h"
-#include "host/Utf8.h"
-#include "tables/Conversions.h"
+#include "host/CheckReport.h"
+#include "host/DocumentNames.h"
+#include "host/InOrder.h"
+#include "host/ProgressLine.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
 
-using Json = nlohmann::ordered_json;
+using Counts = std::map<CheckOutcome, std::size_t>;
 
-const char* KindName(ChangeKind kind) {
-  static constexpr const char* names[] = {"column dropped", "layout emptied", "replaced",    "unknown code",
-                                          "number changed", "text changed",   "row dropped", "code normalized",
-                                          "type changed",   "cell filled",    "row moved",   "row repeated"};
-  return names[static_cast<std::size_t>(kind)];
-}
-
-bool IsOfRow(const Change& change) {
-  return change.kind == ChangeKind::RowDropped || change.kind == ChangeKind::RowMoved ||
-         change.kind == ChangeKind::RowRepeated;
-}
-
-Json ToJson(const std::vector<TableChanges>& tables) {
-  Json findings = Json::array();
-  for (const TableChanges& table : tables) {
-    for (const Change& change : table.changes) {
-      Json finding{{"table", table.table}, {"row", change.row}};
-      if (!IsOfRow(change)) finding["column"] = ToUtf8(change.column);
-      finding["kind"] = KindName(change.kind);
-      finding["loss"] = change.loss;
-      if (change.kind != ChangeKind::RowDropped) {
-        finding["from"] = CellToJson(change.from);
-        finding["to"] = CellToJson(change.to);
-      }
-      finding["reason"] = change.reason;
-      findings.push_back(std::move(finding));
-    }
-  }
-  return findings;
-}
-
-std::string Plural(std::size_t count, const std::string& noun) {
-  return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
-}
-
-/// Row numbers with runs drawn together: "1-3, 7". The tail of a long list is only counted.
-std::string Ranges(const std::vector<int>& rows) {
-  constexpr int kMostRanges = 8;
-  std::string text;
-  int ranges = 0;
-  for (std::size_t i = 0; i < rows.size();) {
-    if (++ranges > kMostRanges) return text + " and " + std::to_string(rows.size() - i) + " more";
-    std::size_t last = i;
-    while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1) ++last;
-    text += (i == 0 ? "" : ", ") + std::to_string(rows[i]);
-    if (last > i) text.append("-").append(std::to_string(rows[last]));
-    i = last + 1;
-  }
-  return text;
-}
-
-/// The cell as JSON has it, a long text cut short.
-std::string Shown(Variant cell) {
-  constexpr std::size_t kMostCharacters = 40;
-  if (std::holds_alternative<std::monostate>(cell)) return "empty";
-  if (Text* const text = std::get_if<Text>(&cell); text && text->size() > kMostCharacters) {
-    text->resize(kMostCharacters - 1);
-    *text += u'\u2026';
-  }
-  return OneLine(CellToJson(cell).dump());
-}
-
-/// How a person knows a row: by its technical name.
-std::string NameOf(const TableChanges& table, MemoryTable& rows, int row) {
-  static const std::map<std::string, TextView> columns{
-      {"dimension", u"IOBJNM"}, {"member", u"CHAVL"}, {"attribute", u"ATTRINM"}};
-  const auto column = columns.find(table.table);
-  if (column == columns.end()) return {};
-  const Text name = ToText(rows.Rows(row)->Value(column->second));
-  return name.empty() ? "" : " (" + ToUtf8(OneLine(name)) + ")";
-}
-
-/// The changes that are alike but for their rows, one line of text.
-struct Line {
-  std::string what;  ///< "lost" or "changed"
-  std::vector<int> rows;
-  std::string rowsText;
-  std::string column;
-  std::string change;
-};
-
-std::string ChangeText(const Change& change) {
-  if (change.kind == ChangeKind::RowDropped) return "does not come back: " + change.reason;
-  if (change.kind == ChangeKind::RowRepeated) {
-    return "comes back " + ToAscii(ToText(Variant(change.to))) + " times: " + change.reason;
-  }
-  return Shown(change.from) + " -> " + Shown(change.to) + "  (" + change.reason + ")";
-}
-
-std::vector<Line> LinesOf(const TableChanges& table, MemoryTable& rows) {
-  std::vector<Line> lines;
-  std::map<std::string, std::size_t> places;
-  for (const Change& change : table.changes) {
-    if (change.kind == ChangeKind::CellFilled || change.kind == ChangeKind::RowMoved) continue;
-    const std::string what = change.loss ? "lost" : "changed";
-    const std::string column = OneLine(ToUtf8(change.column));
-    const std::string key = Json{what, column, CellToJson(change.from), CellToJson(change.to), change.reason}.dump();
-    const auto [place, isNew] = places.try_emplace(key, lines.size());
-    if (isNew) {
-      lines.push_back(
-          {.what = what, .rows = {}, .rowsText = "", .column = column, .change = OneLine(ChangeText(change))});
-    }
-    lines[place->second].rows.push_back(change.row);
-  }
-  for (Line& line : lines) {
-    line.rowsText = line.rows.size() > 1 ? "rows " + Ranges(line.rows)
-                                         : "row " + std::to_string(line.rows[0]) + NameOf(table, rows, line.rows[0]);
-  }
-  std::stable_partition(lines.begin(), lines.end(), [](const Line& line) { return line.what == "lost"; });
-  return lines;
-}
-
-std::size_t CountOf(const TableChanges& table, ChangeKind kind) {
-  return static_cast<std::size_t>(std::count_if(table.changes.begin(), table.changes.end(),
-                                                [&](const Change& change) { return change.kind == kind; }));
-}
-
-std::string FilledCells(std::size_t count) { return Plural(count, "empty cell") + " filled"; }
-
-std::string Summary(const TableChanges& table, std::size_t rows) {
-  const std::size_t back = table.rowsBack.size();
-  std::string text = std::string(table.table) + ": " + Plural(rows, "row") + ", ";
-  if (rows == 1) {
-    text += back == 1 ? "comes back" : "does not come back";
-  } else {
-    text += back == rows ? "all come back"
-            : back == 0  ? "none comes back"
-            : back == 1  ? "1 comes back"
-                         : std::to_string(back) + " come back";
-  }
-  if (CountOf(table, ChangeKind::RowMoved) > 0) text += ", in the order " + Ranges(table.rowsBack);
-  if (const std::size_t filled = CountOf(table, ChangeKind::CellFilled)) text += "; " + FilledCells(filled);
-  return text;
-}
-
-std::string Padded(const std::string& text, std::size_t width) {
-  const auto shown = static_cast<std::size_t>(DisplayWidth(FromUtf8(text)));
-  return text + std::string(width > shown ? width - shown : 0, ' ');
-}
-
-void Print(const std::vector<Line>& lines, std::ostream& out) {
-  std::size_t rowsWidth = 0;
-  std::size_t columnWidth = 0;
-  for (const Line& line : lines) {
-    rowsWidth = std::max(rowsWidth, static_cast<std::size_t>(DisplayWidth(FromUtf8(line.rowsText))));
-    columnWidth = std::max(columnWidth, static_cast<std::size_t>(DisplayWidth(FromUtf8(line.column))));
-  }
-  for (const Line& line : lines) {
-    out << "    " << Padded(line.what, 7) << "  " << Padded(line.rowsText, rowsWidth) << "  ";
-    if (!line.column.empty()) out << Padded(line.column, columnWidth) << "  ";
-    out << line.change << "\n";
-  }
-}
-
-struct Losses {
-  std::size_t rows = 0;
-  std::size_t cells = 0;
-};
-
-Losses LossesOf(const std::vector<TableChanges>& tables) {
-  Losses losses;
-  for (const TableChanges& table : tables) {
-    for (const Change& change : table.changes) {
-      if (change.loss) ++(IsOfRow(change) ? losses.rows : losses.cells);
-    }
-  }
-  return losses;
-}
-
-std::string Verdict(const Losses& losses) {
-  if (losses.rows == 0 && losses.cells == 0) return "nothing is lost";
-  std::string text;
-  if (losses.rows > 0) text = Plural(losses.rows, "row");
-  if (losses.cells > 0) text += (text.empty() ? "" : " and ") + Plural(losses.cells, "cell");
-  return text + " would be lost";
-}
-
-void Print(const SettingsDocument& document, const std::vector<TableChanges>& tables, std::ostream& out) {
-  out << document.file << ": " << Verdict(LossesOf(tables));
-  std::size_t filled = 0;
-  std::size_t all = 0;
-  for (const TableChanges& table : tables) {
-    filled += CountOf(table, ChangeKind::CellFilled);
-    all += table.changes.size();
-  }
-  if (all == filled) {
-    out << (filled > 0 ? ", " + FilledCells(filled) : "") << "\n";
-    return;
-  }
-  out << "\n";
-  for (std::size_t i = 0; i < tables.size(); ++i) {
-    MemoryTable& rows = *(document.*kTableMembers[i].table);
-    if (rows.RowCount() == 0) continue;
-    out << "  " << Summary(tables[i], static_cast<std::size_t>(rows.RowCount())) << "\n";
-    Print(LinesOf(tables[i], rows), out);
-  }
-}
-
-int CheckFile(const std::string& file, bool json, std::ostream& out, std::ostream& err) {
-  const auto print = [&](int status, const char* error, const std::vector<TableChanges>& tables) {
-    Json object{{"file", InputName(file)}, {"status", status}};
-    if (error) object["error"] = error;
-    object["findings"] = ToJson(tables);
-    out << ToLine(object) << "\n";
+/// "3 documents: 2 kept whole, 1 loses something".
+std::string Summary(Counts counts) {
+  struct Words {
+    CheckOutcome outcome;
+    const char* ofOne;
+    const char* ofSeveral;
   };
-  try {
-    const SettingsDocument document = ReadSettings(file);
-    const auto tables = ChangesOf(document);
-    const Losses losses = LossesOf(tables);
-    const int status = losses.rows + losses.cells > 0 ? kLoss : kSuccess;
-    if (json) {
-      print(status, nullptr, tables);
-    } else {
-      Print(document, tables, out);
-    }
-    return status;
-  } catch (const LoadError& error) {
-    if (json) {
-      print(kLoss, error.what(), {});
-    } else {
-      out << error.what() << "\n";
-    }
-    return kLoss;
-  } catch (const DocumentError& error) {
-    if (json) {
-      print(kBadFile, error.what(), {});
-    } else {
-      err << "prnprop: " << error.what() << "\n";
-    }
-    return kBadFile;
+  static constexpr Words kWords[] = {
+      {CheckOutcome::IsKeptWhole, " kept whole", " kept whole"},
+      {CheckOutcome::LosesSomething, " loses something", " lose something"},
+      {CheckOutcome::DoesNotLoad, " does not load", " do not load"},
+      {CheckOutcome::IsNoDocument, " is not a settings document", " are not settings documents"},
+      {CheckOutcome::CanNotBeRead, " can't be read", " can't be read"},
+  };
+  std::size_t all = 0;
+  for (const Words& words : kWords) all += counts[words.outcome];
+  std::string text = std::to_string(all) + " documents";
+  const char* separator = ": ";
+  for (const auto& [outcome, ofOne, ofSeveral] : kWords) {
+    const std::size_t count = counts[outcome];
+    if (count == 0) continue;
+    text += separator + (count == all ? "all" : std::to_string(count)) + (count == 1 ? ofOne : ofSeveral);
+    separator = ", ";
   }
+  if (counts[CheckOutcome::LeadsNowhere] > 0) text += "; not all folders and patterns lead to documents";
+  return text;
+}
+
+void TellRepeated(const std::vector<std::string>& repeated, std::ostream& err) {
+  if (repeated.empty()) return;
+  err << "prnprop: " << repeated.front();
+  if (repeated.size() > 1) err << " and " << repeated.size() - 1 << " more";
+  err << (repeated.size() > 1 ? " are" : " is") << " named again, and checked once\n";
 }
 
 }  // namespace
 
-int Check(const std::vector<std::string>& files, bool json, std::ostream& out, std::ostream& err) {
+int Check(const CheckOptions& options, std::ostream& out, std::ostream& err) {
+  const auto [names, repeated] = FindDocuments(options.names);
+  TellRepeated(repeated, err);
+
+  const auto check = [&](std::size_t number) {
+    const DocumentName& name = names[number];
+    if (name.error.empty()) return ReportOn(name.path, options.json);
+    return ReportFailure(name.path, CheckOutcome::LeadsNowhere, name.error, options.json);
+  };
+  ProgressLine progress(options.showProgress ? &err : nullptr);
+  Counts counts;
+  std::size_t done = 0;
   int worst = kSuccess;
-  for (const std::string& file : files) worst = std::max(worst, CheckFile(file, json, out, err));
+  const auto tell = [&](const CheckReport& report) {
+    progress.Wipe();
+    // What is told of a document is to be seen when it is known.
+    out << report.out << std::flush;
+    err << report.err;
+    ++counts[report.outcome];
+    worst = std::max<int>(worst, StatusOf(report.outcome));
+    progress.Show("checked " + std::to_string(++done) + " of " + std::to_string(names.size()));
+  };
+  const std::size_t jobs = options.jobs > 0 ? options.jobs : std::max(1U, std::thread::hardware_concurrency());
+  InOrder(names.size(), jobs, check, tell);
+  progress.Wipe();
+  if (done - counts[CheckOutcome::LeadsNowhere] > 1 && !options.json) out << Summary(counts) << "\n";
   return worst;
 }
 

@@ -474,7 +474,7 @@ void Comparison::AddBreakLines(const std::vector<Change<C>>& changes, std::vecto
     const auto listed = [](const std::map<std::size_t, Text>& places) {
       std::vector<Text> names;
       for (const auto& [place, name] : places) names.push_back(name);
-      return names.empty() ? LookUp(u"ID_PRN_NONE", u"<None>") : Joined(names);
+      return names.empty() ? LookUp(kNoneText.key, kNoneText.text) : Joined(names);
     };
     lines.push_back(Filled(words_.changed, {Caption(kind.key), listed(before), listed(after)}));
   }

@@ -9,9 +9,32 @@
 #include "tables/RunTimeError.h"
 
 namespace ORXKMPrintProp::host {
+namespace {
+
+/// What the control says of a table, by the name that the table has in a document. It says so ahead of a place in a
+/// row, or at the end; what stands between may be the document's own text.
+Text InNamesOfDocument(Text words) {
+  struct Name {
+    TextView ofControl;
+    TextView ofDocument;
+  };
+  static constexpr Name kBegins[] = {{u"Table with general print properties GenPropTable ", u"general "},
+                                     {u"GenPropTable, ", u"general, "},
+                                     {u"it_dim, ", u"dimension, "},
+                                     {u"it_mem, ", u"member, "},
+                                     {u"it_atr, ", u"attribute, "}};
+  static constexpr TextView kEnd = u" of it_atr.";
+  for (const Name& name : kBegins) {
+    if (words.starts_with(name.ofControl)) return words.replace(0, name.ofControl.size(), name.ofDocument);
+  }
+  if (words.ends_with(kEnd)) words.replace(words.size() - kEnd.size(), Text::npos, u" of attribute.");
+  return words;
+}
+
+}  // namespace
 
 LoadError::LoadError(const SettingsDocument& document, TextView words)
-    : std::runtime_error(OneLine(document.file + ": the load fails: " + ToUtf8(words))) {}
+    : std::runtime_error(OneLine(document.file + ": the load fails: " + ToUtf8(InNamesOfDocument(Text(words))))) {}
 
 void LoadAndReadBack(const SettingsDocument& document) {
   const SharedValuesGuard guard;

@@ -8,7 +8,8 @@
 
 namespace ORXKMPrintProp::host {
 
-/// A control did not take the settings. `what()` is one line: the file and what the control says.
+/// A control did not take the settings. `what()` is one line: the file and what the control says, with the tables called
+/// as the document calls them: "FILE: the load fails: dimension, row 3, column POSIT: REASON".
 class LoadError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;

@@ -32,22 +32,26 @@ bool WantsColor() {
 }
 
 void AddCheck(CLI::App& program, int& status) {
-  struct Options {
-    std::vector<std::string> files;
-    bool json = false;
-  };
-  const auto options = std::make_shared<Options>();
+  const auto options = std::make_shared<CheckOptions>();
   CLI::App* const check =
       program.add_subcommand("check", "Shows what a load and a read-back would change in documents");
-  check->add_option("FILE", options->files, "Settings documents")->required();
+  check->add_option("FILE", options->names, "Settings documents, folders of them, and patterns such as 'q*.json'")
+      ->required();
   check->add_flag("--json", options->json, "One JSON object per document, a line each");
+  check->add_option("-j,--jobs", options->jobs, "Documents at a time, instead of one for each processor")
+      ->type_name("N")
+      ->check(CLI::Range(1, 1024));
   check->footer(
       "Ends with 0 when nothing is lost, 1 when something would be or a load fails, 3 when a file is not a\n"
-      "settings document. Load errors call the tables GenPropTable, it_dim, it_mem and it_atr.\n"
+      "settings document, or a folder or pattern leads to none.\n"
       "\n"
       "Examples:\n"
-      "  prnprop check *.json");
-  check->callback([options, &status] { status = Check(options->files, options->json, std::cout, std::cerr); });
+      "  prnprop check sales.json\n"
+      "  prnprop check settings 'archive/*/q[1-4].json'");
+  check->callback([options, &status] {
+    options->showProgress = IsTerminal(stderr);
+    status = Check(*options, std::cout, std::cerr);
+  });
 }
 
 void RefuseTwoFromStandardInput(std::initializer_list<std::string> inputs) {

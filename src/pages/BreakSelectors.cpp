@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 
+#include "dialog/DialogTexts.h"
 #include "pages/ListRoutines.h"
 namespace ORXKMPrintProp {
 namespace {
@@ -52,7 +53,7 @@ BreakSelectors::BreakSelectors(const PageState& state)
 void BreakSelectors::FillBreakCombos() {
   for (const Selector& selector : selectors_) selector.combo.Clear();
   for (const Selector& selector : selectors_) {
-    ModPrnGen::AppendItem(selector.combo, PageState::LookUp(u"ID_PRN_NONE", u"<None>"), kNoBreak);
+    ModPrnGen::AppendItem(selector.combo, PageState::LookUp(kNoneText.key, kNoneText.text), kNoBreak);
   }
 
   const PrnCharCollCls& characteristics = state_.Characteristics();

@@ -1,5 +1,7 @@
 #include "pages/CharPage.h"
 
+#include "dialog/DialogTexts.h"
+
 namespace ORXKMPrintProp {
 namespace {
 
@@ -98,8 +100,8 @@ void CharPage::StoreOrder() {
 
 bool CharPage::MayTake(std::int16_t more) {
   if (lstPrint.ListCount() + more <= kMaxPrintCharacteristics) return true;
-  const Text text = PageState::LookUp(u"ID_PRN_MSGMAX10", u"You may only use up to ten print characteristics");
-  const Text title = PageState::LookUp(u"ID_PRN_ERROR", u"Error");
+  const Text text = PageState::LookUp(kTooManyText.key, kTooManyText.text);
+  const Text title = PageState::LookUp(kErrorText.key, kErrorText.text);
   state_.dialog.GetView().MsgBox(text, title);
   return false;
 }

@@ -9,7 +9,6 @@
 namespace ORXKMPrintProp::views {
 namespace {
 
-constexpr Letters kSmallest{.size = 70, .width = 80};
 constexpr int kStep = 5;
 constexpr char16_t kEllipsis = u'\u2026';
 
@@ -21,7 +20,7 @@ Text Cut(TextView text, int width, const Measure& measure) {
   std::size_t tooLong = text.size();
   while (fits + 1 < tooLong) {
     const std::size_t middle = fits + (tooLong - fits) / 2;
-    (measure(Text(text.substr(0, middle)) + kEllipsis, kSmallest) <= width ? fits : tooLong) = middle;
+    (measure(Text(text.substr(0, middle)) + kEllipsis, kSmallestLetters) <= width ? fits : tooLong) = middle;
   }
   if (fits < text.size() && fits > 0 && IsLowSurrogate(text[fits])) --fits;
   return Text(text.substr(0, fits)) + kEllipsis;
@@ -30,8 +29,8 @@ Text Cut(TextView text, int width, const Measure& measure) {
 }  // namespace
 
 std::optional<Letters> FittingLetters(const std::function<bool(const Letters& letters)>& fits) {
-  for (Letters letters; letters >= kSmallest;
-       (letters.width > kSmallest.width ? letters.width : letters.size) -= kStep) {
+  for (Letters letters; letters >= kSmallestLetters;
+       (letters.width > kSmallestLetters.width ? letters.width : letters.size) -= kStep) {
     if (fits(letters)) return letters;
   }
   return {};
@@ -41,7 +40,7 @@ FittedText Fit(TextView text, int width, const Measure& measure, const Letters& 
   if (measure(text, most) <= width) return {Text(text), most, false};
   const auto fitting = FittingLetters([&](const Letters& letters) { return measure(text, letters) <= width; });
   if (fitting) return {Text(text), *fitting, false};
-  return {Cut(text, width, measure), kSmallest, true};
+  return {Cut(text, width, measure), kSmallestLetters, true};
 }
 
 CaptionLetters::CaptionLetters(const Dialog& dialog, Needed needed) : dialog_(dialog), ask_(std::move(needed)) {}
@@ -74,10 +73,18 @@ FittedTabs FitTabs(int tabs, int width, const std::function<int(int tab, const L
     return all <= width;
   };
   const auto fitting = FittingLetters(fits);
-  return {fitting.value_or(kSmallest), !fitting};
+  return {fitting.value_or(kSmallestLetters), !fitting};
 }
 
 int TabWidth(int stripWidth, int needed) { return std::max(stripWidth / kTabsPerRow, needed); }
+
+int RoomOfTab(int tab, int tabs, int width, const std::function<int(int tab)>& needed) {
+  int room = width;
+  for (int other = 0; other < tabs; ++other) {
+    if (other != tab) room -= TabWidth(width, needed(other));
+  }
+  return std::max(room, width / tabs);
+}
 
 Text ToolTipWith(TextView cutText, TextView toolTip) {
   Text text(cutText);

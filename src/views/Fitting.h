@@ -22,6 +22,15 @@ struct Letters {
   friend auto operator<=>(const Letters&, const Letters&) = default;
 };
 
+/// In which a text takes the least room.
+inline constexpr Letters kSmallestLetters{.size = 70, .width = 80};
+
+/// How many pixels a text needs at least, and how many there are for it; it is cut where these are fewer.
+struct TextRoom {
+  int needed;
+  int room;
+};
+
 /// The width of a text in pixels.
 using Measure = std::function<int(TextView text, const Letters& letters)>;
 
@@ -78,6 +87,10 @@ FittedTabs FitTabs(int tabs, int width, const std::function<int(int tab, const L
 
 /// A tab has its share of a full row, and more where its caption needs it.
 int TabWidth(int stripWidth, int needed);
+
+/// How much of the strip there is for one tab: what the others leave of it, and at least its share.
+/// @param needed what the tab with that number needs in the smallest letters.
+int RoomOfTab(int tab, int tabs, int width, const std::function<int(int tab)>& needed);
 
 /// The tooltip of a widget, with the text that could not be shown in full ahead of it, a line each.
 Text ToolTipWith(TextView cutText, TextView toolTip);

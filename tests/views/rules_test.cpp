@@ -132,6 +132,10 @@ void RulesPlayer::DoStep(const std::string& line) {
          const FittedTabs fitted = FitTabs(
              4, first, [](int tab, const Letters& letters) { return (tab + 1) * letters.size * letters.width / 100; });
          Tell(NameOf(fitted.letters, fitted.areCut));
+         const auto inSmallest = [](int tab) { return (tab + 1) * 56; };
+         std::string rooms;
+         for (int tab = 0; tab < 4; ++tab) rooms += ' ' + std::to_string(RoomOfTab(tab, 4, first, inSmallest));
+         if (fitted.areCut) Tell("room:" + rooms);
        }},
       {"caption", [&] { ChangeCaption(rest.substr(0, rest.find(' ')), std::stoul(rest.substr(rest.find(' ')))); }},
       {"type", [&] { Type(Wide(rest)); }},

@@ -3,14 +3,20 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <charconv>
+#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
+#include "host/DocumentError.h"
+#include "host/ExitStatus.h"
 #include "host/Files.h"
+#include "host/Paths.h"
 #include "host/Program.h"
 #include "host/Spelling.h"
+#include "host/editor/Texts.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
@@ -62,6 +68,14 @@ void AddSettings(CLI::App& command, EditOptions& options, bool needsFile) {
   command.add_flag("--read-only", options.readOnly, "The dialog takes no change");
 }
 
+void Write(const std::string& content, const std::string& out) {
+  if (out == kStandardStream) {
+    std::cout << content;
+  } else {
+    SaveFile(out, content);
+  }
+}
+
 void AddEdit(CLI::App& program, const WindowCommands& commands, int& status) {
   const auto options = std::make_shared<EditOptions>();
   CLI::App* const edit = program.add_subcommand("edit", "Opens the dialog in a window");
@@ -105,12 +119,64 @@ void AddShot(CLI::App& program, const WindowCommands& commands) {
       throw CLI::ValidationError("--size: " + options->size + " is neither a factor up to 16 nor WIDTHxHEIGHT");
     }
     options->shot.size = *size;
-    const std::string picture = draw(options->shot);
-    if (options->out == kStandardStream) {
-      std::cout << picture;
-    } else {
-      SaveFile(options->out, picture);
+    Write(draw(options->shot), options->out);
+  });
+}
+
+/// Draws the four pages in a folder, with settings of their own where the document has none.
+void DrawPages(const WindowCommands& commands, const std::string& file, const std::string& folder) {
+  std::error_code error;
+  std::filesystem::create_directories(PathOf(folder), error);
+  if (error) throw DocumentError({.file = folder}, WordsOf(error));
+  const bool hasSettings = ReadSettings(file).general->RowCount() > 0;
+  ShotOptions shot;
+  shot.settings.file = hasSettings ? file : "";
+  shot.settings.texts = file;
+  for (const std::string& page : kPages) {
+    SaveFile(folder + "/" + page + ".png", commands.shot(shot));
+    ++shot.page;
+  }
+}
+
+void AddTexts(CLI::App& program, const WindowCommands& commands, int& status) {
+  struct Options {
+    std::string file;
+    std::string folder;
+    bool json = false;
+    bool isNew = false;
+    std::string out{kStandardStream};
+  };
+  const auto options = std::make_shared<Options>();
+  CLI::App* const texts = program.add_subcommand("texts", "Checks the text table of a document, for its translator");
+  CLI::Option* const file = texts->add_option("FILE", options->file, "Document with a text table");
+  CLI::Option* const shot =
+      texts->add_option("--shot", options->folder, "Folder for pictures of the four pages with the texts")
+          ->type_name("FOLDER");
+  CLI::Option* const json = texts->add_flag("--json", options->json, "One JSON object");
+  CLI::Option* const fresh =
+      texts->add_flag("--new", options->isNew, "Writes a document with all texts and their defaults, to begin from")
+          ->excludes(file, shot, json);
+  texts->add_option("-o,--output", options->out, "File to write or replace, instead of standard output")
+      ->type_name("OUT")
+      ->needs(fresh);
+  texts->footer(
+      "Finds keys that are missing, unknown or there twice, placeholders, texts that are cut in their widgets, and\n"
+      "texts that are the same where the defaults are not.\n"
+      "Ends with 0 when there is nothing to look at, 1 when there is, 3 when FILE is not a settings document with a\n"
+      "text table.\n"
+      "\n"
+      "Examples:\n"
+      "  prnprop texts german.json\n"
+      "  prnprop texts --shot pictures german.json\n"
+      "  prnprop texts --new -o swedish.json");
+  texts->callback([options, commands, &status] {
+    if (options->isNew) return Write(NewTexts(), options->out);
+    if (options->file.empty()) throw CLI::RequiredError("FILE");
+    if (options->file == kStandardStream && !options->folder.empty()) {
+      throw CLI::ValidationError("--shot needs a file, since standard input can be read only once");
     }
+    status = CheckTexts(options->file, options->json, commands.measure, std::cout, std::cerr);
+    if (status != kBadFile && !options->folder.empty()) DrawPages(commands, options->file, options->folder);
   });
 }
 
@@ -120,6 +186,7 @@ int RunProgram(int argc, char** argv, const WindowCommands& commands) {
   return RunProgram(argc, argv, [&commands](CLI::App& program, int& status) {
     AddEdit(program, commands, status);
     AddShot(program, commands);
+    AddTexts(program, commands, status);
   });
 }
 

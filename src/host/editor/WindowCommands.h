@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/editor/EditedSettings.h"
+#include "host/editor/TextCheck.h"
 
 namespace ORXKMPrintProp::host {
 
@@ -22,15 +23,16 @@ struct ShotOptions {
   bool window = false;  ///< the whole window of the editor instead of the dialog alone
 };
 
-/// What a toolkit does for the commands that need windows. Both throw what they can't do.
+/// What a toolkit does for the commands that need windows. All throw what they can't do.
 struct WindowCommands {
   /// Opens the document in a window. @return what the program ends with
   std::function<int(const EditOptions& options)> edit;
   /// Draws a page of the dialog. @return a PNG picture
   std::function<std::string(const ShotOptions& options)> shot;
+  MeasureTexts measure;
 };
 
-/// The program `prnprop` with the commands `edit` and `shot`. @return an ExitStatus
+/// The program `prnprop` with the commands `edit`, `shot` and `texts`. @return an ExitStatus
 int RunProgram(int argc, char** argv, const WindowCommands& commands);
 
 }  // namespace ORXKMPrintProp::host

@@ -13,6 +13,7 @@
 #include "host/Utf8.h"
 #include "host/editor/WindowCommands.h"
 #include "host/win32/Edit.h"
+#include "host/win32/Measure.h"
 #include "host/win32/Shot.h"
 
 int wmain(int argc, wchar_t** argv) {
@@ -28,7 +29,8 @@ int wmain(int argc, wchar_t** argv) {
   }
   std::vector<char*> pointers(arguments.size());
   std::transform(arguments.begin(), arguments.end(), pointers.begin(), [](std::string& text) { return text.data(); });
-  const int status = host::RunProgram(argc, pointers.data(), {.edit = host::Edit, .shot = host::Shot});
+  const int status =
+      host::RunProgram(argc, pointers.data(), {.edit = host::Edit, .shot = host::Shot, .measure = host::Measure});
   ::SetConsoleOutputCP(formerPage);
   return status;
 }

@@ -26,6 +26,18 @@ void DrawInMemory() {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
+namespace {
+
+int& Prepared(int& argc) {
+  DrawInMemory();
+  TakeQtMessages(false);
+  return argc;
+}
+
+}  // namespace
+
+ApplicationInMemory::ApplicationInMemory() : application_(Prepared(argc_), argv_) {}
+
 void TakeQtMessages(bool warn) {
   static bool warns = false;
   static QtMessageHandler former = nullptr;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QApplication>
+
 namespace ORXKMPrintProp::host {
 
 /// Whether there is something to open windows on: a display, or a platform that the user has named.
@@ -10,6 +12,18 @@ bool IsDisplayed();
 
 /// Makes Qt draw in memory, unless the user has named a platform.
 void DrawInMemory();
+
+/// An application that nobody sees, unless the user has named a platform.
+class ApplicationInMemory {
+ public:
+  ApplicationInMemory();
+
+ private:
+  int argc_ = 1;
+  char name_[8] = "prnprop";
+  char* argv_[2] = {name_, nullptr};
+  QApplication application_;
+};
 
 /// Takes over what Qt says. Where it can't use the display it ends the program, which is then told like any failure,
 /// with the status `kLoss`.

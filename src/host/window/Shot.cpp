@@ -38,12 +38,7 @@ QImage Picture(QWidget& view, const PictureSize& wanted) {
 }  // namespace
 
 std::string Shot(const ShotOptions& options) {
-  DrawInMemory();
-  TakeQtMessages(false);
-  int argc = 1;
-  char name[] = "prnprop";
-  char* argv[] = {name, nullptr};
-  QApplication application(argc, argv);
+  const ApplicationInMemory application;
   const Translation translation(UserLanguage());
   qt::QtPlatform platform;
   EditedSettings settings(options.settings, platform);

@@ -6,6 +6,7 @@
 #include <QWheelEvent>
 
 #include "views/qt/QtKeys.h"
+#include "views/qt/QtText.h"
 
 namespace ORXKMPrintProp::qt {
 
@@ -75,11 +76,20 @@ void ComboBoxView::ShowPicked() {
   ShowToolTip(isCut ? currentText() : QString());
 }
 
+int ComboBoxView::FieldWidth(const QStyleOptionComboBox& option) const {
+  constexpr int kBlank = 2;  // what styles leave beside the text
+  return style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this).width() - kBlank;
+}
+
+std::optional<views::TextRoom> ComboBoxView::RoomOf(TextView text, int) const {
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  return views::TextRoom{option.fontMetrics.horizontalAdvance(ToQString(views::OnOneLine(text))), FieldWidth(option)};
+}
+
 void ComboBoxView::initStyleOption(QStyleOptionComboBox* option) const {
   QComboBox::initStyleOption(option);
-  constexpr int kBlank = 2;  // what styles leave beside the text
-  const QRect field = style()->subControlRect(QStyle::CC_ComboBox, option, QStyle::SC_ComboBoxEditField, this);
-  option->currentText = option->fontMetrics.elidedText(currentText(), Qt::ElideRight, field.width() - kBlank);
+  option->currentText = option->fontMetrics.elidedText(currentText(), Qt::ElideRight, FieldWidth(*option));
 }
 
 }  // namespace ORXKMPrintProp::qt

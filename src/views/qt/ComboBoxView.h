@@ -18,6 +18,7 @@ class ComboBoxView : public ViewOf<QComboBox, ComboBox> {
   void EntryAdded(int) override { entries_->EntriesChanged(); }
   void EntryRemoved(int) override { entries_->EntriesChanged(); }
   void EntriesCleared() override { entries_->EntriesChanged(); }
+  std::optional<views::TextRoom> RoomOf(TextView text, int tab) const override;
   void showPopup() override;
 
  protected:
@@ -27,6 +28,7 @@ class ComboBoxView : public ViewOf<QComboBox, ComboBox> {
   void wheelEvent(QWheelEvent* event) override;
 
  private:
+  int FieldWidth(const QStyleOptionComboBox& option) const;
   /// Qt picks an entry by itself when entries come and go.
   void ShowPicked();
 

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <unordered_map>
 #include <utility>
 #include <vector>
@@ -45,6 +46,12 @@ class PrnPropView : public QWidget, private View {
   void Focus(const Widget& widget);
   /// Carries out what the user does to the widget from outside of the dialog, with the signals that go with it.
   void Perform(const Widget& widget, const std::function<void()>& action);
+  /// How another text would lie in the widget, in the place of its caption or as one of its entries.
+  /// @param tab of the tab strip, which tab it is for.
+  /// @return none where the widget shows nothing of the kind.
+  std::optional<views::TextRoom> RoomOf(const Widget& widget, const Text& text, int tab) const {
+    return ViewFor(widget).RoomOf(text, tab);
+  }
 
  signals:
   /// What the user did failed in the middle, as where a table refuses an operation. The dialog stays usable.

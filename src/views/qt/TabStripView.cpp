@@ -111,6 +111,17 @@ void TabStripView::FitTabs() {
   }
 }
 
+std::optional<views::TextRoom> TabStripView::RoomOf(TextView text, int tab) const {
+  const auto& tabs = static_cast<const TabBar&>(*tabs_);
+  const auto needed = [&](int number, TextView caption) {
+    const int around = tabs.Needed(number) - tabs.fontMetrics().horizontalAdvance(tabs.tabText(number));
+    return MeasureOfCaption()(caption, views::kSmallestLetters) + around;
+  };
+  return views::TextRoom{needed(tab, text), views::RoomOfTab(tab, SSTab::kTabs, tabs.width(), [&](int other) {
+                           return needed(other, widget_.TabCaption(static_cast<std::int16_t>(other)));
+                         })};
+}
+
 void TabStripView::paintEvent(QPaintEvent*) {
   QStylePainter painter(this);
   QStyleOptionTabWidgetFrame frame;

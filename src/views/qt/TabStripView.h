@@ -13,6 +13,8 @@ class TabStripView : public ViewOf<QWidget, SSTab> {
  public:
   TabStripView(SSTab& strip, const Reports& reports, QWidget* parent);
   void Refresh() override;
+  /// What is around the caption is part of both widths.
+  std::optional<views::TextRoom> RoomOf(TextView text, int tab) const override;
 
   QWidget& Page(std::int16_t tab) const { return *pages_[static_cast<std::size_t>(tab)]; }
   /// Picks the page that the key brings to the top, or leaves the key alone.

@@ -103,6 +103,12 @@ std::optional<views::Letters> WidgetView::NeededLetters() const {
       [&](const views::Letters& letters) { return measure(base_.Caption(), letters) <= room; });
 }
 
+std::optional<views::TextRoom> WidgetView::RoomOf(TextView text, int) const {
+  const std::optional<int> room = CaptionRoom();
+  if (!room) return {};
+  return views::TextRoom{MeasureOfCaption()(text, views::kSmallestLetters), *room};
+}
+
 QString WidgetView::FitCaption() {
   const views::FittedText fitted =
       views::Fit(base_.Caption(), CaptionRoom().value_or(0), MeasureOfCaption(), reports_.letters(base_));

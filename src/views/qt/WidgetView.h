@@ -47,12 +47,17 @@ class WidgetView {
   void Perform(const std::function<void()>& action);
   /// The greatest letters in which the widget's caption fits, none where it is cut.
   std::optional<views::Letters> NeededLetters() const;
+  /// How another text would lie in the widget, in the place of its caption or as one of its entries.
+  /// @param tab of a tab strip, which tab it is for.
+  /// @return none where the widget shows nothing of the kind.
+  virtual std::optional<views::TextRoom> RoomOf(TextView text, int tab) const;
 
  protected:
   /// The same for what changes nothing.
   void Attempt(const std::function<void()>& action);
 
   QFont StoredFont() const;
+  views::Measure MeasureOfCaption() const;
   void SetFont(const QFont& font);
   /// The widget's tooltip, and ahead of it a text that could not be shown in full.
   void ShowToolTip(const QString& cutText);
@@ -63,8 +68,6 @@ class WidgetView {
   QString FitCaption();
 
  private:
-  views::Measure MeasureOfCaption() const;
-
   QWidget& glass_;
   Widget& base_;
   const Reports& reports_;

@@ -73,8 +73,14 @@ void ComboBoxView::ShowPicked() {
   if (Send(CB_GETCURSEL) != picked) Send(CB_SETCURSEL, static_cast<WPARAM>(picked));
   const Text text = picked < 0 ? Text() : widget_.List(static_cast<std::int16_t>(picked));
   if (text == std::exchange(shown_, text)) return;
-  const bool isCut = surface_.MeasureOf(widget_.GetFont())(text, {}) > Size().cx - FieldEdge();
+  const views::TextRoom room = *RoomOf(text, 0);
+  const bool isCut = room.needed > room.room;
   surface_.SetToolTip(widget_, views::ToolTipWith(isCut ? text : Text(), widget_.ToolTipText()));
+}
+
+std::optional<views::TextRoom> ComboBoxView::RoomOf(TextView text, int) const {
+  return views::TextRoom{surface_.MeasureOf(widget_.GetFont())(views::OnOneLine(text), {}),
+                         static_cast<int>(Size().cx) - FieldEdge()};
 }
 
 void ComboBoxView::OnNotify(UINT notification) {

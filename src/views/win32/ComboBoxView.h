@@ -19,6 +19,7 @@ class ComboBoxView : public ViewOf<ComboBox> {
   void EntriesCleared() override;
   void OnNotify(UINT notification) override;
   void Use(WPARAM what) override;
+  std::optional<views::TextRoom> RoomOf(TextView text, int tab) const override;
 
  protected:
   WindowKind Kind() const override {

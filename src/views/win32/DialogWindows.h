@@ -29,6 +29,9 @@ class DialogWindows final : public Surface, public std::enable_shared_from_this<
   bool TakeKey(const MSG& message);
   void TakeFocus(int step);
   void Focus(const Widget& widget) { ::SetFocus(ViewFor(widget).Window()); }
+  std::optional<views::TextRoom> RoomOf(const Widget& widget, TextView text, int tab) const {
+    return ViewFor(widget).RoomOf(text, tab);
+  }
   void FollowMonitor();
   bool HasFocus() const { return window_ && (::GetFocus() == window_ || ::IsChild(window_, ::GetFocus())); }
 

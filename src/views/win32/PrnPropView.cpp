@@ -13,6 +13,9 @@ bool PrnPropView::TakeKey(const MSG& message) { return windows_->TakeKey(message
 void PrnPropView::TakeFocus(int step) { windows_->TakeFocus(step); }
 void PrnPropView::Focus(const Widget& widget) { windows_->Focus(widget); }
 bool PrnPropView::HasFocus() const { return windows_->HasFocus(); }
+std::optional<views::TextRoom> PrnPropView::RoomOf(const Widget& widget, const Text& text, int tab) const {
+  return windows_->RoomOf(widget, text, tab);
+}
 void PrnPropView::FollowMonitor() { windows_->FollowMonitor(); }
 
 SIZE PrnPropView::NaturalSize(UINT dpi) {

@@ -4,8 +4,10 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "dialog/Dialog.h"
+#include "views/Fitting.h"
 
 namespace ORXKMPrintProp::win32 {
 
@@ -56,6 +58,10 @@ class PrnPropView {
   /// Gives it to the widget, which can have it.
   void Focus(const Widget& widget);
   bool HasFocus() const;
+  /// How another text would lie in the widget, in the place of its caption or as one of its entries.
+  /// @param tab of the tab strip, which tab it is for.
+  /// @return none where the widget shows nothing of the kind.
+  std::optional<views::TextRoom> RoomOf(const Widget& widget, const Text& text, int tab) const;
 
   /// Takes on the resolution of the monitor that the window is on now. The system tells the window of a change itself,
   /// but not in every kind of program.

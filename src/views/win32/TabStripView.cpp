@@ -44,7 +44,7 @@ void TabStripView::Refresh() {
 }
 
 void TabStripView::FitTabs() {
-  const int width = static_cast<int>(Size().cx) - 4;
+  const int width = Width();
   const auto measure = surface_.MeasureOf(widget_.GetFont());
   const views::FittedTabs fitted = views::FitTabs(SSTab::kTabs, width, [&](int tab, const views::Letters& letters) {
     return measure(widget_.TabCaption(static_cast<std::int16_t>(tab)), letters) + 2 * kPadding;
@@ -65,6 +65,15 @@ void TabStripView::FitTabs() {
     TabCtrl_SetItem(Window(), tab, &item);
   }
   surface_.SetToolTip(widget_, views::ToolTipWith(whole, widget_.ToolTipText()));
+}
+
+std::optional<views::TextRoom> TabStripView::RoomOf(TextView text, int tab) const {
+  const auto needed = [&, measure = surface_.MeasureOf(widget_.GetFont())](TextView caption) {
+    return measure(caption, views::kSmallestLetters) + 2 * kPadding;
+  };
+  return views::TextRoom{needed(text), views::RoomOfTab(tab, SSTab::kTabs, Width(), [&](int other) {
+                           return needed(widget_.TabCaption(static_cast<std::int16_t>(other)));
+                         })};
 }
 
 void TabStripView::OnNotify(UINT notification) {

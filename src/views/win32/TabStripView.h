@@ -10,6 +10,8 @@ class TabStripView : public ViewOf<SSTab> {
   using ViewOf::ViewOf;
   void Make(HWND parent, int id) override;
   void Refresh() override;
+  /// What is around the caption is part of both widths.
+  std::optional<views::TextRoom> RoomOf(TextView text, int tab) const override;
   void OnNotify(UINT notification) override;
   void Use(WPARAM what) override;
 
@@ -23,6 +25,7 @@ class TabStripView : public ViewOf<SSTab> {
  private:
   void Pick(int tab);
   void FitTabs();
+  int Width() const { return static_cast<int>(Size().cx) - 4; }
 };
 
 }  // namespace ORXKMPrintProp::win32

@@ -143,6 +143,12 @@ std::optional<views::Letters> WidgetView::NeededLetters() const {
       [&](const views::Letters& letters) { return measure(base_.Caption(), letters) <= CaptionRoom(); });
 }
 
+std::optional<views::TextRoom> WidgetView::RoomOf(TextView text, int) const {
+  const int room = CaptionRoom();
+  if (room == 0) return {};
+  return views::TextRoom{surface_.MeasureOf(base_.GetFont())(text, views::kSmallestLetters), room};
+}
+
 void WidgetView::ShowCaption(bool asItIs) {
   const views::FittedText fitted =
       views::Fit(base_.Caption(), CaptionRoom(), surface_.MeasureOf(base_.GetFont()), surface_.LettersOf(base_));

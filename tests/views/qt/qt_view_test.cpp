@@ -353,5 +353,38 @@ TEST_F(QtViewTest, WhatDoesNotFitIsReadInTheTooltip) {
   EXPECT_LE(tabs.tabRect(3).right(), tabs.width());
 }
 
+TEST_F(QtViewTest, WhatWouldNotFitIsToldAhead) {
+  const auto wouldBeCut = [this](const Widget& widget, const Text& text, int tab = 0) {
+    const views::TextRoom room = view.RoomOf(widget, text, tab).value();
+    return room.needed > room.room;
+  };
+  for (const TextView name : {u"lblGenMarginTop", u"fraGenPageMargins", u"cmdPrintLayout(0)", u"chkGenNoLines"}) {
+    Widget& widget = *dialog.FindSpelled(name);
+    for (Text text; text.size() < 100; text += u'w') {
+      widget.Caption(text);
+      const bool isCut = CaptionOf(Glass(view, ToAscii(Text(name)))).endsWith(QChar(0x2026));
+      EXPECT_EQ(isCut, wouldBeCut(widget, text)) << ToAscii(Text(name)) << ' ' << text.size();
+    }
+  }
+  Load("a", kGeneralTab);
+  auto& combo = dialog.Get<ComboBox>(u"cmbGenSignPrsnt");
+  for (Text text; text.size() < 50; text += u'w') {
+    combo.List(0, text);
+    QApplication::processEvents();
+    const bool isCut = Glass(view, "cmbGenSignPrsnt").toolTip().contains(u'\n');
+    EXPECT_EQ(isCut, wouldBeCut(combo, text)) << text.size();
+  }
+  SSTab& strip = dialog.TabStrip();
+  for (const std::int16_t longest : {std::int16_t{3}, std::int16_t{1}}) {
+    for (Text text; text.size() < 100; text += u'w') {
+      strip.TabCaption(longest, text);
+      EXPECT_EQ(view.findChild<QTabBar*>()->tabToolTip(0).isEmpty(), !wouldBeCut(strip, text, longest)) << text.size();
+      EXPECT_FALSE(wouldBeCut(strip, strip.TabCaption(0), 0));
+    }
+    strip.TabCaption(longest, u"short");
+  }
+  EXPECT_FALSE(view.RoomOf(*dialog.FindSpelled(u"lstPrint(1)"), u"text", 0));
+}
+
 }  // namespace
 }  // namespace ORXKMPrintProp::qt::test

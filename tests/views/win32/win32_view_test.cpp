@@ -2,7 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <windows.h>
+
+#include <commctrl.h>
+
 #include <array>
+#include <cwchar>
 #include <utility>
 
 #include "control/SharedValues.h"
@@ -243,6 +248,35 @@ TEST_F(WindowsViewTest, WhatDoesNotFitIsCut) {
   EXPECT_EQ(win32::TextOf(WindowOf(u"lblGenMarginTop")), u"T&p");
   dialog.Get<CheckBox>(u"chkGenNoLines").Caption(u"T&p");
   EXPECT_EQ(win32::TextOf(WindowOf(u"chkGenNoLines")), u"T&&p") << "no shortcut";
+}
+
+TEST_F(WindowsViewTest, WhatWouldNotFitIsToldAhead) {
+  const auto wouldBeCut = [this](const Widget& widget, const Text& text, int tab = 0) {
+    const views::TextRoom room = view->RoomOf(widget, text, tab).value();
+    return room.needed > room.room;
+  };
+  for (const TextView name : {u"lblGenMarginTop", u"fraGenPageMargins", u"cmdPrintLayout(0)", u"chkGenNoLines"}) {
+    Widget& widget = *dialog.FindSpelled(name);
+    for (Text text = u"w"; text.size() < 100; text += u'w') {
+      widget.Caption(text);
+      const bool isCut = win32::TextOf(WindowOf(widget)).back() == u'\u2026';
+      EXPECT_EQ(isCut, wouldBeCut(widget, text)) << ToAscii(Text(name)) << ' ' << text.size();
+    }
+  }
+  SSTab& strip = dialog.TabStrip();
+  for (Text text = u"w"; text.size() < 100; text += u'w') {
+    strip.TabCaption(3, text);
+    wchar_t shown[128]{};
+    TCITEMW item{};
+    item.mask = TCIF_TEXT;
+    item.pszText = shown;
+    item.cchTextMax = 128;
+    TabCtrl_GetItem(WindowOf(u"tstPrint"), 3, &item);
+    const bool isCut = shown[std::wcslen(shown) - 1] == L'\u2026';
+    EXPECT_EQ(isCut, wouldBeCut(strip, text, 3)) << text.size();
+    EXPECT_FALSE(wouldBeCut(strip, strip.TabCaption(0), 0));
+  }
+  EXPECT_FALSE(view->RoomOf(*dialog.FindSpelled(u"lstPrint(1)"), u"text", 0));
 }
 
 }  // namespace
