@@ -40,6 +40,7 @@
 #include "host/window/PageSketchView.h"
 #include "host/window/Remembered.h"
 #include "host/window/Translation.h"
+#include "views/Translation.h"
 #include "views/qt/PrnPropView.h"
 #include "views/qt/QtPlatform.h"
 #include "views/qt/QtText.h"
@@ -827,8 +828,11 @@ TEST_F(SettingsWindowTest, AllThatIsReadOrHeardIsInTheUsersLanguage) {
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   qputenv("CUPS_SERVER", "/nowhere");
   const QStringList english = AllWords();
-  const Translation translation("de");
+  std::optional<Translation> translation("de");
   const QStringList german = AllWords();
+  translation.reset();
+  EXPECT_EQ(ProgramName(), "Print settings") << "it ends with the translation";
+  EXPECT_EQ(views::CurrentLanguage().code, "en");
   QStringList same;
   for (const QString& word : german) {
     const bool isWord = std::any_of(word.begin(), word.end(), [](QChar c) { return c.isLetter(); });
