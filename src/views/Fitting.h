@@ -89,6 +89,9 @@ FittedTabs FitTabs(int tabs, int width, const std::function<int(int tab, const L
 int TabWidth(int stripWidth, int needed);
 
 /// How much of the strip there is for one tab: what the others leave of it, and at least its share.
+/// @param tab its number.
+/// @param tabs how many there are.
+/// @param width that of the strip, in pixels.
 /// @param needed what the tab with that number needs in the smallest letters.
 int RoomOfTab(int tab, int tabs, int width, const std::function<int(int tab)>& needed);
 

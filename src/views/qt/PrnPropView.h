@@ -47,6 +47,8 @@ class PrnPropView : public QWidget, private View {
   /// Carries out what the user does to the widget from outside of the dialog, with the signals that go with it.
   void Perform(const Widget& widget, const std::function<void()>& action);
   /// How another text would lie in the widget, in the place of its caption or as one of its entries.
+  /// @param widget of the dialog.
+  /// @param text that is not shown.
   /// @param tab of the tab strip, which tab it is for.
   /// @return none where the widget shows nothing of the kind.
   std::optional<views::TextRoom> RoomOf(const Widget& widget, const Text& text, int tab) const {

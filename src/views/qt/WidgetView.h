@@ -48,6 +48,7 @@ class WidgetView {
   /// The greatest letters in which the widget's caption fits, none where it is cut.
   std::optional<views::Letters> NeededLetters() const;
   /// How another text would lie in the widget, in the place of its caption or as one of its entries.
+  /// @param text that is not shown.
   /// @param tab of a tab strip, which tab it is for.
   /// @return none where the widget shows nothing of the kind.
   virtual std::optional<views::TextRoom> RoomOf(TextView text, int tab) const;
