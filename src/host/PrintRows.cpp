@@ -95,8 +95,8 @@ Printout PrintoutOf(const Snapshot& readBack) {
   std::move(end, printout.characteristics.end(), std::back_inserter(printout.hidden));
   printout.characteristics.erase(end, printout.characteristics.end());
   for (Owner& owner : printout.hidden) {
-    owner.hidden.insert(owner.hidden.begin(), owner.printed.begin(), owner.printed.end());
-    owner.printed.clear();
+    owner.printed.insert(owner.printed.end(), owner.hidden.begin(), owner.hidden.end());
+    owner.hidden = std::move(owner.printed);
   }
   return printout;
 }
