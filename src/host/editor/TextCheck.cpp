@@ -206,6 +206,12 @@ class Checker {
 
 }  // namespace
 
+std::unique_ptr<ORXQueryPrnProp> ControlWith(const MemoryTableRef& texts, const Platform& platform) {
+  auto control = std::make_unique<ORXQueryPrnProp>(platform);
+  control->ORXControlTexts(texts);
+  return control;
+}
+
 std::vector<TextFinding> FindingsOf(const MemoryTableRef& texts, const MeasureTexts& measure) {
   return Checker(texts, measure).Check();
 }

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "control/ORXQueryPrnProp.h"
 #include "dialog/DialogTexts.h"
 #include "host/SettingsDocument.h"
 #include "views/Fitting.h"
@@ -24,6 +26,9 @@ struct TextRooms {
 };
 /// Shows the dialog with a text table where nobody sees it, and measures texts in it.
 using MeasureTexts = std::function<TextRooms(const MemoryTableRef& texts, const std::vector<ShownText>& shown)>;
+
+/// A control that shows the text table, and no settings. @throws RunTimeError from the table
+std::unique_ptr<ORXQueryPrnProp> ControlWith(const MemoryTableRef& texts, const Platform& platform);
 
 struct TextFinding {
   enum class Kind {
