@@ -53,8 +53,9 @@ void TellRepeated(const std::vector<std::string>& repeated, std::ostream& err) {
 }  // namespace
 
 int Check(const CheckOptions& options, std::ostream& out, std::ostream& err) {
-  const auto [names, repeated] = FindDocuments(options.names);
-  TellRepeated(repeated, err);
+  const DocumentNames found = FindDocuments(options.names);
+  const std::vector<DocumentName>& names = found.names;
+  TellRepeated(found.repeated, err);
 
   const auto check = [&](std::size_t number) {
     const DocumentName& name = names[number];
