@@ -36,7 +36,7 @@ TEST(InOrder, GoesAheadOfASlowOneOnlySoFar) {
 }
 
 TEST(InOrder, HandsAFailureOnInItsTurn) {
-  for (const std::size_t threads : {1, 4}) {
+  for (const std::size_t threads : {std::size_t{1}, std::size_t{4}}) {
     for (const bool isAtWork : {true, false}) {
       std::vector<std::size_t> taken;
       const auto failAt5 = [](bool isThis, std::size_t number) {
