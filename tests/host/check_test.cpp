@@ -1,4 +1,4 @@
-// What a transcript of the program can't show of a check of many documents.
+// What a transcript of the program can't show of a check of many documents, and of one of texts.
 
 #include <gtest/gtest.h>
 
@@ -12,6 +12,8 @@
 
 #include "host/InOrder.h"
 #include "host/ProgressLine.h"
+#include "host/Utf8.h"
+#include "host/editor/TextCheck.h"
 
 namespace ORXKMPrintProp::host {
 namespace {
@@ -70,6 +72,27 @@ TEST(ProgressLine, MakesRoomForWhatIsPrinted) {
     ProgressLine(&terminal, std::chrono::hours(1)).Show("too soon");
   }
   EXPECT_EQ(terminal.str(), "10 of 10\r        \r1 of 1\r      \rdone\nlast\r    \r");
+}
+
+TEST(TextCheck, TellsOfAllWidgetsTheOneThatLacksMost) {
+  const SettingsDocument document = ParseSettings(
+      R"({"texts":[{"TARGETID":"ID_PRN_COLALIGN1","CAPTION":"L"},{"TARGETID":"ID_PRN_USECOLORS","CAPTION":"C"}]})", "");
+  const auto measure = [](const MemoryTableRef&, const std::vector<ShownText>& shown) {
+    TextRooms rooms{.rooms = {}, .dpi = 120};
+    for (const auto& [place, text] : shown) {
+      const TextView name = place.widget.name;
+      const int needed = name == u"cmbAttrColAlign1" || name == u"cmbCharColAlign1" ? 12
+                         : name == u"cmbCharColAlign2"                              ? 15
+                                                                                    : 10;
+      rooms.rooms.push_back(name == u"cmbStrColAlign" ? std::nullopt : std::optional(views::TextRoom{needed, 10}));
+    }
+    return rooms;
+  };
+  std::string told;
+  for (const TextFinding& finding : FindingsOf(document.texts, measure)) {
+    if (finding.measured) told += ToUtf8(finding.key + u" " + finding.measured->widget + u": " + finding.words) + "\n";
+  }
+  EXPECT_EQ(told, "ID_PRN_COLALIGN1 cmbCharColAlign2: \"L\" needs 15 of 10 pixels at 120 dpi\n");
 }
 
 }  // namespace
