@@ -1,5 +1,6 @@
 # Gives what is packed for Debian the form that it has there: in a folder of the package's name the documentation, the
-# copyright and both changelogs; manual pages and changelogs are compressed, and nothing in binaries tells how they were built. Run by cpack.
+# copyright and both changelogs; manual pages and changelogs are compressed, and nothing in binaries tells how they were
+# built. Run by cpack.
 
 # Debian's changelog has an entry for each version of ours.
 file(STRINGS ${CPACK_PRNPROP_CHANGELOG} headings REGEX "^## .*[0-9]+-[0-9]+-[0-9]+$")

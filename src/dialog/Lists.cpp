@@ -136,7 +136,10 @@ Refusal ComboBox::UserPick(std::int16_t index) {
 bool ListBox::Selected(std::int16_t index) const { return At(index).selected; }
 
 void ListBox::Selected(std::int16_t index, bool selected) {
-  if (At(index).selected == selected) return;
+  if (At(index).selected != selected) Select(index, selected);
+}
+
+void ListBox::Select(std::int16_t index, bool selected) {
   if (IsMulti()) {
     Mark(index, selected);
   } else {
@@ -155,13 +158,7 @@ Refusal ListBox::UserMouseDown(std::int16_t entry, std::int16_t button) {
   if (button == kLeftButton) held_ = true;
   Place(entry);
   Raise(MouseDown, button);
-  if (button != kLeftButton || !held_ || !Has(entry)) return Refusal::None;
-  if (IsMulti()) {
-    Mark(entry, !Selected(entry));
-  } else {
-    SelectOnly(entry);
-  }
-  Raise(Click);
+  if (button == kLeftButton && held_ && Has(entry)) Select(entry, !IsMulti() || !Selected(entry));
   return Refusal::None;
 }
 

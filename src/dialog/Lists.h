@@ -140,6 +140,7 @@ class ListBox : public EntryWidget {
 
  private:
   bool IsMulti() const { return Row().multiSelect; }
+  void Select(std::int16_t index, bool selected);
   void Mark(std::int16_t index, bool selected);
   void SelectOnly(std::int16_t index);
   Refusal RefusesEntry(std::int16_t entry) const;

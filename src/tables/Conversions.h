@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <optional>
+#include <utility>
+#include <variant>
 
 #include "tables/Variant.h"
 
@@ -12,6 +14,7 @@
 
 namespace ORXKMPrintProp {
 
+/// What `ToText` gives for a value that is not a text.
 Text TextOfOther(const Variant& value);
 
 /// The value as a text: a text unchanged, blanks included; a number in decimal digits, a double in as few as give
