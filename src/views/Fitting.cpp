@@ -10,7 +10,14 @@ namespace ORXKMPrintProp::views {
 namespace {
 
 constexpr int kStep = 5;
+constexpr int kNarrower = (Letters().width - kSmallestLetters.width) / kStep;         ///< steps that make narrower
+constexpr int kSteps = kNarrower + (Letters().size - kSmallestLetters.size) / kStep;  ///< and those that make smaller
 constexpr char16_t kEllipsis = u'\u2026';
+
+Letters LettersAfter(int steps) {
+  return {.size = Letters().size - kStep * std::max(steps - kNarrower, 0),
+          .width = Letters().width - kStep * std::min(steps, kNarrower)};
+}
 
 bool IsLowSurrogate(char16_t c) { return c >= 0xDC00 && c < 0xE000; }
 
@@ -29,11 +36,16 @@ Text Cut(TextView text, int width, const Measure& measure) {
 }  // namespace
 
 std::optional<Letters> FittingLetters(const std::function<bool(const Letters& letters)>& fits) {
-  for (Letters letters; letters >= kSmallestLetters;
-       (letters.width > kSmallestLetters.width ? letters.width : letters.size) -= kStep) {
-    if (fits(letters)) return letters;
+  if (fits(Letters())) return Letters();
+  // By halves, since each kind of letters may be a font to be loaded.
+  int tooWide = 0;
+  int fitting = kSteps + 1;
+  while (tooWide + 1 < fitting) {
+    const int middle = tooWide + (fitting - tooWide) / 2;
+    (fits(LettersAfter(middle)) ? fitting : tooWide) = middle;
   }
-  return {};
+  if (fitting > kSteps) return {};
+  return LettersAfter(fitting);
 }
 
 FittedText Fit(TextView text, int width, const Measure& measure, const Letters& most) {

@@ -34,7 +34,8 @@ struct TextRoom {
 /// The width of a text in pixels.
 using Measure = std::function<int(TextView text, const Letters& letters)>;
 
-/// The greatest letters in which something fits; none where the smallest do not do.
+/// The greatest letters in which something fits; none where the smallest do not do. What fits in some is taken to fit in
+/// smaller ones.
 std::optional<Letters> FittingLetters(const std::function<bool(const Letters& letters)>& fits);
 
 /// What is shown of a text.
