@@ -25,7 +25,7 @@ template <class Class>
 struct ColumnOf {
   TextView name;
   CellKind kind;
-  void (*read)(Class&, Variant&& cell);
+  void (*read)(Class&, Variant& cell);
   Variant (*write)(const Class&);
 };
 
@@ -37,7 +37,7 @@ using ColumnsOf = std::span<const ColumnOf<Class>>;
 /// Any text.
 struct TextCell {
   static constexpr CellKind kKind = CellKind::Text;
-  static Text Read(Variant&& cell) { return ToText(std::move(cell)); }
+  static TextView Read(Variant& cell) { return AsText(cell); }
   static Variant Write(Text value) { return value; }
 };
 
@@ -51,7 +51,7 @@ struct IntegerCell {
 /// Tolerates anything behind the number, and is written as a text.
 struct LeadingNumberCell {
   static constexpr CellKind kKind = CellKind::LeadingNumber;
-  static std::int16_t Read(Variant&& cell) { return LeadingNumber(ToText(std::move(cell))); }
+  static std::int16_t Read(Variant& cell) { return LeadingNumber(AsText(cell)); }
   static Variant Write(std::int16_t value) { return ToText(std::int32_t{value}); }
 };
 
@@ -59,7 +59,7 @@ struct LeadingNumberCell {
 template <auto Decode, auto Encode>
 struct CodeCell {
   static constexpr CellKind kKind = CellKind::Code;
-  static auto Read(Variant&& cell) { return Decode(ToText(std::move(cell))); }
+  static auto Read(Variant& cell) { return Decode(AsText(cell)); }
   template <class Value>
   static Variant Write(Value value) {
     return Encode(value);
@@ -78,7 +78,7 @@ using NoSumsCell = CodeCell<ModPrnGen::NoSumsFromCell, ModPrnGen::NoSumsToCell>;
 /// On the axis is the opposite of hidden.
 struct HiddenAsAxisCell {
   static constexpr CellKind kKind = CellKind::Code;
-  static bool Read(Variant&& cell) { return !ModPrnGen::AxisFromCell(ToText(std::move(cell))); }
+  static bool Read(Variant& cell) { return !ModPrnGen::AxisFromCell(AsText(cell)); }
   static Variant Write(bool hidden) { return ModPrnGen::AxisToCell(!hidden); }
 };
 
@@ -87,7 +87,7 @@ template <class Class, auto Member, class Cell>
 constexpr ColumnOf<Class> PropertyColumn(TextView name, Direction direction = Direction::Both) {
   ColumnOf<Class> column{name, Cell::kKind, nullptr, nullptr};
   if (direction != Direction::WriteOnly) {
-    column.read = [](Class& object, Variant&& cell) { (object.*Member)(Cell::Read(std::move(cell))); };
+    column.read = [](Class& object, Variant& cell) { (object.*Member)(Cell::Read(cell)); };
   }
   if (direction != Direction::ReadOnly) {
     column.write = [](const Class& object) { return Cell::Write((object.*Member)()); };
@@ -119,7 +119,7 @@ void ReadRow(ColumnsOf<Class> columns, TextView tableName, const Row& row, Class
     if (!column.read) continue;
     Variant cell = CellOf(row, column.name);
     try {
-      column.read(object, std::move(cell));
+      column.read(object, cell);
     } catch (const RunTimeError& error) {
       throw RunTimeError(error.Kind(), Text(tableName) + u", row " + ToText(row.RowNumber()) + u", column " +
                                            Text(column.name) + u": " + error.Message());

@@ -25,16 +25,16 @@ Text OwnerOf(const Row& row) { return ToText(CellOf(row, kOwner)); }
 /// Enters the first row of every run.
 void FillIndex(AttrRowIndex& index, Table& it_atr) {
   const std::int16_t last = ToInteger16(RowCountOf(it_atr));
+  index.Reserve(static_cast<std::size_t>(last));
   Text current;
   for (std::int32_t number = 1; number <= last; ++number) {
     Text name = OwnerOf(*RowAt(it_atr, number));
     if (number > 1 && name == current) continue;
-    if (index.Find(name)) {
+    if (!index.TryAdd(static_cast<std::int16_t>(number), name)) {
       throw RunTimeError(ErrorKind::KeyExists, u"The rows of \"" + name +
                                                    u"\" do not stand together: a second run begins in row " +
                                                    ToText(number) + u" of " + Text(kTableName) + u".");
     }
-    index.Add(static_cast<std::int16_t>(number), name);
     current = std::move(name);
   }
 }

@@ -35,7 +35,7 @@ void AttrPage::ResetPage() {
 void AttrPage::ShowPage() {
   cmbAttrChar.Clear();
   const auto& characteristics = state_.Characteristics();
-  for (const std::int32_t number : ModPrnGen::PrintedOncePerPosition(characteristics)) {
+  for (const auto& [position, number] : ModPrnGen::PrintedOncePerPosition(characteristics)) {
     ModPrnGen::AppendItem(cmbAttrChar, characteristics.Item(number)->Text(), number);
   }
   if (cmbAttrChar.ListCount() == 0) return;

@@ -69,12 +69,12 @@ void BreakSelectors::FillBreakCombos() {
   auto offered = ModPrnGen::PrintedOncePerPosition(characteristics);
   // The last one is offered by none. Where a flag says it, there is nothing below it either.
   if (!offered.empty()) {
-    const auto last = std::find(saved.begin(), saved.end(), offered.back());
+    const auto last = std::find(saved.begin(), saved.end(), offered.back().second);
     std::fill(last, saved.end(), kNoBreak);
     offered.pop_back();
   }
   for (const Selector& selector : selectors_) {
-    for (const std::int32_t item : offered) {
+    for (const auto& [position, item] : offered) {
       ModPrnGen::AppendItem(selector.combo, characteristics.Item(item)->Text(), item);
     }
   }

@@ -84,7 +84,7 @@ void ListPage::FillLists() {
     ++number;
     if (item->Hidden()) ModPrnGen::AppendItem(lstAvail, item->Text(), number);
   }
-  for (const std::int32_t printed : ModPrnGen::PrintedByPosition(items)) {
+  for (const auto& [position, printed] : ModPrnGen::PrintedByPosition(items)) {
     ModPrnGen::AppendItem(lstPrint, items.Item(printed)->Text(), printed);
   }
 }

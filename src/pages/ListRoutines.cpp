@@ -43,9 +43,9 @@ void PositionInserter::Insert(const Text& text, std::int32_t item) {
   combo_.ItemData(index, item);
 }
 
-void AppendItem(EntryWidget& widget, const Text& text, std::int32_t item) {
+void AppendItem(EntryWidget& widget, Text text, std::int32_t item) {
   const std::int16_t index = widget.ListCount();
-  widget.AddItem(text, index);
+  widget.AddItem(std::move(text), index);
   widget.ItemData(index, item);
 }
 

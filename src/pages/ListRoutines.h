@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <functional>
+#include <utility>
 #include <vector>
 
 #include "dialog/Lists.h"
@@ -41,33 +42,32 @@ class PositionInserter {
 };
 
 /// Appends an entry for the item; for a number of 0 or less it stands for none.
-void AppendItem(EntryWidget& widget, const Text& text, std::int32_t item);
+void AppendItem(EntryWidget& widget, Text text, std::int32_t item);
 
-/// The numbers of the printed items, by position and then by number. Entries that are inserted in this order end up
-/// where those in the order of the collection would, and each at the end of its list.
+/// A printed item: its position, then its number.
+using Printed = std::pair<std::int16_t, std::int32_t>;
+
+/// The printed items, by position and then by number. Entries that are inserted in this order end up where those in the
+/// order of the collection would, and each at the end of its list.
 template <class Items>
-std::vector<std::int32_t> PrintedByPosition(const Items& items) {
-  std::vector<std::int32_t> numbers;
+std::vector<Printed> PrintedByPosition(const Items& items) {
+  std::vector<Printed> printed;
   std::int32_t number = 0;
   for (const auto& item : items) {
     ++number;
-    if (!item->Hidden()) numbers.push_back(number);
+    if (!item->Hidden()) printed.emplace_back(item->Position(), number);
   }
-  std::stable_sort(numbers.begin(), numbers.end(), [&](std::int32_t a, std::int32_t b) {
-    return items.Item(a)->Position() < items.Item(b)->Position();
-  });
-  return numbers;
+  std::sort(printed.begin(), printed.end());
+  return printed;
 }
 
 /// The same with each position once, as combo boxes take them.
 template <class Items>
-std::vector<std::int32_t> PrintedOncePerPosition(const Items& items) {
-  auto numbers = PrintedByPosition(items);
-  const auto isSame = [&](std::int32_t a, std::int32_t b) {
-    return items.Item(a)->Position() == items.Item(b)->Position();
-  };
-  numbers.erase(std::unique(numbers.begin(), numbers.end(), isSame), numbers.end());
-  return numbers;
+std::vector<Printed> PrintedOncePerPosition(const Items& items) {
+  auto printed = PrintedByPosition(items);
+  const auto isSame = [](const Printed& a, const Printed& b) { return a.first == b.first; };
+  printed.erase(std::unique(printed.begin(), printed.end(), isSame), printed.end());
+  return printed;
 }
 
 inline std::int16_t BoolToCheck(bool Value) { return Value ? 1 : 0; }

@@ -20,11 +20,24 @@ class Collection {
   /// Appends; the new item's number is the new `Count`.
   /// @throws RunTimeError (KeyExists) when the key is there already; nothing is changed then.
   void Add(T item, std::optional<Text> key = {}) {
-    if (key) {
-      const bool isNew = numbers_.try_emplace(*key, items_.size()).second;
-      if (!isNew) throw RunTimeError(ErrorKind::KeyExists, u"The key \"" + *key + u"\" is there already.");
+    if (!key) {
+      items_.push_back(std::move(item));
+    } else if (!TryAdd(std::move(item), *key)) {
+      throw RunTimeError(ErrorKind::KeyExists, u"The key \"" + *key + u"\" is there already.");
     }
+  }
+
+  /// Appends unless the key is there already. @return whether it was not.
+  bool TryAdd(T item, const Text& key) {
+    if (!numbers_.try_emplace(key, items_.size()).second) return false;
     items_.push_back(std::move(item));
+    return true;
+  }
+
+  /// Makes room for as many items with keys.
+  void Reserve(std::size_t count) {
+    items_.reserve(count);
+    numbers_.reserve(count);
   }
 
   std::int32_t Count() const { return static_cast<std::int32_t>(items_.size()); }

@@ -25,6 +25,12 @@ inline Text ToText(Variant&& value) {
   return text ? std::move(*text) : TextOfOther(value);
 }
 
+/// The same where it stands: a value that is not a text becomes one.
+inline const Text& AsText(Variant& value) {
+  if (!std::holds_alternative<Text>(value)) value = TextOfOther(value);
+  return *std::get_if<Text>(&value);
+}
+
 /// What stands for the object where a text or a number is wanted. @throws RunTimeError (Type), also for none.
 Variant PlainValueOf(const ObjectRef& object, Object::Wanted wanted);
 

@@ -1,5 +1,7 @@
 #include "tables/MemoryTable.h"
 
+#include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstring>
 #include <optional>
@@ -104,17 +106,18 @@ class MemoryRow final : public Row {
   std::int32_t number_;
 };
 
-/// Some rows with their cells in one piece of memory; a reference to a row holds its block.
+/// Some rows with their cells in one piece of memory; a reference to a row holds its block. The first block of a table
+/// has `kFewest` rows, each further one as many as there are ahead of it. Rows and blocks are counted from 0.
 class MemoryBlock {
  public:
-  static constexpr std::size_t kRows = 16;
+  static std::size_t BlockOf(std::size_t row) { return std::bit_width(row / kFewest); }
+  /// With which row its block begins.
+  static std::size_t FirstRowBefore(std::size_t row) { return row < kFewest ? 0 : std::bit_floor(row); }
 
-  explicit MemoryBlock(std::shared_ptr<const MemoryColumns> columns)
-      : columns_(std::move(columns)), cells_(kRows * columns_->Names().size()) {
-    rows_.reserve(kRows);
+  MemoryBlock(std::shared_ptr<const MemoryColumns> columns, std::size_t firstRow)
+      : columns_(std::move(columns)), cells_(std::max(firstRow, kFewest) * columns_->Names().size()) {
+    rows_.reserve(std::max(firstRow, kFewest));
   }
-
-  bool IsFull() const { return rows_.size() == kRows; }
 
   void Add(std::int32_t number) {
     const std::size_t width = columns_->Names().size();
@@ -124,6 +127,8 @@ class MemoryBlock {
   std::vector<MemoryRow>& Rows() { return rows_; }
 
  private:
+  static constexpr std::size_t kFewest = 16;
+
   std::shared_ptr<const MemoryColumns> columns_;
   std::vector<MemoryCell> cells_;
   std::vector<MemoryRow> rows_;
@@ -189,7 +194,9 @@ ColumnRef MemoryTable::Columns(TextView name) {
 }
 
 RowRef MemoryTable::Add() {
-  if (blocks_.empty() || blocks_.back()->IsFull()) blocks_.push_back(std::make_shared<MemoryBlock>(columns_));
+  if (MemoryBlock::BlockOf(rowCount_) == blocks_.size()) {
+    blocks_.push_back(std::make_shared<MemoryBlock>(columns_, rowCount_));
+  }
   blocks_.back()->Add(RowCount() + 1);
   return RowAt(rowCount_++);
 }
@@ -200,8 +207,8 @@ void MemoryTable::RemoveAll() {
 }
 
 RowRef MemoryTable::RowAt(std::size_t place) const {
-  const auto& block = blocks_[place / MemoryBlock::kRows];
-  return {block, &block->Rows()[place % MemoryBlock::kRows]};
+  const auto& block = blocks_[MemoryBlock::BlockOf(place)];
+  return {block, &block->Rows()[place - MemoryBlock::FirstRowBefore(place)]};
 }
 
 RowRef MemoryTable::Item(const Text& key) {
