@@ -84,7 +84,7 @@ class Protected {
 ///
 ///     open, open read-only, open for FILE, open protected (the file can't be written), open new (no file)
 ///     new, load FILE, load (the file that is named), recent FILE, title
-///     save, save as, accept, close, refresh, undo, redo, revert
+///     save, save as, close, refresh, undo, redo, revert
 ///     answer Discard, answer ShowDifferences Reload (to the next questions), name FILE (in the next dialog of files)
 ///     put OLD -> NEW (somebody else does, in the row of REGION), copy FILE (of the tests), remove (the file)
 ///     show FILE, look WIDGET WIDGET (and so on, what they hold)
@@ -122,9 +122,9 @@ class EditorPlayer : public Player, public EditorWindow {
     EXPECT_TRUE(std::ranges::count(question.choices, answer) == 1);
     return answer;
   }
-  std::optional<Text> EditLayout(const Text&, const Text& layout, bool) override {
+  std::optional<Text> EditLayout(const Text&, const Text& layout, bool readOnly) override {
     Tell("layout: '" + ToAscii(layout) + "'");
-    return u"<head>";
+    return readOnly ? std::nullopt : std::optional<Text>(u"<head>");
   }
   std::optional<std::string> PickFile(FileUse, const std::string& proposed) override {
     TellAll("proposed: " + proposed);
@@ -163,7 +163,6 @@ void EditorPlayer::DoStep(const std::string& line) {
       {"recent", [&] { answer(editor_->OpenRecent(Path(rest))); }},
       {"title", [&] { Tell(editor_->Title("*")); }},
       {"save", [&] { answer(rest == "as" ? editor_->SaveAs() : editor_->Save()); }},
-      {"accept", [&] { answer(editor_->Accept()); }},
       {"close", [&] { answer(editor_->MayClose()); }},
       {"refresh", [&] { answer(editor_->Read()); }},
       {"undo", [&] { editor_->Undo(); }},

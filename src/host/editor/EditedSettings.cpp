@@ -66,8 +66,8 @@ void EditedSettings::Take(SettingsDocument document, bool readOnly) {
   losses_ = std::move(losses);
   try {
     Load();
-    now_ = {};
-    SetLayouts(std::make_shared<Layouts>(LayoutsIn(file_)));
+    now_ = {.tables = nullptr, .layouts = std::make_shared<Layouts>(LayoutsIn(file_))};
+    HandBack(*now_.layouts, control_);
     control_.ORXSetReadOnly(readOnly);
     Read();
   } catch (const RunTimeError& error) {
@@ -137,14 +137,10 @@ Text EditedSettings::LayoutOf(const LayoutKey& key) const {
 }
 
 void EditedSettings::SetLayout(const LayoutKey& key, const Text& layout) {
+  control_.ORXSetPrintLayout(layout, key.buttonId, key.characteristic);
   const auto layouts = std::make_shared<Layouts>(*now_.layouts);
   (*layouts)[key] = layout;
-  SetLayouts(layouts);
-}
-
-void EditedSettings::SetLayouts(const std::shared_ptr<const Layouts>& layouts) {
-  const auto former = std::exchange(now_.layouts, layouts);
-  HandBack(*layouts, control_, former ? *former : Layouts());
+  now_.layouts = layouts;
 }
 
 void EditedSettings::CheckRestorable(const Snapshot& readBack) {
@@ -170,8 +166,8 @@ void EditedSettings::Restore(const HostSettings& settings) {
   copy.schema = document_.schema;
   document_ = std::move(copy);
   Load();
-  now_ = {.tables = settings.tables, .layouts = nullptr};
-  SetLayouts(settings.layouts);
+  now_ = settings;
+  HandBack(*now_.layouts, control_);
   FindChange();
 }
 

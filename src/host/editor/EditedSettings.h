@@ -84,8 +84,6 @@ class EditedSettings {
   /// The layout that the host knows, empty when there is none.
   Text LayoutOf(const LayoutKey& key) const;
   void SetLayout(const LayoutKey& key, const Text& layout);
-  /// Hands in those that are others now.
-  void SetLayouts(const std::shared_ptr<const Layouts>& layouts);
 
   /// Whether `Restore` would bring back all of these tables. @throws RunTimeError when not; nothing is changed.
   static void CheckRestorable(const Snapshot& readBack);

@@ -220,8 +220,6 @@ bool Editor::GoTo(const Moment& moment) {
     // Ahead of the load: the page that is left is stored.
     dialog.TabStrip().UserPick(moment.page->page);
     settings_.Restore(moment.host);
-  } else {
-    settings_.SetLayouts(moment.host.layouts);
   }
   ShowAgain(*moment.page, loads);
   PageContent content = ContentOf(dialog);
@@ -318,8 +316,6 @@ std::string Editor::ProtectionNote() const {
   const std::string& why = settings_.Protection();
   return why.empty() ? "" : Translated("Opened read-only, since it could not be saved.") + " " + why;
 }
-
-bool Editor::Accept() { return isDone_ = Save(); }
 
 bool Editor::Save() {
   message_.clear();
@@ -474,7 +470,7 @@ void Editor::TellChanges(Question& question) const {
 }
 
 bool Editor::MayClose() {
-  if (isDone_ || (Read() && !settings_.IsChanged())) return true;
+  if (Read() && !settings_.IsChanged()) return true;
   Question question{.kind = Question::Kind::Question,
                     .text = Translated("The settings have changed."),
                     .further = settings_.Target().empty()
@@ -499,7 +495,7 @@ void Editor::ORXPrintLayoutGet(std::int16_t ButtonID, const Text& CharIObjName) 
   Text name = button.Caption();
   if (!CharIObjName.empty()) name += u" " + CharIObjName;
   const auto layout = window_.EditLayout(name, settings_.LayoutOf(key), settings_.IsReadOnly());
-  if (!layout || settings_.IsReadOnly()) return;
+  if (!layout) return;
   BeginStep(&button, ToUtf8(button.Caption()));
   settings_.SetLayout(key, *layout);
   EndStep(*now_.page);

@@ -115,8 +115,6 @@ class Editor : private ORXQueryPrnPropEvents {
   bool Save();
   /// The same in a file that the user names, which is the one that is edited from then on.
   bool SaveAs();
-  /// Like `Save`, and the window is to close when it is done.
-  bool Accept();
   /// Whether the window may close; may ask the user whether to save.
   bool MayClose();
 
@@ -172,7 +170,6 @@ class Editor : private ORXQueryPrnPropEvents {
   const Widget* typing_ = nullptr;        ///< the box in which a step may go on
   std::vector<std::int32_t> printOrder_;  ///< of the page on top, as the user has left it
   std::string remembered_;
-  bool isDone_ = false;
 };
 
 }  // namespace ORXKMPrintProp::host

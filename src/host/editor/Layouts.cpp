@@ -41,17 +41,8 @@ std::set<std::int32_t> RowsWithLayout(const Snapshot& file) {
   return numbers;
 }
 
-void HandBack(const Layouts& layouts, ORXQueryPrnProp& control, const Layouts& former) {
-  const auto hand = [&](const LayoutKey& key, const Text& layout) {
-    control.ORXSetPrintLayout(layout, key.buttonId, key.characteristic);
-  };
-  for (const auto& [key, layout] : layouts) {
-    const auto there = former.find(key);
-    if (there == former.end() || there->second != layout) hand(key, layout);
-  }
-  for (const auto& [key, layout] : former) {
-    if (!layouts.contains(key)) hand(key, {});
-  }
+void HandBack(const Layouts& layouts, ORXQueryPrnProp& control) {
+  for (const auto& [key, layout] : layouts) control.ORXSetPrintLayout(layout, key.buttonId, key.characteristic);
 }
 
 }  // namespace ORXKMPrintProp::host

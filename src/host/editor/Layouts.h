@@ -28,7 +28,7 @@ Layouts LayoutsIn(const Snapshot& file);
 /// The rows of the dimension table, by number, whose layouts these are.
 std::set<std::int32_t> RowsWithLayout(const Snapshot& file);
 
-/// Hands the control those that are others than the former ones, which it has.
-void HandBack(const Layouts& layouts, ORXQueryPrnProp& control, const Layouts& former = {});
+/// Hands them to a control that has loaded the tables, and has none of its own.
+void HandBack(const Layouts& layouts, ORXQueryPrnProp& control);
 
 }  // namespace ORXKMPrintProp::host

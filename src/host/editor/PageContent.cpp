@@ -59,7 +59,7 @@ void Show(const PageContent::Field& field) {
     check->Value(field.number);
   } else {
     auto& box = dynamic_cast<TextBox&>(*field.widget);
-    if (box.GetText() != field.text) box.SetText(field.text);
+    box.SetText(field.text);
   }
 }
 
@@ -85,7 +85,7 @@ PageContent ContentOf(const Dialog& dialog) {
     PageContent::Field field{.widget = widget.get(), .text = {}};
     if (const auto* const box = dynamic_cast<const TextBox*>(widget.get())) {
       field.text = box->GetText();
-      if (box->Enabled() && !box->IsStorable()) field.kept = box->kept;
+      if (!box->IsStorable()) field.kept = box->kept;
     } else if (const auto* const check = dynamic_cast<const CheckBox*>(widget.get())) {
       field.number = check->Value();
     } else if (const auto* const combo = dynamic_cast<const ComboBox*>(widget.get())) {

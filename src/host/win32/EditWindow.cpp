@@ -313,7 +313,7 @@ void EditWindow::OnButton(int id) {
 }
 
 void EditWindow::Accept() {
-  if (editor_.Accept()) ::SendMessageW(window_, WM_CLOSE, 0, 0);
+  if (editor_.Save()) ::SendMessageW(window_, WM_CLOSE, 0, 0);
 }
 
 void EditWindow::ShowState(const EditorState& state) {

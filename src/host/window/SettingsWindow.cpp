@@ -291,7 +291,7 @@ bool SettingsWindow::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void SettingsWindow::Accept() {
-  if (editor_.Accept()) close();
+  if (editor_.Save()) close();
 }
 
 void SettingsWindow::closeEvent(QCloseEvent* event) {
