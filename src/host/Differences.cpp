@@ -191,10 +191,7 @@ Text Caption(TextView key) { return LookUp(key, DefaultOf(key)); }
 /// The caption within a line. A language that is not known keeps its capital.
 Text InnerCaption(TextView key) {
   Text caption = Caption(key);
-  const auto isIn = [&](std::size_t place, char16_t first, char16_t last) {
-    return place < caption.size() && first <= caption[place] && caption[place] <= last;
-  };
-  if (caption == DefaultOf(key) && isIn(0, u'A', u'Z') && isIn(1, u'a', u'z')) caption[0] += u'a' - u'A';
+  if (caption == DefaultOf(key)) caption[0] += u'a' - u'A';
   return caption;
 }
 
@@ -402,9 +399,7 @@ std::vector<Change<Item>> Comparison::ChangesOf(const Items<Item>& before, const
     change.from = change.before ? places[change.before] : 0;
     change.to = change.after ? places[change.after] : 0;
   }
-  const auto rank = [](const Change<Item>& change) {
-    return std::pair(change.to > 0 ? 0 : change.after ? 1 : 2, change.to);
-  };
+  const auto rank = [](const Change<Item>& change) { return std::pair(change.to == 0, change.to); };
   std::stable_sort(changes.begin(), changes.end(),
                    [&](const Change<Item>& a, const Change<Item>& b) { return rank(a) < rank(b); });
 
