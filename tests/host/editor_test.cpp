@@ -221,7 +221,8 @@ void EditorPlayer::Put(const std::string& change) {
 void EditorPlayer::Show(const std::string& file) {
   const SettingsDocument document = ReadSettings(Path(file));
   TellAll(BriefOf(Kind::General, *document.general) + BriefOf(Kind::Dimension, *document.dimension) +
-          BriefOf(Kind::Attribute, *document.attribute) + BriefOf(Kind::Member, *document.member));
+          BriefOf(Kind::Attribute, *document.attribute) + BriefOf(Kind::Member, *document.member) +
+          (document.schema ? "with a schema" : ""));
 }
 
 void EditorPlayer::Look(const std::string& widget) {
@@ -244,9 +245,11 @@ Player::Lines EditorPlayer::State() {
     const std::string path = entry.path().string();
     auto& [content, times] = contents_[path];
     if (ReadFile(path) != std::exchange(content, ReadFile(path))) ++times;
-    const std::string general = BriefOf(Kind::General, *ReadSettings(path).general);
-    lines[entry.path().filename().string()] =
-        "written " + std::to_string(times) + ", " + general.substr(0, general.find('\n'));
+    const SettingsDocument document = ReadSettings(path);
+    const std::string general = BriefOf(Kind::General, *document.general);
+    lines[entry.path().filename().string()] = "written " + std::to_string(times) + ", " +
+                                              general.substr(0, general.find('\n')) +
+                                              (document.texts ? ", with texts" : "");
   }
   return lines;
 }

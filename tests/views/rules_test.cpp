@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <map>
 #include <sstream>
 
 #include "host/Utf8.h"
@@ -48,11 +49,13 @@ std::string NameOf(const Letters& letters, bool isCut) {
 ///     spoken WIDGET, fit WIDTH TEXT, fit-tabs WIDTH (four of them, each wider by 100 than the one before)
 ///     caption WIDGET N (characters in a room of 1000, and the widgets whose letters are not full)
 ///     type LETTERS (in a combo box), wait (longer than letters that follow each other)
+///     key WIDGET KEY (of a list, of which three entries are seen, of the combo box, or of the tabs)
 ///     press BUTTON Y, move Y, release BUTTON (in a list of five entries, of which three are seen, each ten pixels
 ///     high) press BUTTON Y another, move Y another (button is held), move Y none (is held) timer, let-go, release (the
 ///     list has been disabled, and the release comes that was asked for), end (of the view)
 ///
-/// The state: "combo", "timer" and "release", whether one is asked for. Events have a button and the entry.
+/// The state: "combo", "keys", a list for keys, "timer" and "release", whether one is asked for. Events have a button
+/// and the entry.
 class RulesPlayer : public Player, private ListGlass {
  public:
   RulesPlayer();
@@ -60,8 +63,10 @@ class RulesPlayer : public Player, private ListGlass {
  protected:
   void DoStep(const std::string& line) override;
   Lines State() override {
-    return {
-        {"combo", StateOf(combo_)}, {"timer", isRunning_ ? "on" : "off"}, {"release", isAsked_ ? "asked for" : "no"}};
+    return {{"combo", StateOf(combo_)},
+            {"keys", StateOf(keysList_)},
+            {"timer", isRunning_ ? "on" : "off"},
+            {"release", isAsked_ ? "asked for" : "no"}};
   }
 
  private:
@@ -73,6 +78,7 @@ class RulesPlayer : public Player, private ListGlass {
   void Perform(const std::function<void()>& action) override { action(); }
 
   void Type(const Text& letters);
+  void Strike(Widget& widget, std::string key);
   void ChangeCaption(const std::string& name, std::size_t characters);
 
   Dialog dialog_;
@@ -82,6 +88,8 @@ class RulesPlayer : public Player, private ListGlass {
         return FittingLetters([&](const Letters& letters) { return WidthOf(widget.Caption(), letters) <= 1000; });
       }};
   ListBox& list_ = dialog_.Get<ListBox>(u"lstPrint", kStrTab);
+  ListBox& keysList_ = dialog_.Get<ListBox>(u"lstAvail", kStrTab);
+  ListKeys keys_;
   TypeAhead search_;
   TypeAhead::Clock::time_point now_;
   int top_ = 0;
@@ -96,7 +104,7 @@ RulesPlayer::RulesPlayer() : Player({}) {
   dialog_.Get<Label>(u"lblCharCol1").Caption(u"Key & more");
   Fill(combo_, "ab Ac b abc");
   combo_.ListIndex(0);
-  Fill(list_, "a b c d e");
+  for (ListBox* const list : {&list_, &keysList_}) Fill(*list, "a b c d e");
   const auto tell = [this](const char* event) {
     return [this, event](std::int16_t button) {
       Tell(event + std::to_string(button) + " at " + std::to_string(list_.ListIndex()));
@@ -139,7 +147,10 @@ void RulesPlayer::DoStep(const std::string& line) {
        }},
       {"caption", [&] { ChangeCaption(rest.substr(0, rest.find(' ')), std::stoul(rest.substr(rest.find(' ')))); }},
       {"type", [&] { Type(Wide(rest)); }},
-      {"wait", [&] { now_ += std::chrono::seconds(9); }},
+      {"wait", [&] { now_ += std::chrono::milliseconds(1001); }},
+      {"key",
+       [&] { Strike(*dialog_.FindSpelled(Wide(rest.substr(0, rest.find(' ')))), rest.substr(rest.find(' ') + 1)); }},
+      {"add", [&] { keysList_.AddItem(Wide(rest)); }},
       {"press", [&] { pointer_->Press(button, isAnother, y); }},
       {"move", [&] { pointer_->Move(!rest.ends_with("none"), isAnother, first); }},
       {"timer", [&] { pointer_->OnTimer(); }},
@@ -159,6 +170,27 @@ void RulesPlayer::Type(const Text& letters) {
     const auto found = search_.Find(combo_, Text(1, letter), now_);
     if (!found) Tell("none");
     if (found) combo_.ListIndex(*found);
+  }
+}
+
+void RulesPlayer::Strike(Widget& widget, std::string key) {
+  KeyPress press;
+  for (const auto& [head, isHeld] :
+       {std::pair(std::string("Alt+"), &KeyPress::alt), {"Ctrl+", &KeyPress::control}, {"Shift+", &KeyPress::shift}}) {
+    press.*isHeld = key.starts_with(head);
+    if (press.*isHeld) key.erase(0, head.size());
+  }
+  static const std::map<std::string, Key> keys{{"Up", Key::Up},           {"Down", Key::Down},   {"End", Key::End},
+                                               {"PgDown", Key::PageDown}, {"Right", Key::Right}, {"A", Key::A}};
+  press.key = keys.contains(key) ? keys.at(key) : Key::Other;
+  if (press.key == Key::Other) press.text = key == "Escape" ? u"\x1b" : Wide(key);
+  if (auto* const list = dynamic_cast<ListBox*>(&widget)) {
+    const auto action = keys_.ActionOf(*list, press, 3);
+    action ? action() : Tell("not for it");
+  } else {
+    const bool isTaken = &widget == &combo_ ? PickOf(combo_, press, search_).has_value()
+                                            : TabOf(dialog_.TabStrip(), press, true).has_value();
+    Tell(isTaken ? "for it" : "not for it");
   }
 }
 

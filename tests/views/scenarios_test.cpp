@@ -212,9 +212,12 @@ TEST_F(ViewScenario, AHandlerMayEmptyTheListThatIsBeingSelected) {
 TEST_F(ViewScenario, ABoxShowsWhatItsFilterLeavesWithoutALimit) {
   Load("a", "0");
   auto& box = dialog.Get<TextBox>(u"txtGenMaxPages");
-  box.KeyPress = [](std::int16_t& key) { key = key == TextBox::kBackspace ? 0 : key == u'a' ? u'B' : key; };
-  stage.Play("keys txtGenMaxPages a; key txtGenMaxPages Backspace");
-  EXPECT_EQ(box.GetText(), u"0B");
+  std::int16_t back = u'C';
+  box.KeyPress = [&](std::int16_t& key) {
+    key = key == TextBox::kBackspace ? std::exchange(back, std::int16_t{0}) : key == u'a' ? u'B' : key;
+  };
+  stage.Play("keys txtGenMaxPages a; key txtGenMaxPages Backspace; key txtGenMaxPages Backspace");
+  EXPECT_EQ(box.GetText(), u"0BC");
 
   auto& title = dialog.Get<TextBox>(u"txtGenPrnTitle");
   const Text text = Text(40000, u'x') + u"&\u00fc\U0001F600";

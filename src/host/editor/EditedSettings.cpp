@@ -105,7 +105,7 @@ void EditedSettings::Read() {
   FindChange();
 }
 
-void EditedSettings::FindChange() { isChanged_ = saved_ && !IsReadOnly() && !IsSame(*now_.tables, *saved_); }
+void EditedSettings::FindChange() { isChanged_ = saved_ && !IsSame(*now_.tables, *saved_); }
 
 void EditedSettings::SetUnchanged() {
   saved_ = now_.tables;

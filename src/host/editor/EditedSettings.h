@@ -59,8 +59,7 @@ class EditedSettings {
 
   /// Reads the tables, which commits the page on top. @throws RunTimeError
   void Read();
-  /// Whether the last read gave something else than the last one that counts as unchanged. Nobody changes settings
-  /// that are read only.
+  /// Whether the last read gave something else than the last one that counts as unchanged.
   bool IsChanged() const { return isChanged_; }
   /// Takes what was read last as unchanged: so it is after a load, after a save, and where the user has done nothing
   /// but look, since a page that is committed gets its numbers and codes as the control writes them.

@@ -69,6 +69,9 @@ TEST_F(QtViewTest, TextThatIsComposedIsFilteredAndTextThatIsDroppedIsNot) {
   Load("a", kGeneralTab);
   auto& field = Glass<QLineEdit>(view, "txtGenMaxPages");
   const auto text = [&] { return ToAscii(dialog.Get<TextBox>(u"txtGenMaxPages").GetText()); };
+  QKeyEvent letter(QEvent::KeyPress, Qt::Key_X, {}, QStringLiteral("x"));
+  QApplication::sendEvent(&field, &letter);
+  EXPECT_TRUE(letter.isAccepted()) << "what is dropped is done with";
   field.clear();
   QInputMethodEvent commit;
   commit.setCommitString(QStringLiteral("4x2"));
@@ -87,18 +90,20 @@ TEST_F(QtViewTest, TextThatIsComposedIsFilteredAndTextThatIsDroppedIsNot) {
   EXPECT_EQ(text() + field.text().toStdString(), "42-z42-z");
 }
 
-TEST_F(QtViewTest, TheWheelPicksInAComboBoxThatHasTheFocusAlone) {
+TEST_F(QtViewTest, TheWheelPicksInAComboBoxThatHasTheFocusAloneAndNoPage) {
   Load("a", kGeneralTab);
   auto& combo = Glass(view, "cmbGenSignPrsnt");
   const auto turned = [&] {
-    QWheelEvent wheel({10, 10}, {10, 10}, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&combo, &wheel);
-    return StateOf(dialog.Get<ComboBox>(u"cmbGenSignPrsnt"));
+    for (QWidget* const widget : {&combo, static_cast<QWidget*>(view.findChild<QTabBar*>())}) {
+      QWheelEvent wheel({10, 10}, {10, 10}, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+      QApplication::sendEvent(widget, &wheel);
+    }
+    return StateOf(dialog.Get<ComboBox>(u"cmbGenSignPrsnt")) + " on " + StateOf(dialog.TabStrip());
   };
   Glass(view, "txtGenMaxPages").setFocus();
-  EXPECT_EQ(turned(), ">-X X- (X)");
+  EXPECT_EQ(turned(), ">-X X- (X) on 0");
   combo.setFocus();
-  EXPECT_EQ(turned(), "-X >X- (X)");
+  EXPECT_EQ(turned(), "-X >X- (X) on 0");
 }
 
 TEST_F(QtViewTest, ASlotThatFailsIsReported) {
@@ -130,6 +135,8 @@ TEST_F(QtViewTest, AnAssistiveProgramActsAsTheUser) {
   }
   dialog.Get<Label>(u"lblCharCol2").Caption(u"Key & more");
   EXPECT_EQ(Glass(view, "txtCharColWidth2").accessibleName(), QStringLiteral("Width, Key & more"));
+  dialog.Get<CommandButton>(u"cmdLeftToRight", kCharTab).ToolTipText(u"Prints it");
+  EXPECT_EQ(Glass(view, "cmdLeftToRight(1)").accessibleName(), QStringLiteral("Prints it"));
 }
 
 TEST_F(QtViewTest, TheFocusIsSeenOnTheTabsFromTheBeginningAndAfterAKeyOfThePages) {
@@ -190,6 +197,9 @@ TEST_F(QtViewTest, UndoStaysWithTheTextThatWasTyped) {
   QTest::keyClicks(&field, QStringLiteral("Region"));
   EXPECT_EQ(afterKeys("Ctrl+Z"), "");
   EXPECT_EQ(afterKeys("Ctrl+Y"), "Region");
+  field.setCursorPosition(2);
+  dialog.Get<TextBox>(u"txtCharColTitle").SetText(u"Region");
+  EXPECT_EQ(field.cursorPosition(), 2) << "where the user types";
   EXPECT_EQ(afterKeys("Ctrl+A, Del"), "");
   for (const int entry : {0, 1}) {
     auto& list = Glass<QListView>(view, "lstPrint(1)");
@@ -215,13 +225,15 @@ TEST_F(QtViewTest, AViewMayGoWhileItsMessageIsOpen) {
 TEST_F(QtViewTest, ASecondViewShowsWhatTheControlHoldsAlready) {
   Load("a b x-");
   QApplication::setLayoutDirection(Qt::RightToLeft);
+  dialog.MousePointer(Dialog::kDragPointer);
   PrnPropView second(dialog);
-  QApplication::setLayoutDirection(Qt::LeftToRight);
   const auto& shown = *second.findChild<QListView*>(QStringLiteral("lstPrint(1)"));
+  EXPECT_EQ(shown.layoutDirection(), Qt::LeftToRight) << "the layout is not mirrored";
+  EXPECT_EQ(shown.cursor().shape(), Qt::BitmapCursor);
+  QApplication::setLayoutDirection(Qt::LeftToRight);
   EXPECT_EQ(shown.model()->rowCount(), 2);
   EXPECT_EQ(second.findChild<QTabBar*>()->currentIndex(), 1);
   EXPECT_EQ(second.size(), QSize(645, 396));
-  EXPECT_EQ(shown.layoutDirection(), Qt::LeftToRight) << "the layout is not mirrored";
   dialog.Get<ListBox>(u"lstPrint", 1).AddItem(u"new");
   const QImage atOnce = second.grab().toImage();
   QApplication::processEvents();
@@ -350,6 +362,7 @@ TEST_F(QtViewTest, WhatDoesNotFitIsReadInTheTooltip) {
   auto& tabs = *view.findChild<QTabBar*>();
   for (std::int16_t tab = 0; tab < SSTab::kTabs; ++tab) dialog.TabStrip().TabCaption(tab, Text(60, u'w'));
   EXPECT_EQ(tabs.tabToolTip(3).size(), 60);
+  EXPECT_EQ(tabs.elideMode(), Qt::ElideRight);
   EXPECT_LE(tabs.tabRect(3).right(), tabs.width());
 }
 
