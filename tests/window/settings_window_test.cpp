@@ -404,6 +404,7 @@ TEST_F(SettingsWindowTest, ALayoutIsEditedAsPlainText) {
       EXPECT_EQ(text.toPlainText(), expected);
       text.selectAll();
       text.insertPlainText(typed);
+      QTest::keyClick(&text, Qt::Key_Tab);
       QTest::mouseClick(dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok), Qt::LeftButton);
     });
     Press("cmdPrintLayout(1)");
@@ -435,7 +436,7 @@ TEST_F(SettingsWindowTest, ALayoutIsEditedAsPlainText) {
   EXPECT_EQ(State(), "open modified apply");
   Press(QDialogButtonBox::Apply);
   EXPECT_EQ(std::get<Text>(ReadSettings(file).general->Rows(1)->Value(u"HEADER_LAYOUT")), u"<b>&head\u00a0\u00fc");
-  edit(QStringLiteral("<b>&head \u00fc"), QStringLiteral("a\nb"));
+  edit(QStringLiteral("<b>&head \u00fc"), QStringLiteral("a\u2028b"));
   answers.push_back(cancel);
   Press("cmdPrintLayout(1)");
   EXPECT_EQ(settings->LayoutOf({.buttonId = 1}), u"a\nb");
@@ -651,8 +652,21 @@ TEST_F(SettingsWindowTest, AnEntryIsFoundByAnyPartOfItsTextAndMovedByButtons) {
   EXPECT_EQ(state(), "find 3 Customer group up down") << "round and round";
   QTest::keyClicks(window->focusWidget(), QStringLiteral("x"));
   EXPECT_EQ(state(), "find 3 Customer group Not found up down");
+  key(Qt::Key_A, Qt::ControlModifier);
+  key(Qt::Key_Delete);
+  EXPECT_EQ(state(), "find 3 Customer group up down");
+  const QImage found = hasMark();
   key(Qt::Key_Escape);
   EXPECT_EQ(state(), "lstPrint(1) 3 Customer group up down");
+  Find<QLineEdit>("txtCharColTitle").setFocus();
+  EXPECT_NE(hasMark(), found) << "the list has the focus no more, nor is it searched";
+  key(Qt::Key_F3);
+  QTest::keyClicks(window->focusWidget(), QStringLiteral("x"));
+  key(Qt::Key_Escape);
+  key(Qt::Key_F3);
+  QTest::keyClicks(window->focusWidget(), QStringLiteral("CUS"));
+  EXPECT_EQ(state(), "find 3 Customer group up down") << "it opens for another text";
+  key(Qt::Key_Escape);
 
   for (int i = 0; i < 2; ++i) Press("up");
   EXPECT_EQ(state(), "lstPrint(1) 1 Customer group up down");

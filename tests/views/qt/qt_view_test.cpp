@@ -16,6 +16,7 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPointer>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -283,6 +284,28 @@ TEST_F(QtViewTest, EveryCaptionIsReadableInFull) {
   EXPECT_EQ(font.family(), QApplication::font().family());
   EXPECT_EQ(font.pointSizeF(), 8.25);
   EXPECT_EQ(font.weight(), QFont::Normal);
+}
+
+struct StyleOfLargeBoxes : QProxyStyle {
+  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
+    return metric == PM_IndicatorWidth ? 180 : QProxyStyle::pixelMetric(metric, option, widget);
+  }
+};
+
+TEST_F(QtViewTest, CaptionsAreFittedAnewInAnotherStyle) {
+  Load("a", kGeneralTab);
+  const auto fonts = [&] {
+    dialog.TabStrip().Tab(kCharTab);
+    dialog.TabStrip().Tab(kGeneralTab);
+    return std::pair(Glass(view, "chkGenUseColors").font(), Glass(view, "chkGenShowNoZeros").font());
+  };
+  const auto before = fonts();
+  QApplication::setStyle(new StyleOfLargeBoxes);
+  const auto with = fonts();
+  QApplication::setStyle(QStringLiteral("fusion"));
+  EXPECT_NE(with.first, before.first) << "as small as those that it stands with";
+  EXPECT_EQ(with.first, with.second);
+  EXPECT_EQ(fonts(), before);
 }
 
 /// How well a text inside a widget is told from its ground, away from edges, a box and an arrow.
