@@ -121,9 +121,6 @@ class QtHand : public ORXKMPrintProp::test::Hand {
   bool IsInSight(const Widget& widget, int entry) const override { return Contains(GlassOf<QListView>(widget), entry); }
   std::int16_t Pointer() const override {
     if (view_.cursor().shape() == Qt::ArrowCursor) return Dialog::kDefaultPointer;
-    for (const QWidget* const widget : view_.findChildren<QWidget*>()) {
-      if (widget->cursor().shape() != Qt::BitmapCursor) return -1;
-    }
     const bool isDrag = view_.cursor().hotSpot() == QPoint(MouseIcon().hotSpotX, MouseIcon().hotSpotY);
     return isDrag ? Dialog::kDragPointer : std::int16_t{-1};
   }
