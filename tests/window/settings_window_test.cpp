@@ -635,6 +635,7 @@ TEST_F(SettingsWindowTest, AnEntryIsFoundByAnyPartOfItsTextAndMovedByButtons) {
   Find<QLineEdit>("txtCharColTitle").setFocus();
   EXPECT_NE(hasMark(), found) << "the list has the focus no more, nor is it searched";
   key(Qt::Key_F3);
+  EXPECT_EQ(state(), "find 3 Customer group up down");
   QTest::keyClicks(window->focusWidget(), QStringLiteral("x"));
   key(Qt::Key_F, Qt::ControlModifier);
   QTest::keyClicks(window->focusWidget(), QStringLiteral("CUS"));
