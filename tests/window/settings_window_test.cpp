@@ -650,7 +650,7 @@ TEST_F(SettingsWindowTest, AnEntryIsFoundByAnyPartOfItsTextAndMovedByButtons) {
   key(Qt::Key_F3);
   EXPECT_EQ(state(), "find 3 Customer group up down") << "round and round";
   QTest::keyClicks(window->focusWidget(), QStringLiteral("x"));
-  EXPECT_EQ(state(), "find 3 Customer group Not found up down");
+  EXPECT_EQ(state(), "find 3 Customer group Not found in: Print characteristics up down");
   key(Qt::Key_Escape);
   EXPECT_EQ(state(), "lstPrint(1) 3 Customer group up down");
 
