@@ -1,11 +1,11 @@
 #include "host/window/FindField.h"
 
-#include <QAccessible>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
+#include "host/window/Spoken.h"
 #include "host/window/Translation.h"
 #include "views/Search.h"
 #include "views/qt/PrnPropView.h"
@@ -21,6 +21,7 @@ FindField::FindField(qt::PrnPropView& view, QWidget* over)
   text_->setAccessibleName(Tr("Find an entry"));
   text_->setPlaceholderText(Tr("Find an entry"));
   text_->setToolTip(Tr("Any part of its text; Enter or F3 for the next one, Escape for the list"));
+  SpeakAsNotification(*told_);
   told_->setObjectName(QStringLiteral("found"));
   auto* const column = new QVBoxLayout(this);
   column->setContentsMargins(3, 3, 3, 3);
@@ -51,16 +52,17 @@ void FindField::Find(views::SearchFrom from) {
   if (!list) return Tell(Tr("No list on this page"));
   const auto entry = views::FindEntry(*list, qt::ToText(text_->text()), from);
   if (entry && *entry != list->ListIndex()) view_.Perform(*list, [&] { list->UserMoveCaret(*entry); });
-  Tell(entry || text_->text().isEmpty() ? QString() : Tr("Not found"));
+  if (entry || text_->text().isEmpty()) return Tell({});
+  // There are two lists on a page.
+  const auto* const searched = view_.findChild<const QWidget*>(qt::ToQString(list->Row().name.Spelled()));
+  Tell(Tr("Not found in: {0}", searched->accessibleName()));
 }
 
 void FindField::Tell(const QString& words) {
   told_->setText(words);
   told_->setVisible(!words.isEmpty());
   Arrange();
-  if (words.isEmpty()) return;
-  QAccessibleEvent event(told_, QAccessible::Alert);
-  QAccessible::updateAccessibility(&event);
+  Speak(*told_);
 }
 
 void FindField::Arrange() {

@@ -28,7 +28,7 @@
 #include "host/window/OrderButtons.h"
 #include "host/window/Remembered.h"
 #include "host/window/SignButton.h"
-#include "host/window/SpokenWindow.h"
+#include "host/window/Spoken.h"
 #include "host/window/StatusLine.h"
 #include "host/window/Translation.h"
 #include "views/qt/PrnPropView.h"

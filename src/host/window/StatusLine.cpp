@@ -1,12 +1,14 @@
 #include "host/window/StatusLine.h"
 
-#include <QAccessible>
 #include <QPainter>
 #include <QStyle>
+
+#include "host/window/Spoken.h"
 
 namespace ORXKMPrintProp::host {
 
 StatusLine::StatusLine(QWidget* parent) : QLabel(parent) {
+  SpeakAsNotification(*this);
   setTextFormat(Qt::PlainText);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
@@ -15,9 +17,7 @@ void StatusLine::Say(const QString& text) {
   if (text == this->text()) return;
   setText(text);
   FitToolTip();
-  if (text.isEmpty()) return;
-  QAccessibleEvent alert(this, QAccessible::Alert);
-  QAccessible::updateAccessibility(&alert);
+  Speak(*this);
 }
 
 /// The window gets no wider for a message.

@@ -393,7 +393,7 @@
     </message>
     <message>
         <source>Enter</source>
-        <translation>Enter</translation>
+        <translation>Eingabe</translation>
     </message>
     <message>
         <source>saves and closes, as OK does</source>
@@ -401,7 +401,7 @@
     </message>
     <message>
         <source>Escape</source>
-        <translation>Escape</translation>
+        <translation>Esc</translation>
     </message>
     <message>
         <source>closes, as Cancel does</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Enter and F3</source>
-        <translation>Enter und F3</translation>
+        <translation>Eingabe und F3</translation>
     </message>
     <message>
         <source>find the next one</source>
@@ -669,15 +669,15 @@
     </message>
     <message>
         <source>Any part of its text; Enter or F3 for the next one, Escape for the list</source>
-        <translation>Beliebiger Teil seines Textes; Enter oder F3 für den nächsten, Escape für die Liste</translation>
+        <translation>Beliebiger Teil seines Textes; Eingabe oder F3 für den nächsten, Esc für die Liste</translation>
     </message>
     <message>
         <source>No list on this page</source>
         <translation>Keine Liste auf dieser Registerkarte</translation>
     </message>
     <message>
-        <source>Not found</source>
-        <translation>Nicht gefunden</translation>
+        <source>Not found in: {0}</source>
+        <translation>Nicht gefunden in: {0}</translation>
     </message>
     <message>
         <source>Keys</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Space and Enter</source>
-        <translation>Leertaste und Enter</translation>
+        <translation>Leertaste und Eingabe</translation>
     </message>
     <message>
         <source>press the button</source>
