@@ -177,6 +177,7 @@ void Editor::Undo() {
   const Step* const step = steps_.ToUndo();
   if (!step || !GoTo(step->before)) return;
   if (step->widget) window_.Focus(*step->widget);
+  message_ = {Filled(Translated("Undone: {0}"), {step->name})};
   steps_.Undone();
   ShowState();
 }
@@ -185,6 +186,7 @@ void Editor::Redo() {
   const Step* const step = steps_.ToRedo();
   if (!step || !GoTo(step->after)) return;
   if (step->widget) window_.Focus(*step->widget);
+  message_ = {Filled(Translated("Done again: {0}"), {step->name})};
   steps_.Redone();
   ShowState();
 }
@@ -201,6 +203,7 @@ void Editor::Revert() {
   target.notes.clear();
   if (!GoTo(target)) return;
   steps_.Add({.before = before, .after = now_, .name = Translated("Revert")});
+  message_ = {Translated("All is as it was saved")};
   ShowState();
 }
 
@@ -383,6 +386,7 @@ void Editor::Reload() {
   now_.readNumber = now_.number;
   steps_.Last().after = saved_ = now_;
   printOrder_ = PrintOrder(now_.page->page);
+  message_ = {Translated("Loaded again")};
   Show();
 }
 

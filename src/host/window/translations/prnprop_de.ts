@@ -1023,5 +1023,21 @@
         <source>, did you mean {0}?</source>
         <translation>, war {0} gemeint?</translation>
     </message>
+    <message>
+        <source>Undone: {0}</source>
+        <translation>Rückgängig gemacht: {0}</translation>
+    </message>
+    <message>
+        <source>Done again: {0}</source>
+        <translation>Wiederholt: {0}</translation>
+    </message>
+    <message>
+        <source>All is as it was saved</source>
+        <translation>Alles ist wieder wie gespeichert</translation>
+    </message>
+    <message>
+        <source>Loaded again</source>
+        <translation>Neu geladen</translation>
+    </message>
 </context>
 </TS>
